@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <QTextStream>
+
+namespace quarn::blocktext {
+
+/// What is left of a text stream as one string in memory, under a stream of its own with the default locale and number
+/// settings. A string stream is walked where it is, and its position follows; a device stream is read to its end. A
+/// text above 2^28 characters stays on its device where that can be rewound.
+class WholeText {
+public:
+    explicit WholeText(QTextStream& source);
+    ~WholeText();
+    WholeText(const WholeText&) = delete;
+    WholeText& operator=(const WholeText&) = delete;
+
+    QTextStream& stream() { return m_onDevice ? m_source : m_stream; }
+
+private:
+    QTextStream& m_source;
+    QString m_text;
+    QTextStream m_stream;
+    bool m_onDevice = false;
+};
+
+}  // namespace quarn::blocktext
