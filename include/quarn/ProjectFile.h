@@ -13,10 +13,13 @@ namespace quarn {
 
 class AmbientConditions;
 class BoundaryConditions;
+class ComponentManager;
 class DFTParameters;
 class PlaneWave;
+class StaticVoltageList;
 class TdAfsTerminationCriteria;
 class TerminationCriteria;
+class WaveGuidePortManager;
 class Waveform;
 
 /// The description of one simulation run.
@@ -25,8 +28,8 @@ class Waveform;
 /// destructor deletes nothing, several projects may point to one object, and whoever created an object deletes it.
 /// Callers who let a load create the objects can leave that to deleteContents().
 ///
-/// Copying: the copy constructor copies the objects too, save waveforms, which the copy shares; assignment copies the
-/// pointers, so that both projects share everything.
+/// Copying: the copy constructor copies the objects too, save waveforms, circuit components and waveguide ports, which
+/// the copy shares; assignment copies the pointers, so that both projects share everything.
 class QUARN_EXPORT ProjectFile {
 public:
     enum SteadyStateStorageMethod : std::int32_t { Memory = 0, HardDisk = 1 };
@@ -93,6 +96,18 @@ public:
     const AmbientConditions* getAmbientConditions() const { return m_ambientConditions; }
     void setAmbientConditions(AmbientConditions* conditions) { m_ambientConditions = conditions; }
 
+    /// A project without a component manager saves neither components nor static voltages.
+    const StaticVoltageList* getStaticVoltageList() const { return m_staticVoltageList; }
+    void setStaticVoltageList(StaticVoltageList* voltages) { m_staticVoltageList = voltages; }
+    const ComponentManager* getComponentManager() const { return m_componentManager; }
+    void setComponentManager(ComponentManager* manager) { m_componentManager = manager; }
+    const WaveGuidePortManager* getWaveGuidePortManager() const { return m_waveGuidePortManager; }
+    void setWaveGuidePortManager(WaveGuidePortManager* manager) { m_waveGuidePortManager = manager; }
+
+    /// Empty the managers' lists, if there are managers, without deleting what is listed.
+    void clearComponents();
+    void clearWaveguidePorts();
+
     /// PlaneWave::getType() says which class of the family the object is.
     PlaneWave* getPlaneWave() const { return m_planeWave; }
     void setPlaneWave(PlaneWave* planeWave) { m_planeWave = planeWave; }
@@ -123,18 +138,23 @@ protected:
     TdAfsTerminationCriteria* m_tdAfsTerminationCriteria = nullptr;
     BoundaryConditions* m_boundaryConditions = nullptr;
     AmbientConditions* m_ambientConditions = nullptr;
+    StaticVoltageList* m_staticVoltageList = nullptr;
+    ComponentManager* m_componentManager = nullptr;
+    WaveGuidePortManager* m_waveGuidePortManager = nullptr;
     PlaneWave* m_planeWave = nullptr;
     std::vector<Waveform*> m_waveforms;
 
 private:
+    bool hasActivePort() const;
+
     // What the default constructor allocated, until a setter hands it over or deleteContents() deletes it: a load may
     // put other parameters in its place.
     DFTParameters* m_ownDFTParameters = nullptr;
 };
 
-/// Deletes everything that the project points to, each object once, and leaves the pointers null and the lists empty.
-/// For callers who let a load create the objects and who share none of them. An object that a load replaced because the
-/// caller had set it before stays the caller's.
+/// Deletes everything that the project points to, components and ports included, each object once, and leaves the
+/// pointers null and the lists empty. For callers who let a load create the objects and who share none of them. An
+/// object that a load replaced because the caller had set it before stays the caller's.
 QUARN_EXPORT void deleteContents(ProjectFile& project);
 
 }  // namespace quarn

@@ -89,6 +89,10 @@ private:
     bool StreamOutBoundaryConditions(DelimManager& delim);
     bool StreamInAmbientConditions(DelimManager& delim);
     bool StreamOutAmbientConditions(DelimManager& delim);
+    bool StreamInComponentsPorts(DelimManager& delim);
+    bool StreamOutComponentsPorts(DelimManager& delim);
+    bool StreamInWaveGuidePorts(DelimManager& delim);
+    bool StreamOutWaveGuidePorts(DelimManager& delim);
     bool StreamInTerminationCriteria(DelimManager& delim);
     bool StreamOutTerminationCriteria(DelimManager& delim);
     bool StreamInV6Convergence(DelimManager& delim);

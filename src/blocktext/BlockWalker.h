@@ -5,6 +5,7 @@
 #include <tuple>
 #include <type_traits>
 
+#include "blocktext/NameTable.h"
 #include "blocktext/TextValues.h"
 #include "quarn/DelimManager.h"
 
@@ -80,6 +81,21 @@ inline auto onFlag(QLatin1String word, bool& flag) {
 template <class T, class Choice>
 auto onChoice(QLatin1String word, T& value, Choice choice) {
     return onWord(word, [&value, choice] { value = static_cast<T>(choice); });
+}
+
+/// Reads the name behind `word` as a value of the table; a name that the table does not have gives `otherwise`, or
+/// where that is left out keeps `value`.
+template <class Value, std::size_t count>
+auto onName(QLatin1String word, const NameTable<Value, count>& table, Value& value, const Value& otherwise) {
+    return onWord(word, [&](QTextStream& in) {
+        QString buffer;
+        const QStringView name = readWord(in, buffer);
+        if (!name.isEmpty()) value = valueOf(table, name, otherwise);
+    });
+}
+template <class Value, std::size_t count>
+auto onName(QLatin1String word, const NameTable<Value, count>& table, Value& value) {
+    return onName(word, table, value, value);
 }
 
 /// Takes each line whole that opens no block, instead of its words.

@@ -1,6 +1,5 @@
 #include "blocktext/BlockWalker.h"
 #include "blocktext/BlockWriter.h"
-#include "blocktext/NameTable.h"
 #include "project/Sections.h"
 
 namespace quarn {
@@ -60,18 +59,15 @@ void readPeriodicParameters(DelimManager& delim, PeriodicParameters& periodic) {
               onFlag(key::UseWaveformFrequency, periodic.useWaveformFrequency));
 }
 
-auto onType(QLatin1String word, Type& type) {
-    return onWord(word, [&type](QTextStream& in) {
-        QString name;
-        if (readValue(in, name)) type = boundaryTypeOf(name);
-    });
-}
+constexpr Type cpml = BoundaryConditions::CPML;
+
+auto onType(QLatin1String word, Type& type) { return onName(word, typeNames, type, cpml); }
 
 }  // namespace
 
 QLatin1String boundaryTypeName(Type type) { return nameOf(typeNames, type, "UnknownType"_key); }
 
-Type boundaryTypeOf(QStringView name) { return valueOf(typeNames, name, BoundaryConditions::CPML); }
+Type boundaryTypeOf(QStringView name) { return valueOf(typeNames, name, cpml); }
 
 bool writeBoundaryConditions(DelimManager& delim, const BoundaryConditions& conditions) {
     const WrittenBlock block(delim, key::OuterBoundaries);
@@ -88,7 +84,6 @@ bool writeBoundaryConditions(DelimManager& delim, const BoundaryConditions& cond
 // the same file come later.
 std::unique_ptr<BoundaryConditions> readBoundaryConditions(DelimManager& delim,
                                                            const std::vector<Waveform*>& waveforms) {
-    constexpr Type cpml = BoundaryConditions::CPML;
     Type types[6] = {cpml, cpml, cpml, cpml, cpml, cpml};
     int numberOfPMLLayers = 0;
     PeriodicParameters periodic;

@@ -1,8 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <set>
+#include <vector>
 
+#include "quarn/ComponentManager.h"
 #include "quarn/PlaneWave.h"
+#include "quarn/WaveGuidePort.h"
 
 namespace quarn {
 
@@ -19,13 +23,28 @@ auto withItsClass(PlaneWave* wave, Use use) {
     }
 }
 
-/// Deletes an object that a project points to; null is fine.
+/// Deletes what a list points to, each object once.
+template <class T>
+void destroyEach(const std::vector<T*>& objects) {
+    for (T* object : std::set<T*>(objects.begin(), objects.end())) delete object;
+}
+
+/// Deletes an object that a project points to, and what a manager lists; null is fine.
 template <class T>
 void destroy(T* object) {
     delete object;
 }
 inline void destroy(PlaneWave* wave) {
     if (wave) withItsClass(wave, [](auto* object) { delete object; });
+}
+
+inline void destroy(ComponentManager* manager) {
+    if (manager) destroyEach(manager->getComponents());
+    delete manager;
+}
+inline void destroy(WaveGuidePortManager* manager) {
+    if (manager) destroyEach(manager->getWaveguidePorts());
+    delete manager;
 }
 
 struct DestroyPlaneWave {

@@ -1,13 +1,14 @@
 #include "quarn/ProjectFile.h"
 
-#include <algorithm>
-
 #include "project/Contents.h"
 #include "quarn/AmbientConditions.h"
 #include "quarn/BoundaryConditions.h"
+#include "quarn/ComponentManager.h"
 #include "quarn/DFTParameters.h"
+#include "quarn/StaticVoltageList.h"
 #include "quarn/TdAfsTerminationCriteria.h"
 #include "quarn/TerminationCriteria.h"
+#include "quarn/WaveGuidePort.h"
 #include "quarn/Waveform.h"
 
 namespace quarn {
@@ -31,9 +32,7 @@ void deleteAndClear(T*& object) {
 
 template <class T>
 void deleteAndClear(std::vector<T*>& objects) {
-    std::sort(objects.begin(), objects.end());
-    objects.erase(std::unique(objects.begin(), objects.end()), objects.end());
-    for (T* object : objects) destroy(object);
+    destroyEach(objects);
     objects.clear();
 }
 
@@ -48,6 +47,9 @@ ProjectFile::ProjectFile(const ProjectFile& other) {
     m_tdAfsTerminationCriteria = copyOf(other.m_tdAfsTerminationCriteria);
     m_boundaryConditions = copyOf(other.m_boundaryConditions);
     m_ambientConditions = copyOf(other.m_ambientConditions);
+    m_staticVoltageList = copyOf(other.m_staticVoltageList);
+    m_componentManager = copyOf(other.m_componentManager);
+    m_waveGuidePortManager = copyOf(other.m_waveGuidePortManager);
     m_planeWave = copyOfPlaneWave(other.m_planeWave);
 }
 
@@ -70,6 +72,9 @@ ProjectFile& ProjectFile::operator=(const ProjectFile& other) {
     m_tdAfsTerminationCriteria = other.m_tdAfsTerminationCriteria;
     m_boundaryConditions = other.m_boundaryConditions;
     m_ambientConditions = other.m_ambientConditions;
+    m_staticVoltageList = other.m_staticVoltageList;
+    m_componentManager = other.m_componentManager;
+    m_waveGuidePortManager = other.m_waveGuidePortManager;
     m_planeWave = other.m_planeWave;
     m_waveforms = other.m_waveforms;
     return *this;
@@ -82,16 +87,35 @@ void ProjectFile::setDFTParameters(DFTParameters* parameters) {
     m_dftParameters = parameters;
 }
 
+void ProjectFile::clearComponents() {
+    if (m_componentManager) m_componentManager->clearComponents();
+}
+
+void ProjectFile::clearWaveguidePorts() {
+    if (m_waveGuidePortManager) m_waveGuidePortManager->clearWaveguidePorts();
+}
+
+bool ProjectFile::hasActivePort() const {
+    return m_componentManager && m_componentManager->getNumberOfComponents() > 0 &&
+           m_componentManager->getActivePort() != -1;
+}
+
 void ProjectFile::checkValidity(QStringList& errors, QStringList& warnings) const {
     if (m_boundaryConditions) {
         m_boundaryConditions->checkValidity(errors, warnings, m_engine);
     } else {
         errors << QStringLiteral("Boundary conditions have not been specified.");
     }
-    if (!m_planeWave) errors << QStringLiteral("No excitation has been specified.");
+    if (m_staticVoltageList) m_staticVoltageList->checkValidity(errors, warnings, m_engine);
+    const bool hasStaticVoltages = m_staticVoltageList && !m_staticVoltageList->getPoints().empty();
+    if (!m_planeWave && !m_componentManager && !hasStaticVoltages) {
+        errors << QStringLiteral("No excitation has been specified.");
+    } else if (m_componentManager) {
+        m_componentManager->checkValidity(errors, warnings, m_engine);
+    }
 
     if (m_engine != Engine::FDTD) return;
-    if (m_waveforms.empty() && m_planeWave) {
+    if (m_waveforms.empty() && (m_planeWave || hasActivePort())) {
         errors << QStringLiteral("No waveform has been specified.");
     }
     const TerminationCriteria noCriteria(0, 0, 0);
@@ -114,6 +138,9 @@ void deleteContents(ProjectFile& project) {
     deleteAndClear(project.m_tdAfsTerminationCriteria);
     deleteAndClear(project.m_boundaryConditions);
     deleteAndClear(project.m_ambientConditions);
+    deleteAndClear(project.m_staticVoltageList);
+    deleteAndClear(project.m_componentManager);
+    deleteAndClear(project.m_waveGuidePortManager);
     deleteAndClear(project.m_planeWave);
     deleteAndClear(project.m_waveforms);
     project.m_steadyStateFrequencies.clear();

@@ -5,6 +5,7 @@
 
 #include "blocktext/BlockWalker.h"
 #include "blocktext/BlockWriter.h"
+#include "circuit/CircuitSections.h"
 #include "project/Sections.h"
 #include "quarn/v6ProjectFile.h"
 
@@ -24,6 +25,8 @@ constexpr auto Conversion = "Conversion"_key;
 constexpr auto RunParameters = "RunParameters"_key;
 constexpr auto OuterBoundaries = "OuterBoundaries"_key;
 constexpr auto AmbientConditions = "AmbientConditions"_key;
+constexpr auto ComponentsPorts = "ComponentsPorts"_key;
+constexpr auto WaveGuidePorts = "WaveGuidePorts"_key;
 constexpr auto TerminationCriteria = "TerminationCriteria"_key;
 constexpr auto SourceType = "SourceType"_key;
 constexpr auto Waveform = "Waveform"_key;
@@ -89,6 +92,8 @@ bool v6ProjectFile::StreamOutRunParameters(DelimManager& delim) {
     const WrittenBlock block(delim, key::RunParameters);
     StreamOutBoundaryConditions(delim);
     StreamOutAmbientConditions(delim);
+    StreamOutComponentsPorts(delim);
+    StreamOutWaveGuidePorts(delim);
     StreamOutTerminationCriteria(delim);
     StreamOutSourceType(delim);
     StreamOutWaveform(delim);
@@ -113,6 +118,8 @@ bool v6ProjectFile::StreamInRunParameters(DelimManager& delim) {
               Unknown::DropLine,
               onBlock(key::OuterBoundaries, [&] { return StreamInBoundaryConditions(delim); }),
               onBlock(key::AmbientConditions, [&] { return StreamInAmbientConditions(delim); }),
+              onBlock(key::ComponentsPorts, [&] { return StreamInComponentsPorts(delim); }),
+              onBlock(key::WaveGuidePorts, [&] { return StreamInWaveGuidePorts(delim); }),
               onBlock(key::TerminationCriteria, [&] { StreamInTerminationCriteria(delim); }),
               onBlock(key::SourceType, [&] { return StreamInSourceType(delim); }),
               onBlock(key::Waveform, [&] { return StreamInWaveform(delim); }),
@@ -170,6 +177,26 @@ bool v6ProjectFile::StreamOutAmbientConditions(DelimManager& delim) {
 
 bool v6ProjectFile::StreamInAmbientConditions(DelimManager& delim) {
     install(m_ambientConditions, readAmbientConditions(delim));
+    return isOk(delim);
+}
+
+bool v6ProjectFile::StreamOutComponentsPorts(DelimManager& delim) {
+    return m_componentManager && writeComponentsPorts(delim, *m_componentManager, m_staticVoltageList);
+}
+
+bool v6ProjectFile::StreamInComponentsPorts(DelimManager& delim) {
+    auto [manager, staticVoltages] = readComponentsPorts(delim);
+    install(m_staticVoltageList, std::move(staticVoltages));
+    install(m_componentManager, std::move(manager));
+    return isOk(delim);
+}
+
+bool v6ProjectFile::StreamOutWaveGuidePorts(DelimManager& delim) {
+    return m_waveGuidePortManager && writeWaveGuidePorts(delim, *m_waveGuidePortManager);
+}
+
+bool v6ProjectFile::StreamInWaveGuidePorts(DelimManager& delim) {
+    install(m_waveGuidePortManager, readWaveGuidePorts(delim));
     return isOk(delim);
 }
 

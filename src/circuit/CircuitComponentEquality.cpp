@@ -1,0 +1,95 @@
+#include <algorithm>
+#include <functional>
+#include <typeinfo>
+
+#include "circuit/ComponentNames.h"
+#include "circuit/EqualityReport.h"
+#include "quarn/CircuitComponent.h"
+
+namespace quarn {
+
+using report::areEqual;
+using report::member;
+using report::OnItsLine;
+
+namespace {
+
+using Component = CircuitComponent;
+
+// The values of an enumeration by their names.
+struct NameOnItsLine {
+    template <class Enum>
+    void operator()(Enum value) const {
+        OnItsLine()(QString(names::of(value)));
+    }
+};
+
+struct PointsOnLines {
+    void operator()(const std::vector<tavrix::Cartesian3D>& points) const {
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            std::cout << '\t' << i << " : " << points[i].x << ", " << points[i].y << ", " << points[i].z << '\n';
+        }
+    }
+};
+
+}  // namespace
+
+bool operator==(const Component::Pin& a, const Component::Pin& b) {
+    using Pin = Component::Pin;
+    return areEqual(a,
+                    b,
+                    member("quarn::CircuitComponent::Pin::name, diff:", &Pin::name, OnItsLine()),
+                    member("quarn::CircuitComponent::Pin::point", &Pin::point),
+                    member("quarn::CircuitComponent::Pin::weight", &Pin::weight));
+}
+
+bool operator==(const Component::PinGroup& a, const Component::PinGroup& b) {
+    using PinGroup = Component::PinGroup;
+    return areEqual(a,
+                    b,
+                    member("quarn::CircuitComponent::PinGroup::name", &PinGroup::name),
+                    member("quarn::CircuitComponent::PinGroup::model", &PinGroup::model),
+                    member("quarn::CircuitComponent::PinGroup::signal", &PinGroup::signal),
+                    member("quarn::CircuitComponent::PinGroup::pins", &PinGroup::pins));
+}
+
+bool Component::PinGroup::equal(const PinGroup& other) const { return *this == other; }
+
+bool operator==(const Component::ImpedanceLine& a, const Component::ImpedanceLine& b) {
+    using Line = Component::ImpedanceLine;
+    const auto nodes = [](const Line& line) { return std::make_pair(line.nodes[0], line.nodes[1]); };
+    return areEqual(a,
+                    b,
+                    member("quarn::CircuitComponent::ImpedanceLine::nodes", nodes),
+                    member("quarn::CircuitComponent::ImpedanceLine::type", &Line::type),
+                    member("quarn::CircuitComponent::ImpedanceLine::radius", &Line::radius),
+                    member("quarn::CircuitComponent::ImpedanceLine::sheetCorners", &Line::sheetCorners),
+                    member("quarn::CircuitComponent::ImpedanceLine::injectionLines", &Line::injectionLines),
+                    member("quarn::CircuitComponent::ImpedanceLine::pinGroups", &Line::pinGroups));
+}
+
+// Objects of different classes are never equal, even where nothing that is listed tells them apart.
+bool operator==(const Component& a, const Component& b) {
+    const auto type = member("m_circuitComponentType", &Component::m_circuitComponentType, NameOnItsLine());
+    if (typeid(a) != typeid(b)) {
+        areEqual(a, b, type);
+        return false;
+    }
+    return areEqual(a,
+                    b,
+                    member("m_componentName", &Component::m_componentName),
+                    member("m_xIndex", &Component::m_xIndex),
+                    member("m_yIndex", &Component::m_yIndex),
+                    member("m_zIndex", &Component::m_zIndex),
+                    member("m_endPoints", &Component::m_endPoints, PointsOnLines()),
+                    member("m_impLines", &Component::m_impLines),
+                    member("m_componentDirection", &Component::m_componentDirection, OnItsLine()),
+                    member("m_calibration", &Component::m_calibration, NameOnItsLine()),
+                    member("m_isActive", &Component::m_isActive, OnItsLine()),
+                    type,
+                    member("m_isPort", &Component::m_isPort, OnItsLine()),
+                    member("m_termType", &Component::m_termType, NameOnItsLine()),
+                    member("m_pinGroups", &Component::m_pinGroups));
+}
+
+}  // namespace quarn

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+
+#include "quarn/ComponentManager.h"
+#include "quarn/StaticVoltageList.h"
+#include "quarn/WaveGuidePort.h"
+
+/// The sections of the project file that carry circuit components and waveguide ports: for each a writer of the whole
+/// block and a reader of what follows the block's open line. Writers return whether the stream is in order. Readers
+/// return new objects, never null.
+namespace quarn {
+
+class DelimManager;
+
+/// The file does not say to whom components belong: those of a section that was read belong to its manager's user.
+struct ComponentsPorts {
+    std::unique_ptr<ComponentManager> manager;
+    std::unique_ptr<StaticVoltageList> staticVoltages;
+};
+bool writeComponentsPorts(DelimManager& delim, const ComponentManager& manager,
+                          const StaticVoltageList* staticVoltages);
+ComponentsPorts readComponentsPorts(DelimManager& delim);
+
+bool writeWaveGuidePorts(DelimManager& delim, const WaveGuidePortManager& manager);
+std::unique_ptr<WaveGuidePortManager> readWaveGuidePorts(DelimManager& delim);
+
+}  // namespace quarn

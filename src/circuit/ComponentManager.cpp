@@ -1,0 +1,192 @@
+#include "quarn/ComponentManager.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "quarn/ComponentKinds.h"
+
+namespace quarn {
+
+namespace {
+
+bool isFeedType(const CircuitComponent& component) {
+    return component.getCircuitComponentType() == CircuitComponent::SeriesVoltage ||
+           component.getCircuitComponentType() == CircuitComponent::ParallelCurrent;
+}
+
+// What the ports are found to be when they are compared with the active feed.
+struct PortFindings {
+    bool reactive = false;
+    bool mismatch = false;
+    bool hasSwitch = false;
+    bool hasNonlinearCapacitor = false;
+    bool hasDiode = false;
+};
+
+// A passive load must agree with the active feed in all three values, another feed in one of them.
+void notePort(PortFindings& findings, const CircuitComponent& port, const CircuitComponent& activeFeed) {
+    const bool sameR = port.getResistance() == activeFeed.getResistance();
+    const bool sameL = port.getInductance() == activeFeed.getInductance();
+    const bool sameC = port.getCapacitance() == activeFeed.getCapacitance();
+    const bool reactive = port.getInductance() > 0.0F || port.getCapacitance() > 0.0F;
+    switch (port.getCircuitComponentType()) {
+        case CircuitComponent::PassiveLoad:
+            findings.reactive |= reactive;
+            findings.mismatch |= !(sameR && sameL && sameC);
+            break;
+        case CircuitComponent::SeriesVoltage:
+        case CircuitComponent::ParallelCurrent:
+            findings.reactive |= reactive;
+            findings.mismatch |= !(sameR || sameL || sameC);
+            break;
+        case CircuitComponent::Switch:
+            findings.hasSwitch = true;
+            break;
+        case CircuitComponent::NonLinearCapacitor:
+            findings.hasNonlinearCapacitor = true;
+            break;
+        case CircuitComponent::Diode:
+            findings.hasDiode = true;
+            break;
+        case CircuitComponent::LumpedComponent:
+            findings.reactive = true;
+            findings.mismatch = true;
+            break;
+        default:
+            break;
+    }
+}
+
+void appendWarnings(QStringList& warnings, const PortFindings& findings) {
+    if (findings.reactive) {
+        warnings << QStringLiteral(
+            "The characteristic impedance of a Port possesses a nonzero reactance.  S-parameter calculations may not "
+            "match experimental results.");
+    }
+    if (findings.mismatch) {
+        warnings << QStringLiteral(
+            "The characteristic impedance for the active Port does not match that of all passive Ports.  Sij "
+            "calculations may not match experimental results.");
+    }
+    const auto warnOfKind = [&warnings](bool found, const char* kind) {
+        if (!found) return;
+        warnings << QStringLiteral(
+                        "A %1 circuit component is specified as a Port.  S-parameters for this Port may be invalid.")
+                        .arg(QLatin1String(kind));
+    };
+    warnOfKind(findings.hasSwitch, "Switch");
+    warnOfKind(findings.hasNonlinearCapacitor, "Nonlinear Capacitor");
+    warnOfKind(findings.hasDiode, "Diode");
+}
+
+}  // namespace
+
+ComponentManager::ComponentManager(const std::vector<CircuitComponent*>& components, bool computeSParameters,
+                                   int activePort)
+    : m_components(components),
+      m_computeSParameters(computeSParameters),
+      m_activePort(computeSParameters ? activePort : -1) {
+    for (std::size_t i = 0; computeSParameters && i < m_components.size(); ++i) {
+        if (!isFeedType(*m_components[i]) || static_cast<std::int64_t>(i) == m_activePort) continue;
+        if (auto* feed = dynamic_cast<Feed*>(m_components[i])) feed->setInactive();
+    }
+    cacheVariables();
+}
+
+ComponentManager::ComponentManager(const ComponentManager& other)
+    : m_components(other.m_components),
+      m_computeSParameters(other.m_computeSParameters),
+      m_activePort(other.m_activePort) {
+    cacheVariables();
+}
+
+ComponentManager& ComponentManager::operator=(const ComponentManager& other) = default;
+ComponentManager::~ComponentManager() = default;
+
+void ComponentManager::cacheVariables() {
+    m_numberOfPorts = static_cast<std::uint32_t>(
+        std::count_if(m_components.begin(), m_components.end(), [](const auto* c) { return c->isPort(); }));
+    m_hasNonlinearCapacitor = hasAnyOfType(CircuitComponent::NonLinearCapacitor);
+    noteListOrder();
+}
+
+void ComponentManager::noteListOrder() {
+    const auto isPort = [](const CircuitComponent* component) { return component->isPort(); };
+    const auto firstOther = std::find_if_not(m_components.begin(), m_components.end(), isPort);
+    m_firstOther = static_cast<std::size_t>(firstOther - m_components.begin());
+    m_portsComeFirst = std::none_of(firstOther, m_components.end(), isPort);
+    m_names.clear();
+    for (const CircuitComponent* component : m_components) m_names.insert(component->getComponentName());
+}
+
+void ComponentManager::clearComponents() {
+    m_components.clear();
+    m_numberOfPorts = 0;
+    noteListOrder();
+}
+
+void ComponentManager::insert(CircuitComponent* component, bool checkUniqueness) {
+    const QString& name = component->getComponentName();
+    if (checkUniqueness && m_names.contains(name)) {
+        throw std::runtime_error("Unable to insert new circuit component: name <" + name.toLatin1().toStdString() +
+                                 "> is not unique");
+    }
+    if (!component->isPort()) {
+        m_components.push_back(component);
+    } else {
+        if (!m_portsComeFirst) throw std::runtime_error("invalid order of quarn circuit components");
+        m_components.insert(m_components.begin() + static_cast<std::ptrdiff_t>(m_firstOther), component);
+        ++m_firstOther;
+        ++m_numberOfPorts;
+    }
+    m_names.insert(name);
+}
+
+bool ComponentManager::hasAnyOfType(CircuitComponent::CircuitComponentType type) const {
+    return std::any_of(m_components.begin(), m_components.end(), [type](const auto* component) {
+        return component->getCircuitComponentType() == type;
+    });
+}
+
+void ComponentManager::checkValidity(QStringList& errors, QStringList& warnings, Engine engine) const {
+    const bool sParameters = m_computeSParameters && engine == Engine::FDTD;
+    if (m_components.size() < m_numberOfPorts) {
+        errors << QStringLiteral("The number of ports is greater than the number of circuit components.");
+    }
+    if (m_components.empty()) {
+        if (sParameters) {
+            errors << QStringLiteral("S-Parameters are being computed, but there are no circuit components specified.");
+        }
+        return;
+    }
+    if (sParameters) checkSParameters(errors, warnings);
+    for (const CircuitComponent* component : m_components) component->checkValidity(errors, warnings, engine);
+}
+
+// Without a valid active feed there is nothing to compare the ports with.
+void ComponentManager::checkSParameters(QStringList& errors, QStringList& warnings) const {
+    const bool portIsActive = m_activePort >= 0 && m_activePort < static_cast<std::int64_t>(m_numberOfPorts);
+    if (m_numberOfPorts == 0) {
+        errors << QStringLiteral("S-Parameters are being computed, but there are no ports specified.");
+    } else if (!portIsActive) {
+        errors << QStringLiteral("The active port must be between 0 and %1.").arg(m_numberOfPorts - 1);
+    }
+    if (m_activePort < 0 || static_cast<std::size_t>(m_activePort) >= m_components.size()) return;
+    const auto* feed = dynamic_cast<const Feed*>(m_components[static_cast<std::size_t>(m_activePort)]);
+    if (!feed) {
+        errors << QStringLiteral("The active port must be a Feed.");
+        return;
+    }
+    if (!feed->isActive()) {
+        errors << QStringLiteral("The active port does not correspond to an active Feed.");
+        return;
+    }
+    if (!portIsActive) return;
+    PortFindings findings;
+    for (const CircuitComponent* component : m_components) {
+        if (component->isPort()) notePort(findings, *component, *feed);
+    }
+    appendWarnings(warnings, findings);
+}
+
+}  // namespace quarn

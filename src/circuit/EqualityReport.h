@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QString>
+#include <iostream>
+#include <tuple>
+
+/// Equality that says on standard output where two objects differ: a class lists its members with their labels, and the
+/// comparison stops at the first difference.
+namespace quarn::report {
+
+inline std::ostream& operator<<(std::ostream& out, QLatin1String text) { return out.write(text.data(), text.size()); }
+
+/// Writes nothing but the label.
+struct LabelOnly {
+    template <class T>
+    void operator()(const T&) const {}
+};
+
+/// Writes the value behind a tab, on a line of its own.
+struct OnItsLine {
+    template <class T>
+    void operator()(const T& value) const {
+        std::cout << '\t' << value << '\n';
+    }
+    void operator()(const QString& value) const { std::cout << '\t' << value.toStdString() << '\n'; }
+};
+
+template <class Get, class Show>
+struct Member {
+    const char* label;
+    Get get;
+    Show show;
+};
+
+/// A member, as a pointer to it or as a function of the object, and what is written of both values if they differ.
+template <class Get, class Show = LabelOnly>
+Member<Get, Show> member(const char* label, Get get, Show show = {}) {
+    return {label, get, show};
+}
+
+template <class T, class Get, class Show>
+bool isEqual(const T& a, const T& b, const Member<Get, Show>& member) {
+    if (std::invoke(member.get, a) == std::invoke(member.get, b)) return true;
+    std::cout << "different " << member.label << '\n';
+    member.show(std::invoke(member.get, a));
+    member.show(std::invoke(member.get, b));
+    std::cout.flush();
+    return false;
+}
+
+template <class T, class... Members>
+bool areEqual(const T& a, const T& b, const Members&... members) {
+    return (isEqual(a, b, members) && ...);
+}
+
+}  // namespace quarn::report

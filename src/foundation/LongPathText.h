@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace quarn {
+
+/// Drops the prefix "\\?\" or "//?/" of a path that has it and goes on behind it.
+QString withoutLongPathPrefix(const QString& path);
+
+/// The native form of an absolute path on systems with a path-length limit: single backslashes, and the prefix in front
+/// where wanted. Text only, so that it can be tested on every system.
+QString toLongPathText(QString path, bool addPrefix);
+
+}  // namespace quarn
