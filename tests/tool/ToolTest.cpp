@@ -1,0 +1,307 @@
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "TestSupport.h"
+#include "quarn/Version.h"
+
+namespace quarn::test {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+
+// As it is saved, so that checking it finds nothing. The line of "begin_<FDTDProject> " is 2.
+const QString clean =
+    "Version 8\n" +
+    expanded(
+        "FDTDProject{ Units{ Display{ Name mm; Conversion 0.001; } Modeling{ Name m; Conversion 1; } }"
+        "RunParameters{ OuterBoundaries{ LowerX ORBC_CPML; UpperX ORBC_CPML; LowerY ORBC_PEC; UpperY ORBC_PEC;"
+        "LowerZ ORBC_PMC; UpperZ ORBC_PMC; NumberOfPMLLayers 8; }"
+        "TerminationCriteria{ MaximumTimeSteps 1000; MaximumWallClockSeconds 0; }"
+        "SourceType{ ScatteredFieldPlaneWave{ Amplitude 1; IncidentTheta 0; IncidentPhi 45; PhiPolarization;"
+        "OutputFileName wave.inc; } } Waveform{ Sinusoid{ frequency 1000000000; } } } RequestResults{ } }");
+
+struct Result {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+class Tool : public testing::Test {
+protected:
+    Result run(const QStringList& arguments) {
+        QProcess process;
+        process.setWorkingDirectory(folder.path());
+        process.start(QUARN_TOOL_PATH, arguments);
+        EXPECT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        return {process.exitCode(),
+                process.readAllStandardOutput().toStdString(),
+                process.readAllStandardError().toStdString()};
+    }
+
+    void write(const QString& name, const QByteArray& content) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    QByteArray read(const QString& name) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        return file.readAll();
+    }
+
+    QTemporaryDir folder;
+};
+
+using Replacements = QVector<QPair<QString, QString>>;
+
+QByteArray cleanWith(const Replacements& replacements) {
+    QString text = clean;
+    for (const auto& [from, to] : replacements) {
+        EXPECT_TRUE(text.contains(from)) << from.toStdString();
+        text.replace(from, to);
+    }
+    return text.toUtf8();
+}
+
+struct CheckRow {
+    const char* name;
+    Replacements replacements;
+    QStringList output;
+    friend void PrintTo(const CheckRow& row, std::ostream* out) { *out << row.name; }
+};
+
+class CheckTool : public Tool, public testing::WithParamInterface<CheckRow> {};
+
+TEST_P(CheckTool, prints) {
+    write("run", cleanWith(GetParam().replacements));
+    const Result result = run({"check", "run"});
+    EXPECT_EQ(result.out, GetParam().output.join("\n").toStdString() + "\n");
+    EXPECT_EQ(result.status, GetParam().output == QStringList("run: no findings") ? 0 : 1);
+    EXPECT_EQ(result.err, "");
+}
+
+const CheckRow checkRows[] = {
+    {"nothing_of_what_is_saved", {}, {"run: no findings"}},
+    {"nothing_for_lines_moved_within_their_block",
+     {{"LowerX ORBC_CPML\n", ""}, {"NumberOfPMLLayers 8\n", "NumberOfPMLLayers 8\nLowerX ORBC_CPML\n"}},
+     {"run: no findings"}},
+    {"nothing_for_other_spellings_of_numbers",
+     {{"Steps 1000\n", "Steps 0x3e8\n"},
+      {"Seconds 0\n", "Seconds 000\n"},
+      {"Conversion 1\n", "Conversion 1.0\n"},
+      {"Conversion 0.001", "Conversion 1E-3"},
+      {"Amplitude 1\n", "Amplitude +1.\n"},
+      {"Theta 0\n", "Theta 1e-14\n"},
+      {"Phi 45\n", "Phi 045\n"},
+      {"frequency 1000000000", "frequency 16777217"}},
+     {"run: no findings"}},
+    {"nothing_for_the_older_name_of_a_boundary", {{"LowerX ORBC_CPML", "LowerX ORBC_PML"}}, {"run: no findings"}},
+    {"nothing_for_blank_lines_indentation_and_line_ends", {{"\n", "  \r\n \t\r\n\t"}}, {"run: no findings"}},
+    {"nothing_for_two_entries_on_one_line", {{"ORBC_CPML\nUpperX", "ORBC_CPML UpperX"}}, {"run: no findings"}},
+    {"nothing_for_an_older_version", {{"Version 8", "FDTD file version 3.28"}}, {"run: no findings"}},
+    {"a_first_line_without_a_version",
+     {{"Version 8", "begin_<Units> "}},
+     {"run:1: not kept: begin_<Units>", "run: 1 line not kept"}},
+    {"a_misspelt_key_with_its_line",
+     {{"frequency 1000000000", "Frequnecy 1e9"}},
+     {"run: warning: The frequency must be greater than 0 (currently 0)",
+      "run:38: not kept: Frequnecy 1e9",
+      "run: 1 warning, 1 line not kept"}},
+    {"what_a_value_becomes",
+     {{"LowerX ORBC_CPML", "LowerX ORBC_OPEN"}, {"Name m\n", "Name km\n"}},
+     {R"(run:9: not kept: Name km, becomes "Name m")",
+      R"(run:15: not kept: LowerX ORBC_OPEN, becomes "LowerX ORBC_CPML")",
+      "run: 2 lines not kept"}},
+    {"an_integer_that_does_not_fit",
+     {{"Steps 1000\n", "Steps 4294967297\n"}},
+     {R"(run:24: not kept: MaximumTimeSteps 4294967297, becomes "MaximumTimeSteps 1")", "run: 1 line not kept"}},
+    {"a_real_that_is_no_float",
+     {{"Amplitude 1\n", "Amplitude 1e39\n"}},
+     {R"(run:29: not kept: Amplitude 1e39, becomes "Amplitude inf")", "run: 1 line not kept"}},
+    {"an_unknown_block_whole",
+     {{"begin_<RequestResults> \n", "begin_<RequestResults> \nbegin_<Sensors> \n kind 3\nend_<Sensors>\n"}},
+     {"run:43: not kept: begin_<Sensors>",
+      "run:44: not kept: kind 3",
+      "run:45: not kept: end_<Sensors>",
+      "run: 3 lines not kept"}},
+    {"the_later_of_two_timestep_settings",
+     {{"end_<RunParameters>", "UseTimestep 1e-12\nUseUsersCFL 0.5\nend_<RunParameters>"}},
+     {"run:42: not kept: UseUsersCFL 0.5", "run: 1 line not kept"}},
+    {"equal_samples_by_their_number",
+     {{"Steps 1000", "Steps 1"},
+      {"begin_<Sinusoid> \nfrequency 1000000000\nend_<Sinusoid>\n",
+       expanded("UserDefined{ Source{ 0; 0.5; 0; 0; } Derivative{ 0 1; } }")}},
+     {"run: error: The user defined waveform is incorrectly specified.",
+      "run:41: not kept: 0",
+      "run:42: not kept: 0",
+      "run: 1 error, 2 lines not kept"}},
+    {"a_lack_of_boundaries",
+     {{"OuterBoundaries", "Boundaries"}},
+     {"run: error: Boundary conditions have not been specified.",
+      "run:14: not kept: begin_<Boundaries>",
+      "run:15: not kept: LowerX ORBC_CPML",
+      "run:16: not kept: UpperX ORBC_CPML",
+      "run:17: not kept: LowerY ORBC_PEC",
+      "run:18: not kept: UpperY ORBC_PEC",
+      "run:19: not kept: LowerZ ORBC_PMC",
+      "run:20: not kept: UpperZ ORBC_PMC",
+      "run:21: not kept: NumberOfPMLLayers 8",
+      "run:22: not kept: end_<Boundaries>",
+      "run: 1 error, 9 lines not kept"}},
+    {"the_blocks_that_a_truncated_file_leaves_open",
+     {{clean.mid(clean.indexOf("IncidentTheta")), ""}},
+     {"run: error: No excitation has been specified.",
+      "run:27: not kept: begin_<SourceType>",
+      "run:28: not kept: begin_<ScatteredFieldPlaneWave>",
+      "run:29: not kept: Amplitude 1",
+      "run:2: block <FDTDProject> is not closed",
+      "run:13: block <RunParameters> is not closed",
+      "run:27: block <SourceType> is not closed",
+      "run:28: block <ScatteredFieldPlaneWave> is not closed",
+      "run: 1 error, 3 lines not kept, 4 blocks not closed"}},
+};
+INSTANTIATE_TEST_SUITE_P(, CheckTool, testing::ValuesIn(checkRows), rowName<CheckRow>);
+
+TEST_F(Tool, checks_each_file_and_reports_the_worst_status) {
+    write("good", clean.toUtf8());
+    const Result result = run({"check", "missing", "good"});
+    EXPECT_EQ(result.out, "good: no findings\n");
+    EXPECT_EQ(result.err, "quarn: missing: No such file or directory\n");
+    EXPECT_EQ(result.status, 2);
+}
+
+TEST_F(Tool, check_prints_json) {
+    write("run", cleanWith({{"Name m\n", "Name km\nSize 3\n"}}));
+    const Result result = run({"check", "--json", "run", "missing"});
+    const QJsonArray files = QJsonDocument::fromJson(QByteArray::fromStdString(result.out)).array();
+    const QJsonObject renamed{{"line", 9}, {"text", "Name km"}, {"becomes", "Name m"}};
+    const QJsonObject unknown{{"line", 10}, {"text", "Size 3"}};
+    const QJsonObject first{{"file", "run"},
+                            {"errors", QJsonArray()},
+                            {"warnings", QJsonArray()},
+                            {"notKept", QJsonArray{renamed, unknown}},
+                            {"unclosed", QJsonArray()}};
+    const QJsonObject second{{"file", "missing"}, {"unusable", "No such file or directory"}};
+    EXPECT_EQ(files, (QJsonArray{first, second})) << result.out;
+    EXPECT_EQ(result.status, 2);
+}
+
+struct UnusableRow {
+    const char* name;
+    QByteArray content;
+    const char* message;
+    friend void PrintTo(const UnusableRow& row, std::ostream* out) { *out << row.name; }
+};
+
+class ToolRefusing : public Tool, public testing::WithParamInterface<UnusableRow> {};
+
+TEST_P(ToolRefusing, is_refused_and_an_earlier_output_stays) {
+    write("in", GetParam().content);
+    write("out", "earlier");
+    const std::string message = std::string("quarn: in: ") + GetParam().message + "\n";
+    const Result check = run({"check", "in"});
+    EXPECT_EQ(check.err, message);
+    EXPECT_EQ(check.status, 2);
+    const Result rewrite = run({"rewrite", "in", "out"});
+    EXPECT_EQ(rewrite.err, message);
+    EXPECT_EQ(rewrite.status, 2);
+    EXPECT_EQ(read("out"), "earlier");
+}
+
+constexpr auto noProject = "not a project file: it has no FDTDProject or FEMProject block";
+const UnusableRow unusableRows[] = {
+    {"empty_file", "", noProject},
+    {"other_text", "Version 8\nbegin_<Something> \nend_<Something>\n", noProject},
+    {"bytes", QByteArray::fromHex("00ff8090feff000a1b5b"), noProject},
+    {"newer_version",
+     "Version 9\nbegin_<FDTDProject> \nend_<FDTDProject>\n",
+     "This project file version is unsupported."},
+};
+INSTANTIATE_TEST_SUITE_P(, ToolRefusing, testing::ValuesIn(unusableRows), rowName<UnusableRow>);
+
+TEST_F(Tool, rewrite_that_cannot_save_says_why_and_leaves_no_output) {
+    write("in", "Version 8\nbegin_<FDTDProject> \nend_<FDTDProject>\n");
+    const Result result = run({"rewrite", "in", "out"});
+    EXPECT_THAT(result.err, HasSubstr("quarn: in: quarn::v6ProjectFile::StreamOutBoundaryConditions: "));
+    EXPECT_EQ(result.status, 2);
+    EXPECT_FALSE(QFile::exists(folder.filePath("out")));
+    EXPECT_EQ(run({"rewrite", "in", "no/such/folder/out"}).status, 2);
+}
+
+TEST_F(Tool, rewrite_works_in_place_whatever_there_is_to_find) {
+    write("run", cleanWith({{"NumberOfPMLLayers 8\n", "Unknown 3\nNumberOfPMLLayers 0x8\n"}, {"\n", "\r\n  "}}));
+    const Result result = run({"rewrite", "run", "run"});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out + result.err, "");
+    EXPECT_EQ(read("run"), clean.toUtf8());
+}
+
+TEST_F(Tool, show_says_what_a_project_holds) {
+    write("run", clean.toUtf8());
+    write("other", "something else\n");
+    const Result result = run({"show", "other", "run"});
+    EXPECT_EQ(result.out,
+              "run: project for the FDTD engine, file version 8\n"
+              "  Display units   mm (1 mm = 0.001 m)\n"
+              "  Timestep        chosen by the engine\n"
+              "  Boundaries      lower              upper\n"
+              "    x             CPML               CPML\n"
+              "    y             PEC                PEC\n"
+              "    z             PMC                PMC\n"
+              "    PML layers    8\n"
+              "  Source          plane wave, scattered field\n"
+              "    Amplitude     1 V/m\n"
+              "    Incidence     theta 0°, phi 45°\n"
+              "    Polarization  phi\n"
+              "    Output file   wave.inc\n"
+              "  Waveform 0      sinusoid, 1 GHz\n"
+              "  Termination     after 1000 timesteps\n"
+              "    Convergence   not watched\n");
+    EXPECT_EQ(result.err, "quarn: other: not a kind of file that is known here\n");
+    EXPECT_EQ(result.status, 2);
+}
+
+TEST_F(Tool, demo_makes_two_projects_without_findings) {
+    const Result result = run({"demo", "new/folder"});
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_THAT(result.out, AllOf(HasSubstr("plane wave"), HasSubstr("unit cell"), HasSubstr("identical")));
+    const QDir made(folder.filePath("new/folder"));
+    EXPECT_EQ(made.entryList(QDir::Files), QStringList({"periodic-cell.project", "plane-wave.project"}));
+    for (const QString& name : made.entryList(QDir::Files)) EXPECT_EQ(run({"check", made.filePath(name)}).status, 0);
+}
+
+TEST_F(Tool, help_and_version_are_results) {
+    EXPECT_EQ(run({"--version"}).out, "quarn " QUARN_VERSION "\n");
+    const Result help = run({"--help"});
+    EXPECT_EQ(help.status, 0);
+    for (const QString name : {"check", "show", "rewrite", "demo"}) {
+        EXPECT_THAT(help.out, HasSubstr("\n  " + name.toStdString() + " "));
+        const Result ofSubcommand = run({name, "--help"});
+        EXPECT_EQ(ofSubcommand.status, 0);
+        EXPECT_THAT(ofSubcommand.out, testing::StartsWith("Usage: quarn " + name.toStdString() + " "));
+    }
+}
+
+TEST_F(Tool, wrong_usage_ends_with_status_2_and_a_hint) {
+    const QVector<QStringList> wrong = {
+        {}, {"chek"}, {"check"}, {"check", "--jsno", "x"}, {"rewrite", "a"}, {"rewrite", "a", "b", "c"}, {"demo"}};
+    for (const QStringList& arguments : wrong) {
+        const Result result = run(arguments);
+        EXPECT_EQ(result.status, 2) << arguments.join(' ').toStdString();
+        EXPECT_EQ(result.out, "");
+        EXPECT_THAT(result.err, AllOf(testing::StartsWith("quarn: "), HasSubstr("--help'")));
+    }
+}
+
+}  // namespace
+}  // namespace quarn::test

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QStringList>
+#include <vector>
+
+#include "BlockText.h"
+#include "LostLines.h"
+
+namespace quarn::tool {
+
+struct LoadedProject;
+
+/// What there is to say about a project file.
+struct Findings {
+    QStringList errors;
+    QStringList warnings;
+    std::vector<LostLine> lost;
+    std::vector<UnclosedBlock> unclosed;
+
+    bool none() const;
+    /// "no findings", "1 error, 3 lines not kept".
+    QString summary() const;
+    QJsonObject toJson() const;
+    /// Prints a line for each finding and the summary, each behind the path.
+    void print(const QString& path) const;
+};
+
+/// Validates the project and compares its text with what it is saved as. A project without boundary conditions gets
+/// some, as it could not be saved otherwise.
+Findings examine(LoadedProject& loaded);
+
+}  // namespace quarn::tool

@@ -1,0 +1,36 @@
+#include "ProjectOnDisk.h"
+
+#include <QSaveFile>
+#include <QTextStream>
+
+#include "Console.h"
+#include "InputFile.h"
+
+namespace quarn::tool {
+
+LoadedProject::LoadedProject(const QString& path, const QByteArray& content) {
+    if (kindOf(content) != FileKind::Project) {
+        throw FileProblem(path, QStringLiteral("not a project file: it has no FDTDProject or FEMProject block"));
+    }
+    DecodedText decoded = decodedAsUtf8(content);
+    text = decoded.text;
+    invalidCharacters = decoded.invalidCharacters;
+    QTextStream stream(&decoded.text, QIODevice::ReadOnly);
+    QStringList errors;
+    if (!project.loadFromStream(stream, errors)) throw FileProblem(path, errors.join(u' '));
+}
+
+QByteArray savedBytes(v6ProjectFile& project) {
+    QByteArray bytes;
+    QTextStream stream(&bytes, QIODevice::WriteOnly);
+    project.saveToStream(stream);
+    return bytes;
+}
+
+void writeFile(const QString& path, const QByteArray& bytes) {
+    QSaveFile file(path);
+    const bool saved = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    if (!saved) throw FileProblem(path, file.errorString());
+}
+
+}  // namespace quarn::tool

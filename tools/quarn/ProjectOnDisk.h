@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include "quarn/ProjectFile.h"
+#include "quarn/v6ProjectFile.h"
+
+namespace quarn::tool {
+
+/// A project that owns what it points to, whether a load created it or somebody handed it over.
+class OwnedProject : public v6ProjectFile {
+public:
+    OwnedProject() = default;
+    ~OwnedProject() { deleteContents(*this); }
+    OwnedProject(const OwnedProject&) = delete;
+    OwnedProject& operator=(const OwnedProject&) = delete;
+};
+
+/// A project and the text that it was loaded from.
+struct LoadedProject {
+    /// Throws a FileProblem when the content is not that of a project file, or of one with an unsupported version.
+    LoadedProject(const QString& path, const QByteArray& content);
+
+    QString text;
+    int invalidCharacters = 0;  ///< that the UTF-8 decoding had to replace
+    OwnedProject project;
+};
+
+/// What the library saves. Throws std::runtime_error when the project cannot be saved.
+QByteArray savedBytes(v6ProjectFile& project);
+
+/// Writes the file so that an earlier one stays as it is on any failure. Throws a FileProblem.
+void writeFile(const QString& path, const QByteArray& bytes);
+
+}  // namespace quarn::tool

@@ -1,0 +1,47 @@
+#include "Quantity.h"
+
+#include <cmath>
+
+namespace quarn::tool {
+
+namespace {
+
+constexpr int significantDigits = 6;
+
+struct Prefix {
+    double factor;
+    const char* symbol;
+};
+
+constexpr Prefix prefixes[] = {
+    {1e12, "T"},
+    {1e9, "G"},
+    {1e6, "M"},
+    {1e3, "k"},
+    {1e0, ""},
+    {1e-3, "m"},
+    {1e-6, "µ"},
+    {1e-9, "n"},
+    {1e-12, "p"},
+    {1e-15, "f"},
+};
+
+/// As it will be printed, so that 999.9999999 counts as 1000.
+double rounded(double value) { return QString::number(value, 'e', significantDigits - 1).toDouble(); }
+
+}  // namespace
+
+QString numberText(double value) { return QString::number(value, 'g', significantDigits); }
+
+QString withPrefix(double value, const QString& unit) {
+    const double size = std::abs(rounded(value));
+    for (const Prefix& prefix : prefixes) {
+        if (size < prefix.factor || size >= 1000 * prefix.factor) continue;
+        return QStringLiteral("%1 %2%3").arg(numberText(value / prefix.factor), QString::fromUtf8(prefix.symbol), unit);
+    }
+    return QStringLiteral("%1 %2").arg(numberText(value), unit);
+}
+
+QString degrees(double angle) { return numberText(angle) + QStringLiteral("°"); }
+
+}  // namespace quarn::tool

@@ -1,0 +1,42 @@
+#include "CommandLine.h"
+#include "Console.h"
+#include "InputFile.h"
+#include "ProjectSheet.h"
+#include "Subcommands.h"
+
+namespace quarn::tool {
+
+namespace {
+
+Sheet sheetOf(const QString& path) {
+    const QByteArray content = readFile(path);
+    switch (kindOf(content)) {
+        case FileKind::Project:
+            return sheetOfProject(path, content);
+        case FileKind::Unknown:
+            break;
+    }
+    throw FileProblem(path, QStringLiteral("not a kind of file that is known here"));
+}
+
+}  // namespace
+
+int runShow(const QStringList& arguments) {
+    CommandLine commandLine(
+        QStringLiteral("show"),
+        QStringLiteral("Says what files are and what they hold. Their content tells the kind, their names do not.\n"
+                       "Known are project files."));
+    commandLine.addFiles(QStringLiteral("FILE"), QStringLiteral("The files to show."));
+    if (!commandLine.parse(arguments)) return ExitFine;
+
+    bool first = true;
+    return forEachFile(commandLine.files(), [&first](const QString& path) {
+        const Sheet sheet = sheetOf(path);
+        if (!first) out() << '\n';
+        first = false;
+        sheet.print();
+        return ExitFine;
+    });
+}
+
+}  // namespace quarn::tool
