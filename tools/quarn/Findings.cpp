@@ -2,6 +2,7 @@
 
 #include <QJsonArray>
 
+#include "CircuitText.h"
 #include "Console.h"
 #include "ProjectOnDisk.h"
 #include "quarn/BoundaryConditions.h"
@@ -50,13 +51,15 @@ QJsonObject Findings::toJson() const {
     for (const UnclosedBlock& block : unclosed) {
         unclosedBlocks << QJsonObject{{QStringLiteral("line"), block.line}, {QStringLiteral("block"), block.name}};
     }
-    return {{QStringLiteral("errors"), QJsonArray::fromStringList(errors)},
+    return {{QStringLiteral("circuit"), QJsonArray::fromStringList(circuit)},
+            {QStringLiteral("errors"), QJsonArray::fromStringList(errors)},
             {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)},
             {QStringLiteral("notKept"), lostLines},
             {QStringLiteral("unclosed"), unclosedBlocks}};
 }
 
 void Findings::print(const QString& path) const {
+    for (const QString& text : circuit) out() << printable(path) << ": " << printable(text) << '\n';
     for (const QString& text : errors) out() << printable(path) << ": error: " << printable(text) << '\n';
     for (const QString& text : warnings) out() << printable(path) << ": warning: " << printable(text) << '\n';
     for (const LostLine& line : lost) {
@@ -73,6 +76,7 @@ void Findings::print(const QString& path) const {
 Findings examine(LoadedProject& loaded) {
     Findings findings;
     v6ProjectFile& project = loaded.project;
+    findings.circuit = circuitLines(project);
     project.checkValidity(findings.errors, findings.warnings);
     if (loaded.invalidCharacters > 0) {
         findings.warnings << QStringLiteral("The file is not UTF-8 throughout; what is not is replaced in %1.")

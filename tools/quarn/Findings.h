@@ -13,6 +13,7 @@ struct LoadedProject;
 
 /// What there is to say about a project file.
 struct Findings {
+    QStringList circuit;  ///< the components and ports; no findings, but what the reader wants to see beside them
     QStringList errors;
     QStringList warnings;
     std::vector<LostLine> lost;

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "Console.h"
+#include "ViaSheet.h"
 
 namespace quarn::tool {
 
@@ -23,6 +24,7 @@ struct Recogniser {
 };
 
 constexpr Recogniser recognisers[] = {
+    {FileKind::MeshlessVias, isViaFile},
     {FileKind::Project, isProject},
 };
 

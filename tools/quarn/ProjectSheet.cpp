@@ -1,5 +1,6 @@
 #include "ProjectSheet.h"
 
+#include "CircuitText.h"
 #include "Console.h"
 #include "ProjectOnDisk.h"
 #include "Quantity.h"
@@ -250,6 +251,7 @@ Sheet sheetOfProject(const QString& path, const QByteArray& content) {
     addBoundaries(sheet, project.getBoundaryConditions());
     addAmbient(sheet, project.getAmbientConditions());
     addSource(sheet, project);
+    addCircuit(sheet, project);
     addWaveforms(sheet, project.getWaveforms());
     addTermination(sheet, project);
     addSteadyState(sheet, project);

@@ -3,6 +3,7 @@
 #include "InputFile.h"
 #include "ProjectSheet.h"
 #include "Subcommands.h"
+#include "ViaSheet.h"
 
 namespace quarn::tool {
 
@@ -13,6 +14,8 @@ Sheet sheetOf(const QString& path) {
     switch (kindOf(content)) {
         case FileKind::Project:
             return sheetOfProject(path, content);
+        case FileKind::MeshlessVias:
+            return sheetOfVias(path, content);
         case FileKind::Unknown:
             break;
     }
@@ -25,7 +28,7 @@ int runShow(const QStringList& arguments) {
     CommandLine commandLine(
         QStringLiteral("show"),
         QStringLiteral("Says what files are and what they hold. Their content tells the kind, their names do not.\n"
-                       "Known are project files."));
+                       "Known are project files and files of meshless vias."));
     commandLine.addFiles(QStringLiteral("FILE"), QStringLiteral("The files to show."));
     if (!commandLine.parse(arguments)) return ExitFine;
 
