@@ -127,7 +127,8 @@ void ComponentManager::clearComponents() {
 
 void ComponentManager::insert(CircuitComponent* component, bool checkUniqueness) {
     const QString& name = component->getComponentName();
-    if (checkUniqueness && m_names.contains(name)) {
+    const auto hasName = [&name](const CircuitComponent* listed) { return listed->getComponentName() == name; };
+    if (checkUniqueness && m_names.contains(name) && std::any_of(m_components.begin(), m_components.end(), hasName)) {
         throw std::runtime_error("Unable to insert new circuit component: name <" + name.toLatin1().toStdString() +
                                  "> is not unique");
     }

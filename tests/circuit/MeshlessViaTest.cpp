@@ -1,0 +1,179 @@
+#include <QByteArray>
+#include <QFile>
+#include <QTemporaryDir>
+#include <sstream>
+
+#include "circuit/CircuitTestSupport.h"
+#include "quarn/MeshlessVia.h"
+
+namespace quarn::test {
+namespace {
+
+using P = QualifiedPoint;
+
+std::string bytesOf(const QByteArray& hex) { return QByteArray::fromHex(hex).toStdString(); }
+
+const std::string check = bytesOf("40e2010000000000");
+const std::string noVias = bytesOf("0000000000000000"), twoVias = bytesOf("0200000000000000");
+const std::string coaxialBytes = bytesOf(
+    "000000000000f03f 0000000000000040 000000000000e0bf 00000000 07000000"
+    "9a9999999999b93f 0000000000000840 0000000000001040 03000000 02010000"
+    "000000000000d03f 000000000000c03f 0000000000001440 0000000000000040 000000000000f03f");
+const std::string unsetBytes = bytesOf(
+    "0000000000000000 0000000000000000 0000000000000000 ffffffff ffffffff"
+    "0000000000000000 0000000000000000 0000000000000000 ffffffff ffffffff"
+    "000000000000f0bf 000000000000f0bf 0000000000000000 0000000000000000 0000000000000000");
+
+MeshlessVia coaxialVia() {
+    MeshlessVia via(P(1, 2, -0.5, P::OnVertex, 7), P(0.1, 3, 4, P::InElement, 258), 0.25, 0.125, 5, 2);
+    via.setInnerDielectricPermittivity(1);
+    return via;
+}
+
+class MeshlessViaFile : public testing::Test {
+protected:
+    std::string write(const std::string& bytes) {
+        QFile file(m_directory.filePath("vias Ω"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes.data(), bytes.size()) >= 0);
+        return file.fileName().toStdString();
+    }
+    QTemporaryDir m_directory;
+};
+
+TEST_F(MeshlessViaFile, bytes) {
+    const std::vector<MeshlessVia> vias{coaxialVia(), MeshlessVia()};
+    const std::string bytes = check + twoVias + coaxialBytes + unsetBytes, path = write(std::string(999, 'x'));
+    MeshlessVia::write_binary(vias, path);
+    QFile file(QString::fromStdString(path));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll().toHex().toStdString(), QByteArray::fromStdString(bytes).toHex().toStdString());
+    EXPECT_EQ(MeshlessVia::getNbMeshlessVias(path), 2U);
+    EXPECT_EQ(MeshlessVia::load_binary(path), vias);
+    std::stringstream stream;
+    MeshlessVia::write_binary_stream({}, stream);
+    EXPECT_EQ(stream.str(), check + noVias);
+    std::vector<MeshlessVia> list = vias;
+    MeshlessVia::read_binary_stream(list, stream);
+    EXPECT_TRUE(list.empty()) << "the list is replaced";
+}
+
+// The input of a pipe: no position to ask for.
+struct Pipe : std::streambuf {
+    explicit Pipe(std::string text) : m_text(std::move(text)) {
+        setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
+    }
+    std::string m_text;
+};
+
+TEST(MeshlessViaStream, needs_no_position_and_leaves_what_follows) {
+    const std::vector<MeshlessVia> vias(5000, coaxialVia());
+    std::stringstream written;
+    MeshlessVia::write_binary_stream(vias, written);
+    Pipe pipe(written.str() + "rest");
+    std::istream stream(&pipe);
+    std::vector<MeshlessVia> list;
+    MeshlessVia::read_binary_stream(list, stream);
+    EXPECT_EQ(list, vias);
+    std::string rest;
+    stream >> rest;
+    EXPECT_EQ(rest, "rest");
+    std::string shortText = written.str();
+    shortText.pop_back();
+    std::istringstream shortStream(shortText);
+    EXPECT_EQ(thrownBy([&] { MeshlessVia::read_binary_stream(list, shortStream); }), "Unable to read meshless vias");
+    EXPECT_TRUE(list.empty());
+}
+
+TEST_F(MeshlessViaFile, failures_have_messages_and_leave_the_list_empty) {
+    const std::string order = "Unable to read meshless vias, byte order check failed";
+    const std::string content = "Unable to read meshless vias";
+    struct Row {
+        std::string name, bytes, message;
+        std::uint64_t count;  // as the counter reads it; its message where it cannot
+    };
+    const Row rows[] = {
+        {"empty", "", order, 0},
+        {"short_check", check.substr(1), order, 0},
+        {"check_of_another_byte_order", bytesOf("000000000001e240") + noVias, order, 0},
+        {"no_count", check, content, 0},
+        {"short_count", check + noVias.substr(1), content, 0},
+        {"three_named_and_two_there", check + bytesOf("0300000000000000") + coaxialBytes + unsetBytes, content, 3},
+        {"one_byte_short", check + bytesOf("0100000000000000") + coaxialBytes.substr(1), content, 1},
+        {"hostile_count", check + bytesOf("0000000000000020") + coaxialBytes, content, std::uint64_t(1) << 61},
+        {"count_that_wraps_to_0", check + bytesOf("0000000000000080"), content, std::uint64_t(1) << 63},
+        {"largest_count", check + bytesOf("ffffffffffffffff") + unsetBytes, content, ~std::uint64_t(0)},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const std::string path = write(row.bytes);
+        std::vector<MeshlessVia> list(1);
+        EXPECT_EQ(thrownBy([&] { MeshlessVia::read_binary(list, path); }), row.message);
+        EXPECT_TRUE(list.empty());
+        for (const bool seekable : {true, false}) {
+            list.resize(1);
+            std::stringbuf buffer(row.bytes);
+            Pipe pipe(row.bytes);
+            std::istream stream(seekable ? static_cast<std::streambuf*>(&buffer) : &pipe);
+            EXPECT_EQ(thrownBy([&] { MeshlessVia::read_binary_stream(list, stream); }), row.message);
+            EXPECT_TRUE(list.empty());
+        }
+        std::uint64_t count = 0;
+        EXPECT_EQ(thrownBy([&] { count = MeshlessVia::getNbMeshlessVias(path); }),
+                  row.message == order ? "Unable to read <" + path + ">, byte order check failed" : "nothing");
+        EXPECT_EQ(count, row.count);
+    }
+}
+
+TEST_F(MeshlessViaFile, that_cannot_be_opened) {
+    const std::string path = m_directory.filePath("no folder/vias").toStdString();
+    std::vector<MeshlessVia> list(1);
+    EXPECT_EQ(MeshlessVia::getNbMeshlessVias(path), 0U);
+    EXPECT_EQ(thrownBy([&] { MeshlessVia::read_binary(list, path); }),
+              "Unable to read <" + path + ">, byte order check failed");
+    EXPECT_TRUE(list.empty());
+    EXPECT_EQ(thrownBy([&] { MeshlessVia::write_binary({}, path); }), "Unable to write <" + path + ">");
+}
+
+TEST(MeshlessViaModel, radii) {
+    const P a, b;
+    const MeshlessVia solid(a, b, 0.5, 1, 2);
+    EXPECT_EQ(solid.getInnerRadius(), 0);
+    EXPECT_EQ(solid.getPermeability() - solid.getResistivity(), 1);
+    EXPECT_EQ(thrownBy([&] { MeshlessVia(a, b, 0.1, 0.1, 0, 0); }),
+              "invalid inner/outer radius for Meshless Via: Rinner=0.1, Router=0.1");
+    EXPECT_EQ(thrownBy([&] { MeshlessVia(a, b, 1e-7, 1.0 / 3, 0, 0); }),
+              "invalid inner/outer radius for Meshless Via: Rinner=0.333333, Router=1e-07");
+}
+
+TEST(MeshlessViaModel, every_value_counts_for_equality) {
+    const auto via = [](int changed) {
+        double v[14] = {};
+        int ids[4] = {};
+        if (changed < 14) v[changed] = 0.25;
+        if (changed >= 14 && changed < 18) ids[changed - 14] = 1;
+        v[6] += 1;  // the outer radius is above the inner one
+        MeshlessVia result(P(v, P::Type(ids[0]), ids[1]), P(v + 3, P::Type(ids[2]), ids[3]), v[6], v[7], v[8], v[9]);
+        result.setInnerDielectricPermittivity(v[10]);
+        return result;
+    };
+    EXPECT_EQ(via(99), via(99));
+    for (const int changed : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 14, 15, 16, 17}) {
+        EXPECT_NE(via(99), via(changed)) << changed;
+        EXPECT_FALSE(via(99) == via(changed)) << changed;
+    }
+}
+
+TEST(MeshlessViaModel, text_forms) {
+    EXPECT_EQ(P().str(), "[(0, 0, 0)]");
+    EXPECT_EQ(P(0.1, -2, 1234567, P::OnEdge, 5).str(), "[(0.1, -2, 1.23457e+06) on edge 5]");
+    EXPECT_EQ(P(1, 2, 3, P::OnFace, -1).str(), "[(1, 2, 3) on face -1]");
+    EXPECT_EQ(P(1, 2, 3, P::Type(4), 5).str(), "[(1, 2, 3)]");
+    EXPECT_EQ(coaxialVia().str(),
+              "MESHLESS VIA ([(1, 2, -0.5) on vertex 7] -> [(0.1, 3, 4) in element 258])radius=[0.125 , 0.25], "
+              "resistivity=5, permeability=2, inner dielectric permittivity=1");
+    EXPECT_EQ(MeshlessVia().str(),
+              "MESHLESS VIA ([(0, 0, 0)] -> [(0, 0, 0)]), radius=-1, resistivity=0, permeability=0");
+}
+
+}  // namespace
+}  // namespace quarn::test
