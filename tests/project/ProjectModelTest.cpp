@@ -1,0 +1,116 @@
+#include "TestSupport.h"
+#include "project/GoldenProject.h"
+
+namespace quarn::test {
+namespace {
+
+using B = BoundaryConditions;
+using Units = QPair<QString, double>;
+
+TEST(ProjectModel, defaults) {
+    EXPECT_EQ(OwningProject().getDisplayUnits(), Units("m", 1.0));
+    EXPECT_EQ(OwningProject().getModelingUnits(), Units("m", 1.0));
+    ProjectFile base;
+    EXPECT_EQ(base.getDisplayUnits(), Units("", 0.0));
+    EXPECT_EQ(base.getEngine(), Engine::FDTD);
+    EXPECT_EQ(base.getCFL(), 1.0F);
+    EXPECT_EQ(*base.getDFTParameters(), DFTParameters(false, 1));
+    EXPECT_TRUE(base.saveFieldsOnFarZoneBoxForPostProcessing() && base.computeSystemDissipatedPower());
+    deleteContents(base);
+    const TerminationCriteria criteria(1, 2, 0);
+    EXPECT_FALSE(criteria.convergenceEnabled() || criteria.wallClockEnabled());
+    EXPECT_TRUE(criteria.flatLineDetectionEnabled() && TerminationCriteria(1, 2, 3).wallClockEnabled());
+}
+
+template <class T>
+void expectCopy(const T* a, const T* b) {
+    EXPECT_NE(a, b);
+    EXPECT_EQ(*a, *b);
+}
+
+template <class Wave>
+void expectDeepCopy(Wave* wave) {
+    OwningProject source;
+    describe(source);
+    delete static_cast<TFSFPlaneWave*>(source.getPlaneWave());
+    source.setPlaneWave(wave);
+    source.setPathToGeometryFile("geometry");
+    v6ProjectFile copy(source);
+    expectCopy(copy.getBoundaryConditions(), source.getBoundaryConditions());
+    expectCopy(copy.getAmbientConditions(), source.getAmbientConditions());
+    expectCopy(copy.getTerminationCriteria(), source.getTerminationCriteria());
+    expectCopy(copy.getTdAfsTerminationCriteria(), source.getTdAfsTerminationCriteria());
+    expectCopy(copy.getDFTParameters(), source.getDFTParameters());
+    expectCopy(static_cast<Wave*>(copy.getPlaneWave()), wave);
+    EXPECT_EQ(copy.getWaveforms(), source.getWaveforms()) << "waveforms are shared";
+    EXPECT_EQ(copy.getPathToGeometryFile(), "geometry");
+    EXPECT_EQ(saved(copy), saved(source));
+    copy.getWaveforms().clear();
+    deleteContents(copy);
+}
+
+TEST(ProjectModel, copy_constructor_copies_objects_and_shares_waveforms) {
+    expectDeepCopy(new PlaneWave(1, 2, 3, PlaneWave::Theta, "a"));
+    expectDeepCopy(new TFSFPlaneWave(1, 2, 3, PlaneWave::Theta, "a", true, false, true, false, true, true));
+    expectDeepCopy(new GaussianBeam(1, 2, 3, PlaneWave::Theta, "a", 4, 5, 6, 7));
+}
+
+TEST(ProjectModel, assignment_shares_the_objects) {
+    OwningProject source;
+    describe(source);
+    v6ProjectFile other;
+    delete other.getDFTParameters();
+    other = source;
+    EXPECT_EQ(other.getBoundaryConditions(), source.getBoundaryConditions());
+    EXPECT_EQ(other.getDFTParameters(), source.getDFTParameters());
+    EXPECT_EQ(other.getPlaneWave(), source.getPlaneWave());
+    EXPECT_EQ(saved(other), saved(source));
+}
+
+TEST(ProjectModel, contents_are_deleted_once_and_forgotten) {
+    v6ProjectFile project;
+    describe(project);
+    project.getWaveforms().push_back(project.getWaveforms().front());
+    deleteContents(project);
+    EXPECT_TRUE(project.getWaveforms().empty());
+    EXPECT_EQ(project.getPlaneWave(), nullptr);
+    deleteContents(project);
+}
+
+TEST(ProjectModel, load_replaces_objects_of_the_caller_without_deleting_them) {
+    B boundaries(B::PEC, B::PEC, B::PEC, B::PEC, B::PEC, B::PEC, 1);
+    OwningProject project;
+    project.setBoundaryConditions(&boundaries);
+    load(project, expanded("Version 8; FDTDProject{ RunParameters{ OuterBoundaries{ } OuterBoundaries{ } } }"));
+    EXPECT_NE(project.getBoundaryConditions(), &boundaries);
+    EXPECT_EQ(boundaries.getNumberOfPECBoundaries(), 6);
+}
+
+TEST(BoundaryConditionsModel, sides_and_derived_answers) {
+    B conditions(B::PEC, B::Liao, B::PEC, B::Periodic, B::ESymmetry, B::MSymmetry, 8);
+    EXPECT_EQ(conditions.getNumberOfPECBoundaries(), 2);
+    EXPECT_TRUE(conditions.hasPECBoundary() && conditions.hasLiaoBoundary() && conditions.hasPeriodicBoundary());
+    EXPECT_FALSE(conditions.hasCPMLBoundary() || conditions.hasPMCBoundary());
+    for (const int noSide : {-1, 6}) conditions.setBoundaryType(static_cast<BoundingBoxSide>(noSide), B::CPML);
+    conditions.setBoundaryType(BoundingBoxSide::Top, B::PMC);
+    EXPECT_EQ(conditions.getUpperZ(), B::PMC);
+    EXPECT_EQ(conditions.getBoundaryType(static_cast<BoundingBoxSide>(6)), B::PEC) << "as lower X";
+    EXPECT_FALSE(conditions.hasPMCBoundary()) << "the answer is cached";
+    conditions.cacheVariables();
+    EXPECT_TRUE(conditions.hasPMCBoundary());
+    EXPECT_FALSE(conditions.hasCPMLBoundary()) << "no side outside the box may have been set";
+}
+
+TEST(BoundaryConditionsModel, numbers_and_names_of_types) {
+    for (int type = 0; type < 7; ++type) {
+        const QString name = v6ProjectFile::OuterBoundaryTypeToDescriptor(static_cast<B::BoundaryType>(type));
+        EXPECT_EQ(v6ProjectFile::OuterBoundaryDescriptorToType(type), type);
+        EXPECT_EQ(v6ProjectFile::OuterBoundaryDescriptorToType(name), type);
+    }
+    EXPECT_EQ(v6ProjectFile::OuterBoundaryDescriptorToType(-1), B::CPML);
+    EXPECT_EQ(v6ProjectFile::OuterBoundaryDescriptorToType(7), B::CPML);
+    EXPECT_EQ(v6ProjectFile::OuterBoundaryTypeToDescriptor(static_cast<B::BoundaryType>(7)), "UnknownType");
+}
+
+}  // namespace
+}  // namespace quarn::test

@@ -1,0 +1,380 @@
+#include <QFile>
+#include <QLocale>
+#include <QTemporaryDir>
+#include <QTextCodec>
+#include <clocale>
+#include <random>
+#include <stdexcept>
+
+#include "TestSupport.h"
+#include "project/GoldenProject.h"
+
+namespace quarn::test {
+namespace {
+
+using A = AmbientConditions;
+
+void expectLoads(const QString& text, const QString& savedText) {
+    onBothStreams(text, [&](QTextStream& stream) {
+        OwningProject project;
+        QStringList errors;
+        EXPECT_TRUE(project.loadFromStream(stream, errors));
+        EXPECT_EQ(saved(project), savedText);
+    });
+}
+
+TEST(ProjectText, every_section_is_written_in_order_and_read_back) {
+    OwningProject project;
+    describe(project);
+    EXPECT_EQ(saved(project), golden);
+    for (const QString& text : {golden, QString(golden).replace("\n", "\r\n"), golden.chopped(1)}) {
+        expectLoads(text, golden);
+    }
+}
+
+// In short form: a project file with its three frames, and boundaries unless the run parameters bring their own.
+const QString sides =
+    "LowerX ORBC_CPML; UpperX ORBC_CPML; LowerY ORBC_CPML; UpperY ORBC_CPML; LowerZ ORBC_CPML; "
+    "UpperZ ORBC_CPML; NumberOfPMLLayers 8; ";
+const QString metres = "Name m; Conversion 1; ";
+
+QString fileOf(const QString& run, const QString& requests, const QString& units, const char* project = "FDTDProject") {
+    const QString boundaries = run.startsWith("OuterBoundaries{") ? QString() : "OuterBoundaries{ " + sides + "} ";
+    return expanded("Version 8; " + QString(project) + "{ Units{ " + units + "} RunParameters{ " + boundaries + run +
+                    "} RequestResults{ " + requests + "} }");
+}
+
+const QString tdAfs =
+    "TdAfsTerminationCriteria{ StartFrequency 1000000000; StopFrequency 10000000000; NumberOfFrequencyPoints 1000; "
+    "ENERGY; INTERPOLATION; NumberOfConsecutivePasses 3; } ";
+const QString wave = "Amplitude 1; IncidentTheta 2; IncidentPhi 3; ThetaPolarization; OutputFileName my wave.out; ";
+const QString scattered = "ScatteredFieldPlaneWave{ " + wave + "} ";
+const QString cfl = "UseUsersCFL 0.5; ";
+const QString frequency = "SteadyStateFrequencies{ FrequencyFolder 1 F; } ";
+const QString frequencySaved = "DFTParameters{ DataSampling 1; } SteadyStateStorageMethodIsMemory; " + frequency;
+
+QString without(const QString& part, QString text) { return text.remove(part); }
+
+// clang-format off
+const struct {
+    const char* behaviour;
+    QString run, runSaved;
+    QString requests = "", requestsSaved = "";
+    QString units = "", displaySaved = metres, modelingSaved = metres;
+} sectionRows[] = {
+    {"boundaries drop unknown lines and default to cpml",
+     "OuterBoundaries{ foo LowerX ORBC_PEC; bar{ LowerX ORBC_PEC; } NumberOfPMLLayers 8; } ", ""},
+    {"boundary names are exact and pml is cpml",
+     "OuterBoundaries{ UpperZ ORBC_PML; LowerX orbc_pec; UpperX ORBC_FOO; LowerY ORBC_MSYMMETRY; NumberOfPMLLayers 8; } ",
+     "OuterBoundaries{ " + QString(sides).replace("LowerY ORBC_CPML", "LowerY ORBC_MSYMMETRY") + "} "},
+    {"periodic parameters drop unknown words and no waveform is known yet",
+     "OuterBoundaries{ PeriodicParameters{ foo Phi 30; Frequency 7; UseWaveformFrequency; UseScanAngle; } "
+     "NumberOfPMLLayers 8; } Waveform{ Sinusoid{ frequency 9; } } ",
+     "OuterBoundaries{ " + sides + "PeriodicParameters{ UseScanAngle; Phi 30; Theta 0; Frequency 7; } } "
+     "Waveform{ Sinusoid{ frequency 9; } } "},
+    {"missing number takes the close line so that the rest are run parameters",
+     "OuterBoundaries{ NumberOfPMLLayers; } UseUsersCFL 0.5; ",
+     "OuterBoundaries{ " + QString(sides).replace('8', '0') + "} UseUsersCFL 0.5; ", frequency, ""},
+    {"ambient conditions default", "AmbientConditions{ } ",
+     "AmbientConditions{ BackgroundMedium{ Temperature 298.14999389648438; } Top{ HeatTransferCoefficient 0; } "
+     "Bottom{ HeatTransferCoefficient 0; } } "},
+    {"ambient conditions drop what they do not know",
+     "AmbientConditions{ foo bar; Left{ HeatTransferCoefficient 1; } Bottom{ foo HeatTransferCoefficient 2; } "
+     "Top{ HeatTransferCoefficient 3; } HeatTransferCoefficient 4; BackgroundMedium{ Temperature 5; } } ",
+     "AmbientConditions{ BackgroundMedium{ Temperature 5; } Top{ HeatTransferCoefficient 3; } "
+     "Bottom{ HeatTransferCoefficient 2; } } "},
+    {"convergence defaults to medium density without flat line detection",
+     "TerminationCriteria{ ConvergenceEnabled; Threshhold -30; SamplingInterval 1; WindowSize 2; } ",
+     "TerminationCriteria{ MaximumTimeSteps 0; MaximumWallClockSeconds 0; ConvergenceEnabled; Threshhold -30; "
+     "SamplingInterval 1; WindowSize 2; MinimumTimeSteps 0; MEDIUM_DENSITY; " + tdAfs + "} "},
+    {"termination lines in any order",
+     "TerminationCriteria{ TdAfsTerminationCriteria{ FFT; foo SPARAMETERS; NumberOfConsecutivePasses 9; } foo{ } "
+     "LOW_DENSITY; foo HIGH_DENSITY; WindowSize -2; ConvergenceEnabled; MinimumTimeSteps 4294967295; "
+     "FlatLineDetectionEnabled; SamplingInterval 1; Threshhold -30; MaximumWallClockSeconds 60; } ",
+     "TerminationCriteria{ MaximumTimeSteps 0; MaximumWallClockSeconds 60; ConvergenceEnabled; Threshhold -30; "
+     "SamplingInterval 1; WindowSize -2; MinimumTimeSteps 4294967295; FlatLineDetectionEnabled; LOW_DENSITY; " +
+     QString(tdAfs).replace("INTERPOLATION", "FFT").replace("Passes 3", "Passes 9") + "} "},
+    {"minimum is not written without convergence", "TerminationCriteria{ MinimumTimeSteps 9; HIGH_DENSITY; } ",
+     "TerminationCriteria{ MaximumTimeSteps 0; MaximumWallClockSeconds 0; } "},
+    {"bad number ends its section whose close line ends the run parameters",
+     "TerminationCriteria{ MaximumTimeSteps x; MaximumTimeSteps 5; } UseUsersCFL 0.5; ",
+     "TerminationCriteria{ MaximumTimeSteps 0; MaximumWallClockSeconds 0; } ", frequency, frequencySaved},
+    {"old convergence with minimum",
+     "Convergence{ foo{ } ConvergenceRequireMinimumNumberOfTimeSteps; ConvergenceMinimumNumberOfTimeSteps 500; } ",
+     "TerminationCriteria{ MaximumTimeSteps 501; MaximumWallClockSeconds 0; } "},
+    {"old convergence needs flag and minimum", "Convergence{ ConvergenceMinimumNumberOfTimeSteps 500; } "
+     "Convergence{ ConvergenceRequireMinimumNumberOfTimeSteps; } ", ""},
+    {"wave lines in any order",
+     "SourceType{ foo AreaSourceFile  my area.txt ; ScatteredFieldPlaneWave{ OutputFileName  my wave.out ; "
+     "ThetaPolarization; IncidentPhi 3; IncidentTheta 2; Amplitude 1; } } ",
+     "SourceType{ " + scattered + "AreaSourceFile my area.txt; } "},
+    {"tfsf wave writes active faces only",
+     "SourceType{ TotalFieldScatteredFieldPlaneWave{ ZLower; YLower; XLower; " + wave + "} } ",
+     "SourceType{ TotalFieldScatteredFieldPlaneWave{ " + wave + "XLower; YLower; ZLower; } } "},
+    {"gaussian beam", "SourceType{ GaussianBeam{ Radius 7; ZFocus 6; YFocus 5; XFocus 4; " + wave + "} } ",
+     "SourceType{ GaussianBeam{ " + wave + "XFocus 4; YFocus 5; ZFocus 6; Radius 7; } } "},
+    {"beam needs a radius", "SourceType{ GaussianBeam{ XFocus 4; YFocus 5; ZFocus 6; " + wave + "} } " + cfl, cfl},
+    {"wave needs a file name", "SourceType{ " + without("my wave.out", scattered) + "} " + cfl, cfl},
+    {"wave needs numbers", "SourceType{ " + QString(scattered).replace("Phi 3", "Phi nan") + "} " + cfl, cfl},
+    {"last complete wave counts",
+     "SourceType{ " + without("my", scattered) + scattered + "GaussianBeam{ " + wave + "} } ",
+     "SourceType{ " + scattered + "} "},
+    {"unknown key of a wave loses it and the rest of the run parameters",
+     "SourceType{ ScatteredFieldPlaneWave{ " + wave + "XLower; } } " + cfl, "", frequency, frequencySaved},
+    {"area source file without wave is not written", "SourceType{ AreaSourceFile area.txt; } ", ""},
+    {"waveform numbers default to zero each time and sections add up",
+     "Waveform{ Gaussian{ pulseWidth 64; } Step{ } } Waveform{ GaussianDerivative{ } } ",
+     "Waveform{ Gaussian{ pulseWidth 64; } Step{ pulseWidth 0; } GaussianDerivative{ pulseWidth 0; } } "},
+    {"unknown waveforms and words are dropped",
+     "Waveform{ Sinusoid{ frequency 9; pulseWidth 7; } bar{ Step{ } } foo; ModulatedGaussian{ foo frequency 3; } } ",
+     "Waveform{ Sinusoid{ frequency 9; } ModulatedGaussian{ pulseWidth 0; frequency 3; } } "},
+    {"iec waveform ends its section and the run parameters",
+     "Waveform{ Step{ } IEC_61000_4_2{ } Gaussian{ } } UseTimestep 1; ",
+     "Waveform{ Step{ pulseWidth 0; } IEC_61000_4_2{ } } ", frequency, frequencySaved},
+    {"close line of another name is passed over", "Waveform{ Gaussian{ end_<gaussian>; pulseWidth 64; } } ",
+     "Waveform{ Gaussian{ pulseWidth 64; } } "},
+    {"samples are written up to the maximum of timesteps",
+     "TerminationCriteria{ MaximumTimeSteps 1; } "
+     "Waveform{ UserDefined{ foo; Source{ 1 2.5; 3; } Derivative{ 0.25; -1; 7; } bar{ 8; } } "
+     "UserDefined{ Derivative{ 8; 9; } Source{ 5; 6; } } } ",
+     "TerminationCriteria{ MaximumTimeSteps 1; MaximumWallClockSeconds 0; } "
+     "Waveform{ UserDefined{ Source{ 1; 2.5; } Derivative{ 0.25; -1; } } "
+     "UserDefined{ Source{ 5; 6; } Derivative{ 8; 9; } } } "},
+    {"old dft parameters are skipped unless used", "Waveform{ DFTParameters{ NormalizeFields; } UseDFT; Step{ } } ",
+     "Waveform{ Step{ pulseWidth 0; } } ", frequency, frequencySaved},
+    {"old dft parameters add frequencies",
+     "Waveform{ foo UseDFT; DFTParameters{ DFTFrequencies{ foo SingleFrequency 1 A; SingleFrequency 2 B; } "
+     "NormalizeFields; DissipatedPower; SSEFieldSampling 4; SSHFieldSampling 5; SSEFieldStorage 6; } Step{ } } ",
+     "Waveform{ Step{ pulseWidth 0; } } ", frequency,
+     "DFTParameters{ NormalizeFields; DataSampling 4; } SteadyStateStorageMethodIsMemory; "
+     "SteadyStateFrequencies{ FrequencyFolder 2 B; FrequencyFolder 1 F; } "},
+    {"timestep goes before courant factor", "UseUsersCFL 0.5; UseTimestep 0.25; ", "UseTimestep 0.25; "},
+    {"run parameters drop what they do not know",
+     "foo UseTimestep 1; BatchFrequencies{ UseTimestep 1; } bar{ UseTimestep 1; } UseUsersCFL 0.5; ", cfl},
+    {"result settings are not written without frequencies", "", "",
+     "SteadyStateStorageMethodIsHardDisk; DontSaveFarZoneBoxFile; DFTParameters{ DataSampling 3; } ", ""},
+    {"result lines count only as a whole", "", "",
+     "\tSteadyStateStorageMethodIsHardDisk; DontSaveFarZoneBoxFile ; dontComputeSystemDissipatedPower; " + frequency,
+     "DFTParameters{ DataSampling 1; } SteadyStateStorageMethodIsHardDisk; " + frequency},
+    {"later result lines count and folders have no blanks", "", "",
+     "SteadyStateFrequencies{ foo FrequencyFolder 1 A; FrequencyFolder 2 my folder; foo{ FrequencyFolder 3 B; } } "
+     "SteadyStateStorageMethodIsHardDisk; SteadyStateStorageMethodIsMemory; foo{ DFTParameters{ } } "
+     "DFTParameters{ foo{ NormalizeFields; } DataSampling 7; foo DataSampling 6; } DontComputeSystemDissipatedPower; ",
+     "DFTParameters{ DataSampling 7; } SteadyStateStorageMethodIsMemory; DontComputeSystemDissipatedPower; "
+     "SteadyStateFrequencies{ FrequencyFolder 2 my; } "},
+    {"display units are read and modeling units are not", "", "", "", "",
+     "Display{ Name mm; Conversion 0.001; } Modeling{ Name inch; Conversion 2; } ", "Name mm; Conversion 0.001; "},
+    {"modeling units are read when they come first", "", "", "", "",
+     "Modeling{ Name mm; Conversion 2; } Display{ Name inch; Conversion 3; } ", metres, "Name mm; Conversion 2; "},
+    {"units without inner block are display units", "", "", "", "",
+     "foo{ Name inch; } foo Name inch; Name Å; Conversion 5e-324; ", "Name Å; Conversion 4.9406564584124654e-324; "},
+    {"unit name is one word", "", "", "", "", "Display{ Name my m; Conversion 2; } ", "Name my; Conversion 2; "},
+    {"missing unit name takes the next word", "", "", "", "", "Display{ Name ; Conversion 2; } ",
+     "Name Conversion; Conversion 1; "},
+};
+// clang-format on
+
+TEST(ProjectText, sections_loaded_and_saved) {
+    for (const auto& row : sectionRows) {
+        SCOPED_TRACE(row.behaviour);
+        const QString units = "Display{ " + row.displaySaved + "} Modeling{ " + row.modelingSaved + "} ";
+        expectLoads(fileOf(row.run, row.requests, row.units), fileOf(row.runSaved, row.requestsSaved, units));
+    }
+}
+
+TEST(ProjectText, first_line_decides_on_the_version) {
+    // clang-format off
+    const struct { const char* line; unsigned major, minor; } rows[] = {
+        {"Version 8", 8, 0}, {"Version 9", 9, 0}, {"Version 10", 1, 0}, {"Version", 0, 0}, {"My Version 9", 0, 0},
+        {"FDTD file version 3.28", 3, 28}, {"Version x", 0, 0}, {"# FDTD file version 9.01", 9, 1}, {"", 0, 0}};
+    // clang-format on
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        QString text = QString(golden).replace("Version 8", row.line);
+        QTextStream stream(&text, QIODevice::ReadOnly);
+        OwningProject project;
+        QStringList errors;
+        const bool supported = project.loadFromStream(stream, errors);
+        EXPECT_EQ(supported, row.major <= 8);
+        EXPECT_EQ(project.GetMajorFileVersionNumber(), row.major);
+        EXPECT_EQ(project.GetMinorFileVersionNumber(), row.minor);
+        EXPECT_EQ(project.getBoundaryConditions() != nullptr, supported);
+        EXPECT_EQ(errors, supported ? QStringList() : QStringList("This project file version is unsupported."));
+    }
+    QString text = golden;
+    QTextStream stream(&text);
+    stream.setStatus(QTextStream::ReadCorruptData);
+    unsigned major = 41, minor = 42;
+    v6ProjectFile::getFileVersion(stream, major, minor);
+    EXPECT_EQ(major * 100 + minor, 4142U) << "a stream in error leaves both";
+}
+
+TEST(ProjectText, outer_block_names_the_engine_and_is_the_only_one_read) {
+    const QString inches = "Display{ Name inch; Conversion 0.025399999999999999; } Modeling{ ";
+    const QString fem = fileOf("", "", inches + "Name mm; Conversion 0.001; } ", "FEMProject");
+    OwningProject project;
+    project.setModelingUnits({"mm", 0.001});
+    load(project, fem);
+    EXPECT_EQ(project.getEngine(), Engine::FEM);
+    EXPECT_EQ(saved(project), fem);
+    load(project, "Version 8\nbegin_<FDTDProject> \nfoo\nend_<FDTDProject>\n");
+    EXPECT_EQ(project.getEngine(), Engine::FDTD);
+
+    const QString foo = expanded("Version 8; Foo{ RunParameters{ OuterBoundaries{ } } }");
+    const QString closed = expanded("Version 8; FDTDProject{ }"), lower = QString(golden).replace("FDTDP", "fdtdP");
+    for (const QString& text : {QString(), "Version 8\nfoo\n" + golden, lower, foo + golden, closed + golden.mid(10)}) {
+        OwningProject other;
+        load(other, text);
+        EXPECT_EQ(other.getBoundaryConditions(), nullptr) << text.left(40).toStdString();
+    }
+}
+
+TEST(ProjectText, load_resets_some_settings_and_keeps_or_extends_others) {
+    OwningProject project;
+    project.setUseUsersCFL(true);
+    project.setUseExplicitlySuppliedTimestep(true);
+    project.setSaveFieldsOnFarZoneBoxForPostProcessing(false);
+    project.setComputeSystemDissipatedPower(false);
+    project.getWaveforms() = {new Waveform(Waveform::Sinusoid, 0, 9, {}, {})};
+    project.getSteadyStateFrequencies() = {{5, "A"}};
+    auto* tdAfsCriteria = new TdAfsTerminationCriteria;
+    project.setTdAfsTerminationCriteria(tdAfsCriteria);
+    const QString run =
+        "OuterBoundaries{ PeriodicParameters{ UseScanAngle; Frequency 7; UseWaveformFrequency; } } "
+        "TerminationCriteria{ } Waveform{ Step{ } } ";
+    load(project, fileOf(run, frequency, ""));
+    EXPECT_FALSE(project.getUseUsersCFL() || project.getUseExplicitlySuppliedTimestep());
+    EXPECT_TRUE(project.saveFieldsOnFarZoneBoxForPostProcessing());
+    EXPECT_FALSE(project.computeSystemDissipatedPower());
+    EXPECT_EQ(project.getWaveforms().size(), 2U);
+    EXPECT_EQ(project.getSteadyStateFrequencies().size(), 2U);
+    EXPECT_EQ(project.getTdAfsTerminationCriteria(), tdAfsCriteria);
+    EXPECT_EQ(project.getBoundaryConditions()->getFrequency(), 9.0F) << "of the waveform that was there";
+}
+
+TEST(ProjectText, members_that_a_save_does_not_show) {
+    OwningProject project, other;
+    const QString minimum = "ConvergenceRequireMinimumNumberOfTimeSteps; ConvergenceMinimumNumberOfTimeSteps 500; ";
+    load(project,
+         fileOf("UseTimestep 2; UseUsersCFL 0.5; AmbientConditions{ } Convergence{ " + minimum + "} ", "", ""));
+    EXPECT_TRUE(project.getUseExplicitlySuppliedTimestep() && project.getUseUsersCFL());
+    EXPECT_EQ(*project.getTerminationCriteria(), TerminationCriteria(500, 501, 0));
+    EXPECT_EQ(project.getTdAfsTerminationCriteria(), nullptr);
+    EXPECT_EQ(*project.getAmbientConditions(), A(298.15F, A::SpecificationType(2), 0, A::SpecificationType(2), 0));
+    load(other, fileOf("TerminationCriteria{ } ", "", ""));
+    EXPECT_EQ(*other.getTdAfsTerminationCriteria(), TdAfsTerminationCriteria());
+}
+
+TEST(ProjectText, damaged_files_are_loaded_as_far_as_they_go) {
+    for (int length = 0; length < golden.size(); ++length) {
+        OwningProject project;
+        load(project, golden.left(length));
+    }
+    std::mt19937 random(1);
+    const auto upTo = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
+    for (int round = 0; round < 500; ++round) {
+        QByteArray bytes = golden.mid(10).toUtf8();
+        for (int i = upTo(20); i >= 0; --i) bytes[upTo(bytes.size())] = static_cast<char>(upTo(256));
+        for (int i = upTo(4); i >= 0; --i) {  // moves a piece of the file to another place
+            const int at = upTo(bytes.size()), length = upTo(200);
+            const QByteArray piece = bytes.mid(at, length);
+            bytes.remove(at, length).insert(upTo(bytes.size()), piece);
+        }
+        OwningProject project;
+        load(project, "Version 8\n" + QString::fromUtf8(bytes));
+    }
+}
+
+TEST(ProjectText, deeply_nested_and_repeated_blocks) {
+    OwningProject nested, repeated;
+    load(nested, fileOf(QString("foo{ ").repeated(100000) + QString("} ").repeated(100000) + cfl, "", ""));
+    EXPECT_TRUE(nested.getUseUsersCFL());
+    const int run = golden.indexOf("begin_<OuterB"), dft = golden.indexOf("begin_<DFT");
+    const QString sections = golden.mid(run, golden.indexOf("UseTimestep") - run);
+    const QString parameters = golden.mid(dft, golden.indexOf("SteadyStateStorage") - dft);
+    load(repeated, QString(golden).insert(dft, parameters).insert(run, sections));
+    EXPECT_EQ(repeated.getWaveforms().size(), 12U) << "the other objects were replaced, and nobody else has them";
+}
+
+TEST(ProjectText, save_that_fails) {
+    OwningProject project;
+    QTemporaryDir directory;
+    QFile file(directory.filePath("project"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    QTextStream stream(&file);
+    try {
+        EXPECT_THROW(project.save(file.fileName(), stream, file), std::runtime_error);
+        project.saveToStream(stream);
+        ADD_FAILURE() << "saved without boundary conditions";
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(),
+                     "quarn::v6ProjectFile::StreamOutBoundaryConditions: boundary condition have not been set");
+    }
+    stream.flush();
+    EXPECT_EQ(file.size(), 0) << "nothing is written";
+    describe(project);
+    file.close();
+    EXPECT_TRUE(project.saveToStream(stream)) << "true stands for an error";
+}
+
+// Loads a file with the bytes, which the load opens again as `reopened`, and returns its errors.
+QStringList loadFromFile(v6ProjectFile& project, const QByteArray& bytes, const QString& path, const QString& reopened,
+                         bool loads) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QTextStream stream(&file);
+    QStringList errors;
+    EXPECT_EQ(project.load(reopened, file, stream, errors), loads);
+    return errors;
+}
+
+void expectSavesAndLoadsFiles() {
+    QTemporaryDir directory;
+    QFile file(directory.filePath("project.fdtd")), result(file.fileName());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    QTextStream stream(&file);
+    OwningProject project;
+    describe(project);
+    EXPECT_EQ(saved(project), golden);
+    EXPECT_FALSE(project.save(file.fileName(), stream, file)) << "always";
+    EXPECT_TRUE(!file.isOpen() && result.open(QIODevice::ReadOnly));
+    const QByteArray bytes = result.readAll();
+    EXPECT_EQ(bytes, golden.toUtf8());
+    for (const QByteArray& text : {bytes, QByteArray(bytes).replace("\n", "\r\n")}) {
+        OwningProject loaded;
+        EXPECT_EQ(loadFromFile(loaded, text, file.fileName(), file.fileName(), true), QStringList());
+        EXPECT_EQ(saved(loaded), golden);
+    }
+}
+
+// The locale of a host application, its decimal comma and its 8-bit encoding must not reach the file.
+TEST(ProjectFiles, saved_and_loaded_in_any_locale) {
+    const std::string locale = std::setlocale(LC_ALL, nullptr);
+    expectSavesAndLoadsFiles();
+    QLocale::setDefault(QLocale::German);
+    for (const char* name : {"de_DE", "de_DE.UTF-8"}) std::setlocale(LC_ALL, name);
+    expectSavesAndLoadsFiles();
+    std::setlocale(LC_ALL, "C");
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));  // which lacks an omega
+    expectSavesAndLoadsFiles();
+    QTextCodec::setCodecForLocale(nullptr);
+    QLocale::setDefault(QLocale::c());
+    std::setlocale(LC_ALL, locale.c_str());
+}
+
+TEST(ProjectFiles, refused_when_the_version_is_unsupported_or_the_file_is_gone) {
+    QTemporaryDir directory;
+    const QString path = directory.filePath("Prüfung Ω.fdtd");
+    OwningProject project;
+    EXPECT_EQ(loadFromFile(project, golden.toUtf8(), path, path, true), QStringList()) << "a name beyond ASCII";
+    deleteContents(project);
+    EXPECT_EQ(loadFromFile(project, golden.toUtf8(), path, path + ".gone", false), QStringList());
+    EXPECT_EQ(loadFromFile(project, "Version 9\n" + golden.mid(10).toUtf8(), path, path, false),
+              QStringList("This project file version is unsupported."));
+    EXPECT_EQ(project.getBoundaryConditions(), nullptr);
+}
+
+}  // namespace
+}  // namespace quarn::test
