@@ -26,8 +26,8 @@ public:
 
     /// Adds a port behind the last port, and any other component at the end. Throws a std::runtime_error, with the list
     /// as it was, when the name must be unique and is not, and when the list has a port behind another component. The
-    /// cost does not grow with the list, save for moving the pointers behind a new port. hasNonlinearCapacitor()
-    /// follows only with cacheVariables().
+    /// cost does not grow with the list, save for moving the pointers behind a new port. hasNonlinearCapacitor(),
+    /// and the name of a listed component that was assigned to, follow only with cacheVariables().
     void insert(CircuitComponent* component, bool checkUniqueness);
 
     /// Derives the number of ports and hasNonlinearCapacitor() from the list.

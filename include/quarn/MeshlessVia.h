@@ -74,7 +74,7 @@ public:
 
     std::string str() const;
 
-    /// The number of vias that the file at `path` names; 0 when it cannot be opened or is too short to say.
+    /// The number of vias that the file at `path` names; 0 when it cannot be opened or ends before the number.
     static std::uint64_t getNbMeshlessVias(const std::string& path);
     static std::vector<MeshlessVia> load_binary(const std::string& path);
     static void read_binary(std::vector<MeshlessVia>& vias, const std::string& path);

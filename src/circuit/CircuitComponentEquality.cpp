@@ -1,6 +1,6 @@
 #include <algorithm>
 #include <functional>
-#include <typeinfo>
+#include <typeindex>
 
 #include "circuit/ComponentNames.h"
 #include "circuit/EqualityReport.h"
@@ -22,6 +22,18 @@ struct NameOnItsLine {
     void operator()(Enum value) const {
         OnItsLine()(QString(names::of(value)));
     }
+};
+
+// What a component is: its class and the type that it gives for it.
+struct Kind {
+    std::type_index objectClass;
+    Component::CircuitComponentType type;
+    friend bool operator==(const Kind& a, const Kind& b) { return a.objectClass == b.objectClass && a.type == b.type; }
+};
+Kind kindOf(const Component& component) { return {typeid(component), component.getCircuitComponentType()}; }
+
+struct KindOnItsLine {
+    void operator()(const Kind& kind) const { NameOnItsLine()(kind.type); }
 };
 
 struct PointsOnLines {
@@ -70,11 +82,8 @@ bool operator==(const Component::ImpedanceLine& a, const Component::ImpedanceLin
 
 // Objects of different classes are never equal, even where nothing that is listed tells them apart.
 bool operator==(const Component& a, const Component& b) {
-    const auto type = member("m_circuitComponentType", &Component::m_circuitComponentType, NameOnItsLine());
-    if (typeid(a) != typeid(b)) {
-        areEqual(a, b, type);
-        return false;
-    }
+    const auto kind = member("m_circuitComponentType", kindOf, KindOnItsLine());
+    if (typeid(a) != typeid(b)) return areEqual(a, b, kind);
     return areEqual(a,
                     b,
                     member("m_componentName", &Component::m_componentName),
@@ -86,7 +95,7 @@ bool operator==(const Component& a, const Component& b) {
                     member("m_componentDirection", &Component::m_componentDirection, OnItsLine()),
                     member("m_calibration", &Component::m_calibration, NameOnItsLine()),
                     member("m_isActive", &Component::m_isActive, OnItsLine()),
-                    type,
+                    kind,
                     member("m_isPort", &Component::m_isPort, OnItsLine()),
                     member("m_termType", &Component::m_termType, NameOnItsLine()),
                     member("m_pinGroups", &Component::m_pinGroups));

@@ -64,11 +64,13 @@ void putImpedance(DelimManager& delim, const Component& component) {
     putLine(delim, key::Capacitance, component.getCapacitance());
 }
 
-void writePassiveLoad(DelimManager& delim, const PassiveLoad& load) {
+// A component of no kind has this type too, and the values of the base.
+void writePassiveLoad(DelimManager& delim, const Component& component) {
+    const auto* load = dynamic_cast<const PassiveLoad*>(&component);
     putLine(delim, key::Source, passiveLoad);
-    putImpedance(delim, load);
-    putPolarity(delim, load.getMeasurementPolarity());
-    putArrangement(delim, load.getElementArrangement());
+    putImpedance(delim, component);
+    putPolarity(delim, load ? load->getMeasurementPolarity() : Component::Positive);
+    putArrangement(delim, component.getElementArrangement());
 }
 
 void writeFeed(DelimManager& delim, const Feed& feed) {
@@ -162,8 +164,8 @@ std::unique_ptr<Component> makeNonlinearCapacitor(const Component& base, const K
 
 // A lumped component has no lines here, so that it cannot be read back.
 void writeKind(DelimManager& delim, const Component& component, int& nonlinearCapacitors) {
-    if (const auto* load = dynamic_cast<const PassiveLoad*>(&component)) {
-        writePassiveLoad(delim, *load);
+    if (component.getCircuitComponentType() == Component::PassiveLoad) {
+        writePassiveLoad(delim, component);
     } else if (const auto* feed = dynamic_cast<const Feed*>(&component)) {
         writeFeed(delim, *feed);
     } else if (const auto* switching = dynamic_cast<const Switch*>(&component)) {

@@ -1,77 +1,16 @@
-#include <gmock/gmock.h>
-
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
 
-#include "TestSupport.h"
 #include "quarn/Version.h"
+#include "tool/ToolFixture.h"
 
 namespace quarn::test {
 namespace {
 
 using testing::AllOf;
 using testing::HasSubstr;
-
-// As it is saved, so that checking it finds nothing. The line of "begin_<FDTDProject> " is 2.
-const QString clean =
-    "Version 8\n" +
-    expanded(
-        "FDTDProject{ Units{ Display{ Name mm; Conversion 0.001; } Modeling{ Name m; Conversion 1; } }"
-        "RunParameters{ OuterBoundaries{ LowerX ORBC_CPML; UpperX ORBC_CPML; LowerY ORBC_PEC; UpperY ORBC_PEC;"
-        "LowerZ ORBC_PMC; UpperZ ORBC_PMC; NumberOfPMLLayers 8; }"
-        "TerminationCriteria{ MaximumTimeSteps 1000; MaximumWallClockSeconds 0; }"
-        "SourceType{ ScatteredFieldPlaneWave{ Amplitude 1; IncidentTheta 0; IncidentPhi 45; PhiPolarization;"
-        "OutputFileName wave.inc; } } Waveform{ Sinusoid{ frequency 1000000000; } } } RequestResults{ } }");
-
-struct Result {
-    int status;
-    std::string out;
-    std::string err;
-};
-
-class Tool : public testing::Test {
-protected:
-    Result run(const QStringList& arguments) {
-        QProcess process;
-        process.setWorkingDirectory(folder.path());
-        process.start(QUARN_TOOL_PATH, arguments);
-        EXPECT_TRUE(process.waitForFinished());
-        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-        return {process.exitCode(),
-                process.readAllStandardOutput().toStdString(),
-                process.readAllStandardError().toStdString()};
-    }
-
-    void write(const QString& name, const QByteArray& content) {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-
-    QByteArray read(const QString& name) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-        return file.readAll();
-    }
-
-    QTemporaryDir folder;
-};
-
-using Replacements = QVector<QPair<QString, QString>>;
-
-QByteArray cleanWith(const Replacements& replacements) {
-    QString text = clean;
-    for (const auto& [from, to] : replacements) {
-        EXPECT_TRUE(text.contains(from)) << from.toStdString();
-        text.replace(from, to);
-    }
-    return text.toUtf8();
-}
 
 struct CheckRow {
     const char* name;
@@ -84,7 +23,7 @@ class CheckTool : public Tool, public testing::WithParamInterface<CheckRow> {};
 
 TEST_P(CheckTool, prints) {
     write("run", cleanWith(GetParam().replacements));
-    const Result result = run({"check", "run"});
+    const ToolResult result = run({"check", "run"});
     EXPECT_EQ(result.out, GetParam().output.join("\n").toStdString() + "\n");
     EXPECT_EQ(result.status, GetParam().output == QStringList("run: no findings") ? 0 : 1);
     EXPECT_EQ(result.err, "");
@@ -174,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(, CheckTool, testing::ValuesIn(checkRows), rowName<Chec
 
 TEST_F(Tool, checks_each_file_and_reports_the_worst_status) {
     write("good", clean.toUtf8());
-    const Result result = run({"check", "missing", "good"});
+    const ToolResult result = run({"check", "missing", "good"});
     EXPECT_EQ(result.out, "good: no findings\n");
     EXPECT_EQ(result.err, "quarn: missing: No such file or directory\n");
     EXPECT_EQ(result.status, 2);
@@ -182,11 +121,12 @@ TEST_F(Tool, checks_each_file_and_reports_the_worst_status) {
 
 TEST_F(Tool, check_prints_json) {
     write("run", cleanWith({{"Name m\n", "Name km\nSize 3\n"}}));
-    const Result result = run({"check", "--json", "run", "missing"});
+    const ToolResult result = run({"check", "--json", "run", "missing"});
     const QJsonArray files = QJsonDocument::fromJson(QByteArray::fromStdString(result.out)).array();
     const QJsonObject renamed{{"line", 9}, {"text", "Name km"}, {"becomes", "Name m"}};
     const QJsonObject unknown{{"line", 10}, {"text", "Size 3"}};
     const QJsonObject first{{"file", "run"},
+                            {"circuit", QJsonArray()},
                             {"errors", QJsonArray()},
                             {"warnings", QJsonArray()},
                             {"notKept", QJsonArray{renamed, unknown}},
@@ -209,10 +149,10 @@ TEST_P(ToolRefusing, is_refused_and_an_earlier_output_stays) {
     write("in", GetParam().content);
     write("out", "earlier");
     const std::string message = std::string("quarn: in: ") + GetParam().message + "\n";
-    const Result check = run({"check", "in"});
+    const ToolResult check = run({"check", "in"});
     EXPECT_EQ(check.err, message);
     EXPECT_EQ(check.status, 2);
-    const Result rewrite = run({"rewrite", "in", "out"});
+    const ToolResult rewrite = run({"rewrite", "in", "out"});
     EXPECT_EQ(rewrite.err, message);
     EXPECT_EQ(rewrite.status, 2);
     EXPECT_EQ(read("out"), "earlier");
@@ -231,7 +171,7 @@ INSTANTIATE_TEST_SUITE_P(, ToolRefusing, testing::ValuesIn(unusableRows), rowNam
 
 TEST_F(Tool, rewrite_that_cannot_save_says_why_and_leaves_no_output) {
     write("in", "Version 8\nbegin_<FDTDProject> \nend_<FDTDProject>\n");
-    const Result result = run({"rewrite", "in", "out"});
+    const ToolResult result = run({"rewrite", "in", "out"});
     EXPECT_THAT(result.err, HasSubstr("quarn: in: quarn::v6ProjectFile::StreamOutBoundaryConditions: "));
     EXPECT_EQ(result.status, 2);
     EXPECT_FALSE(QFile::exists(folder.filePath("out")));
@@ -240,7 +180,7 @@ TEST_F(Tool, rewrite_that_cannot_save_says_why_and_leaves_no_output) {
 
 TEST_F(Tool, rewrite_works_in_place_whatever_there_is_to_find) {
     write("run", cleanWith({{"NumberOfPMLLayers 8\n", "Unknown 3\nNumberOfPMLLayers 0x8\n"}, {"\n", "\r\n  "}}));
-    const Result result = run({"rewrite", "run", "run"});
+    const ToolResult result = run({"rewrite", "run", "run"});
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out + result.err, "");
     EXPECT_EQ(read("run"), clean.toUtf8());
@@ -249,7 +189,7 @@ TEST_F(Tool, rewrite_works_in_place_whatever_there_is_to_find) {
 TEST_F(Tool, show_says_what_a_project_holds) {
     write("run", clean.toUtf8());
     write("other", "something else\n");
-    const Result result = run({"show", "other", "run"});
+    const ToolResult result = run({"show", "other", "run"});
     EXPECT_EQ(result.out,
               "run: project for the FDTD engine, file version 8\n"
               "  Display units   mm (1 mm = 0.001 m)\n"
@@ -272,7 +212,7 @@ TEST_F(Tool, show_says_what_a_project_holds) {
 }
 
 TEST_F(Tool, demo_makes_two_projects_without_findings) {
-    const Result result = run({"demo", "new/folder"});
+    const ToolResult result = run({"demo", "new/folder"});
     EXPECT_EQ(result.status, 0) << result.out << result.err;
     EXPECT_THAT(result.out, AllOf(HasSubstr("plane wave"), HasSubstr("unit cell"), HasSubstr("identical")));
     const QDir made(folder.filePath("new/folder"));
@@ -282,11 +222,11 @@ TEST_F(Tool, demo_makes_two_projects_without_findings) {
 
 TEST_F(Tool, help_and_version_are_results) {
     EXPECT_EQ(run({"--version"}).out, "quarn " QUARN_VERSION "\n");
-    const Result help = run({"--help"});
+    const ToolResult help = run({"--help"});
     EXPECT_EQ(help.status, 0);
     for (const QString name : {"check", "show", "rewrite", "demo"}) {
         EXPECT_THAT(help.out, HasSubstr("\n  " + name.toStdString() + " "));
-        const Result ofSubcommand = run({name, "--help"});
+        const ToolResult ofSubcommand = run({name, "--help"});
         EXPECT_EQ(ofSubcommand.status, 0);
         EXPECT_THAT(ofSubcommand.out, testing::StartsWith("Usage: quarn " + name.toStdString() + " "));
     }
@@ -296,7 +236,7 @@ TEST_F(Tool, wrong_usage_ends_with_status_2_and_a_hint) {
     const QVector<QStringList> wrong = {
         {}, {"chek"}, {"check"}, {"check", "--jsno", "x"}, {"rewrite", "a"}, {"rewrite", "a", "b", "c"}, {"demo"}};
     for (const QStringList& arguments : wrong) {
-        const Result result = run(arguments);
+        const ToolResult result = run(arguments);
         EXPECT_EQ(result.status, 2) << arguments.join(' ').toStdString();
         EXPECT_EQ(result.out, "");
         EXPECT_THAT(result.err, AllOf(testing::StartsWith("quarn: "), HasSubstr("--help'")));
