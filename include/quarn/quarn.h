@@ -14,6 +14,7 @@
 #include "quarn/Engine.h"
 #include "quarn/LongPathUtil.h"
 #include "quarn/MeshlessVia.h"
+#include "quarn/NSMACutPlane.h"
 #include "quarn/PlaneWave.h"
 #include "quarn/ProjectFile.h"
 #include "quarn/StaticVoltageList.h"
