@@ -15,7 +15,8 @@ namespace quarn {
 /// The circuit components of a project. Ports come before all other components, so that the position of a port is its
 /// port number.
 ///
-/// The manager does not own the components: a copy shares them, and whoever created them deletes them.
+/// The manager does not own the components: a copy shares them, and whoever created them deletes them. Null pointers
+/// are left out. Whoever assigns to a component that is listed calls cacheVariables() afterwards.
 class QUARN_EXPORT ComponentManager {
 public:
     /// With S-parameters, feeds other than the one at `activePort` are made inactive; without, no port is active (-1).
@@ -26,8 +27,8 @@ public:
 
     /// Adds a port behind the last port, and any other component at the end. Throws a std::runtime_error, with the list
     /// as it was, when the name must be unique and is not, and when the list has a port behind another component. The
-    /// cost does not grow with the list, save for moving the pointers behind a new port. hasNonlinearCapacitor(),
-    /// and the name of a listed component that was assigned to, follow only with cacheVariables().
+    /// cost does not grow with the list, save for moving the pointers behind a new port. hasNonlinearCapacitor()
+    /// follows only with cacheVariables().
     void insert(CircuitComponent* component, bool checkUniqueness);
 
     /// Derives the number of ports and hasNonlinearCapacitor() from the list.

@@ -23,8 +23,9 @@ namespace quarn {
 /// Every operation returns false when it failed or when there is nothing more to read, throws nothing, and resets the
 /// status of a stream that it finds or leaves in error. No operation runs past the end of the stream or recurses.
 ///
-/// Any stream will do. A stream over a string is walked in place; on a stream over a device each line that is only
-/// looked at costs a seek and a decoding of what lies ahead, so that large files are best read into a string first.
+/// Any stream that can seek will do. A stream over a string is walked in place; on a stream over a device each line
+/// that is only looked at costs a seek and a decoding of what lies ahead, so that large files are best read into a
+/// string first.
 class QUARN_EXPORT DelimManager {
 public:
     DelimManager(QTextStream& stream, const QString& filename);

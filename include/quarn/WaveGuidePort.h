@@ -94,7 +94,7 @@ private:
 
 /// The waveguide ports of a project, ordered by waveguide and mode number as long as they are inserted; a loaded list
 /// keeps the order of its file. The manager does not own the ports: a copy shares them, and whoever created them
-/// deletes them.
+/// deletes them. Null pointers are left out.
 class QUARN_EXPORT WaveGuidePortManager {
 public:
     WaveGuidePortManager() = default;

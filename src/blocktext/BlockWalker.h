@@ -28,10 +28,6 @@ namespace quarn::blocktext {
 /// the other two such a block is skipped.
 enum class Unknown { DropLine, DropWord, Stop };
 
-constexpr QLatin1String operator""_key(const char* text, std::size_t size) {
-    return QLatin1String(text, static_cast<int>(size));
-}
-
 template <class Read>
 struct OnBlock {
     QLatin1String name;
@@ -86,8 +82,8 @@ auto onChoice(QLatin1String word, T& value, Choice choice) {
 /// Reads the name behind `word` as a value of the table; a name that the table does not have gives `otherwise`, or
 /// where that is left out keeps `value`.
 template <class Value, std::size_t count>
-auto onName(QLatin1String word, const NameTable<Value, count>& table, Value& value, const Value& otherwise) {
-    return onWord(word, [&](QTextStream& in) {
+auto onName(QLatin1String word, const NameTable<Value, count>& table, Value& value, Value otherwise) {
+    return onWord(word, [&table, &value, otherwise](QTextStream& in) {
         QString buffer;
         const QStringView name = readWord(in, buffer);
         if (!name.isEmpty()) value = valueOf(table, name, otherwise);
@@ -95,7 +91,10 @@ auto onName(QLatin1String word, const NameTable<Value, count>& table, Value& val
 }
 template <class Value, std::size_t count>
 auto onName(QLatin1String word, const NameTable<Value, count>& table, Value& value) {
-    return onName(word, table, value, value);
+    return onWord(word, [&table, &value](QTextStream& in) {
+        QString buffer;
+        value = valueOf(table, readWord(in, buffer), value);
+    });
 }
 
 /// Takes each line whole that opens no block, instead of its words.

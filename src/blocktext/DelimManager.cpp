@@ -98,13 +98,13 @@ bool DelimManager::IsDelim(QString& name, QString& value, QString& description) 
     name = found.toString();
     value = close + 2 < line.size() ? upToFirstCR(line.mid(close + 2)).toString() : QString();
 
-    const QStringView nextLine = upToFirstCR(cursor.next());
+    // Only a description is read to its end: a line may be as long as the file, and be looked at for each block on it.
+    const bool isDescription = cursor.next(descriptionMark.size()) == descriptionMark;
     if (failed()) return false;
-    if (nextLine.startsWith(descriptionMark)) {
-        const QStringView rest = nextLine.mid(descriptionMark.size());
+    cursor.putBack();
+    if (isDescription) {
+        const QStringView rest = upToFirstCR(cursor.next()).mid(descriptionMark.size());
         description = (rest.startsWith(u' ') ? rest.mid(1) : rest).toString();
-    } else {
-        cursor.putBack();
     }
     m_openBlocks.push_back(name);
     return true;

@@ -6,6 +6,11 @@
 
 namespace quarn::blocktext {
 
+/// A word of the file: "Phi"_key.
+constexpr QLatin1String operator""_key(const char* text, std::size_t size) {
+    return QLatin1String(text, static_cast<int>(size));
+}
+
 template <class Value>
 struct NamedValue {
     Value value;

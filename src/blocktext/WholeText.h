@@ -7,7 +7,7 @@ namespace quarn::blocktext {
 
 /// What is left of a text stream as one string in memory, under a stream of its own with the default locale and number
 /// settings. A string stream is walked where it is, and its position follows; a device stream is read to its end. A
-/// text above 2^28 characters stays on its device where that can be rewound.
+/// text above 2^28 characters stays on its device where that can be rewound, and is cut there where it cannot.
 class WholeText {
 public:
     explicit WholeText(QTextStream& source);

@@ -1,5 +1,3 @@
-#include <algorithm>
-#include <functional>
 #include <typeindex>
 
 #include "circuit/ComponentNames.h"

@@ -13,7 +13,7 @@ namespace quarn {
 
 class DelimManager;
 
-/// The file does not say to whom components belong: those of a section that was read belong to its manager's user.
+/// What a section holds. The caller owns the components that the manager lists.
 struct ComponentsPorts {
     std::unique_ptr<ComponentManager> manager;
     std::unique_ptr<StaticVoltageList> staticVoltages;

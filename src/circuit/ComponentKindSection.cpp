@@ -1,5 +1,7 @@
 #include "circuit/ComponentKindSection.h"
 
+#include <optional>
+
 #include "blocktext/BlockWriter.h"
 
 namespace quarn {
@@ -205,10 +207,16 @@ void readDiode(DelimManager& delim, KindRecord& record) {
 }
 
 void readPortLine(DelimManager& delim, KindRecord& record) {
-    int port = -1;
-    int line = -1;
-    walkBlock(delim, Unknown::DropLine, onValue(key::Port, port), onValue(key::Line, line));
-    record.portMap[port] = line;
+    std::optional<int> port;
+    std::optional<int> line;
+    const auto readInto = [&](std::optional<int>& number) {
+        return [&](QTextStream& in) {
+            int value = 0;
+            if (readValue(in, value)) number = value;
+        };
+    };
+    walkBlock(delim, Unknown::DropLine, onWord(key::Port, readInto(port)), onWord(key::Line, readInto(line)));
+    if (port && line) record.portMap[*port] = *line;
 }
 
 std::unique_ptr<Component> makeComponent(const Component& base, const KindRecord& record,

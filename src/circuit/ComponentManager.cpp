@@ -1,6 +1,7 @@
 #include "quarn/ComponentManager.h"
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
 #include "quarn/ComponentKinds.h"
@@ -83,9 +84,10 @@ void appendWarnings(QStringList& warnings, const PortFindings& findings) {
 
 ComponentManager::ComponentManager(const std::vector<CircuitComponent*>& components, bool computeSParameters,
                                    int activePort)
-    : m_components(components),
-      m_computeSParameters(computeSParameters),
-      m_activePort(computeSParameters ? activePort : -1) {
+    : m_computeSParameters(computeSParameters), m_activePort(computeSParameters ? activePort : -1) {
+    std::copy_if(components.begin(), components.end(), std::back_inserter(m_components), [](const auto* component) {
+        return component != nullptr;
+    });
     for (std::size_t i = 0; computeSParameters && i < m_components.size(); ++i) {
         if (!isFeedType(*m_components[i]) || static_cast<std::int64_t>(i) == m_activePort) continue;
         if (auto* feed = dynamic_cast<Feed*>(m_components[i])) feed->setInactive();
@@ -126,6 +128,7 @@ void ComponentManager::clearComponents() {
 }
 
 void ComponentManager::insert(CircuitComponent* component, bool checkUniqueness) {
+    if (!component) return;
     const QString& name = component->getComponentName();
     const auto hasName = [&name](const CircuitComponent* listed) { return listed->getComponentName() == name; };
     if (checkUniqueness && m_names.contains(name) && std::any_of(m_components.begin(), m_components.end(), hasName)) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "blocktext/BlockWalker.h"
 #include "blocktext/NameTable.h"
 #include "quarn/CircuitComponent.h"
 

@@ -1,5 +1,3 @@
-#include <map>
-
 #include "blocktext/BlockWalker.h"
 #include "blocktext/BlockWriter.h"
 #include "circuit/CircuitSections.h"
@@ -17,6 +15,8 @@ namespace {
 namespace key {
 constexpr auto ComponentsPorts = "ComponentsPorts"_key;
 constexpr auto PortType = "PortType"_key;
+constexpr auto NumberOfFeeds = "NumberOfFeeds"_key;
+constexpr auto NumberOfPorts = "NumberOfPorts"_key;
 constexpr auto FeedData = "FeedData"_key;
 constexpr auto ComponentName = "ComponentName"_key;
 constexpr auto EndPoint = "EndPoint"_key;
@@ -199,10 +199,13 @@ ComponentsPorts readComponentsPorts(DelimManager& delim) {
     std::vector<Record> records;
     std::vector<CapacitorCoefficients> capacitors;
     int portType = 0;
+    int countToIgnore = 0;
     auto voltages = std::make_unique<StaticVoltageList>();
     walkBlock(delim,
               Unknown::DropLine,
               onValue(key::PortType, portType),
+              onValue(key::NumberOfFeeds, countToIgnore),
+              onValue(key::NumberOfPorts, countToIgnore),
               onBlock(key::FeedData, [&] { readRecord(delim, records.emplace_back()); }),
               onBlock(key::NonlinearCapacitor, [&] { capacitors.push_back(readCoefficients(delim)); }),
               onBlock(key::StaticVoltageInfo, [&] { readStaticVoltageInfo(delim, *voltages); }),

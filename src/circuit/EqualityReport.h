@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <iostream>
-#include <tuple>
 
 /// Equality that says on standard output where two objects differ: a class lists its members with their labels, and the
 /// comparison stops at the first difference.

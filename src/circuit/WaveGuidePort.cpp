@@ -2,6 +2,7 @@
 
 #include <QTextStream>
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <stdexcept>
 
@@ -43,7 +44,8 @@ QString WaveGuidePort::qstr() const {
     return text;
 }
 
-WaveGuidePortManager::WaveGuidePortManager(const std::vector<WaveGuidePort*>& ports) : m_ports(ports) {
+WaveGuidePortManager::WaveGuidePortManager(const std::vector<WaveGuidePort*>& ports) {
+    std::copy_if(ports.begin(), ports.end(), std::back_inserter(m_ports), [](const auto* port) { return port; });
     cacheVariables();
 }
 WaveGuidePortManager::WaveGuidePortManager(const WaveGuidePortManager& other) : WaveGuidePortManager(other.m_ports) {}
@@ -51,6 +53,7 @@ WaveGuidePortManager& WaveGuidePortManager::operator=(const WaveGuidePortManager
 WaveGuidePortManager::~WaveGuidePortManager() = default;
 
 void WaveGuidePortManager::insert(WaveGuidePort* port) {
+    if (!port) return;
     const auto keyOf = [](const WaveGuidePort& p) {
         return std::make_pair(p.getWaveGuideNumber(), p.getWaveGuideModeNumber());
     };

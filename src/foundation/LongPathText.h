@@ -4,6 +4,9 @@
 
 namespace quarn {
 
+/// Whether the environment variable KIVEN_LONGPATHSUPPORT is set, to whatever value.
+bool supportsLongPaths();
+
 /// Drops the prefix "\\?\" or "//?/" of a path that has it and goes on behind it.
 QString withoutLongPathPrefix(const QString& path);
 

@@ -11,8 +11,6 @@ namespace {
 
 const QLatin1String longPathPrefix("\\\\?\\");
 
-bool supportsLongPaths() { return std::getenv("KIVEN_LONGPATHSUPPORT") != nullptr; }
-
 QString absolutePath(const QString& path) {
     if (!QDir::isRelativePath(path)) return path;
     const std::string& directory = LongPathUtil::getWorkingDir();
@@ -21,6 +19,8 @@ QString absolutePath(const QString& path) {
 }
 
 }  // namespace
+
+bool supportsLongPaths() { return std::getenv("KIVEN_LONGPATHSUPPORT") != nullptr; }
 
 std::string& LongPathUtil::getWorkingDir() {
     static std::string directory;

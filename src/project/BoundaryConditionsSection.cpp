@@ -101,7 +101,7 @@ std::unique_ptr<BoundaryConditions> readBoundaryConditions(DelimManager& delim,
     auto conditions = std::make_unique<BoundaryConditions>(
         types[0], types[1], types[2], types[3], types[4], types[5], numberOfPMLLayers);
     if (periodic.useScanAngle) {
-        const bool fromWaveform = periodic.useWaveformFrequency && !waveforms.empty();
+        const bool fromWaveform = periodic.useWaveformFrequency && !waveforms.empty() && waveforms.front();
         conditions->addPeriodicScanAngleParameters(
             periodic.phi, periodic.theta, fromWaveform ? waveforms.front()->getFrequency() : periodic.frequency);
     }

@@ -24,6 +24,12 @@ constexpr auto PowerSampling = "PowerSampling"_key;
 constexpr auto PlanewavePowerSampling = "PlanewavePowerSampling"_key;
 constexpr auto SSEFieldSampling = "SSEFieldSampling"_key;
 constexpr auto SSHFieldSampling = "SSHFieldSampling"_key;
+constexpr auto DissipatedPower = "DissipatedPower"_key;
+constexpr auto PortDataStorage = "PortDataStorage"_key;
+constexpr auto PowerStorage = "PowerStorage"_key;
+constexpr auto PlanewavePowerStorage = "PlanewavePowerStorage"_key;
+constexpr auto SSEFieldStorage = "SSEFieldStorage"_key;
+constexpr auto SSHFieldStorage = "SSHFieldStorage"_key;
 }  // namespace key
 
 constexpr unsigned everyTimestep = 1;
@@ -73,6 +79,8 @@ std::unique_ptr<DFTParameters> readV6DFTParameters(DelimManager& delim, SteadySt
     bool normalizeFields = false;
     unsigned samplingInterval = everyTimestep;
     std::optional<unsigned> fieldSampling;
+    bool ignoredFlag = false;
+    unsigned ignoredNumber = 0;
     const auto readFieldSampling = [&](QTextStream& in) {
         unsigned interval = 0;
         if (readValue(in, interval)) fieldSampling = interval;
@@ -85,7 +93,13 @@ std::unique_ptr<DFTParameters> readV6DFTParameters(DelimManager& delim, SteadySt
               onValue(key::PortDataSampling, samplingInterval),
               onValue(key::PowerSampling, samplingInterval),
               onValue(key::PlanewavePowerSampling, samplingInterval),
-              onValue(key::SSHFieldSampling, samplingInterval));
+              onValue(key::SSHFieldSampling, samplingInterval),
+              onFlag(key::DissipatedPower, ignoredFlag),
+              onValue(key::PortDataStorage, ignoredNumber),
+              onValue(key::PowerStorage, ignoredNumber),
+              onValue(key::PlanewavePowerStorage, ignoredNumber),
+              onValue(key::SSEFieldStorage, ignoredNumber),
+              onValue(key::SSHFieldStorage, ignoredNumber));
     return std::make_unique<DFTParameters>(normalizeFields, fieldSampling.value_or(samplingInterval));
 }
 

@@ -120,6 +120,7 @@ void ProjectFile::checkValidity(QStringList& errors, QStringList& warnings) cons
     }
     const TerminationCriteria noCriteria(0, 0, 0);
     for (const Waveform* waveform : m_waveforms) {
+        if (!waveform) continue;
         waveform->checkValidity(
             errors, warnings, m_terminationCriteria ? *m_terminationCriteria : noCriteria, m_engine);
     }

@@ -63,13 +63,11 @@ void writeWaveform(DelimManager& delim, const Waveform& waveform, const Terminat
     }
 }
 
-Samples readSamples(DelimManager& delim) {
-    Samples samples;
+void appendSamples(DelimManager& delim, Samples& samples) {
     walkList(delim, [&](QTextStream& in) {
         float sample = 0.0F;
         if (readValue(in, sample)) samples.push_back(sample);
     });
-    return samples;
 }
 
 Waveform* readPulse(DelimManager& delim, Waveform::WaveformShape shape) {
@@ -94,13 +92,10 @@ Waveform* readSinusoid(DelimManager& delim) {
 Waveform* readUserDefined(DelimManager& delim) {
     Samples source;
     Samples derivative;
-    const auto appendTo = [&delim](Samples& samples) {
-        const Samples more = readSamples(delim);
-        samples.insert(samples.end(), more.begin(), more.end());
-    };
-    walkBlock(delim, Unknown::DropWord, onBlock(key::Source, [&] { appendTo(source); }), onBlock(key::Derivative, [&] {
-                  appendTo(derivative);
-              }));
+    walkBlock(delim,
+              Unknown::DropWord,
+              onBlock(key::Source, [&] { appendSamples(delim, source); }),
+              onBlock(key::Derivative, [&] { appendSamples(delim, derivative); }));
     return new Waveform(Waveform::UserDefined, 0.0F, 0.0F, std::move(source), std::move(derivative));
 }
 
@@ -108,7 +103,9 @@ Waveform* readUserDefined(DelimManager& delim) {
 
 bool writeWaveforms(DelimManager& delim, const std::vector<Waveform*>& waveforms, const TerminationCriteria* criteria) {
     const WrittenBlock block(delim, key::Waveform);
-    for (const Waveform* waveform : waveforms) writeWaveform(delim, *waveform, criteria);
+    for (const Waveform* waveform : waveforms) {
+        if (waveform) writeWaveform(delim, *waveform, criteria);
+    }
     return isOk(delim);
 }
 

@@ -112,6 +112,10 @@ bool v6ProjectFile::load(const QString& path, QFile& file, QTextStream& stream, 
 // The reader of the project block may come back before that block ends, since the close line of a nested block ends it
 // (StreamInUnits says why), and is then called again. The outer block's name is looked at once only.
 void v6ProjectFile::loadBlocks(QTextStream& stream, const QString& path) {
+    if (stream.status() != QTextStream::Ok) {
+        stream.resetStatus();
+        return;
+    }
     m_createdByLoad.clear();
     blocktext::WholeText text(stream);
     DelimManager delim(text.stream(), path);

@@ -155,6 +155,15 @@ TEST(ComponentManager, insertions_that_fail_leave_the_list) {
     EXPECT_EQ(namesOf(ports), (QStringList{"P1", "P1", "p1"}));
 }
 
+TEST(ComponentManager, null_pointers_are_left_out) {
+    ComponentManager manager({nullptr}, true, 0);
+    manager.insert(nullptr, true);
+    EXPECT_TRUE(manager.getComponents().empty());
+    WaveGuidePortManager ports({nullptr});
+    ports.insert(nullptr);
+    EXPECT_TRUE(ports.getWaveguidePorts().empty());
+}
+
 TEST(ComponentManager, nonlinear_capacitors_are_noticed_on_demand) {
     NonlinearCapacitor capacitor(base("c", false), 1, 1, 2, 3, 4, 5, 6, 7, positive);
     EXPECT_EQ(capacitor.getC1() + 10 * capacitor.getVs() + 100 * capacitor.getA3(), 731);

@@ -144,7 +144,7 @@ const struct {
      "Waveform{ Step{ pulseWidth 0; } } ", frequency, frequencySaved},
     {"old dft parameters add frequencies",
      "Waveform{ foo UseDFT; DFTParameters{ DFTFrequencies{ foo SingleFrequency 1 A; SingleFrequency 2 B; } "
-     "NormalizeFields; DissipatedPower; SSEFieldSampling 4; SSHFieldSampling 5; SSEFieldStorage 6; } Step{ } } ",
+     "DissipatedPower NormalizeFields; PortDataStorage 6 SSEFieldSampling 4; SSHFieldSampling 5; } Step{ } } ",
      "Waveform{ Step{ pulseWidth 0; } } ", frequency,
      "DFTParameters{ NormalizeFields; DataSampling 4; } SteadyStateStorageMethodIsMemory; "
      "SteadyStateFrequencies{ FrequencyFolder 2 B; FrequencyFolder 1 F; } "},
@@ -283,6 +283,27 @@ TEST(ProjectText, damaged_files_are_loaded_as_far_as_they_go) {
         OwningProject project;
         load(project, "Version 8\n" + QString::fromUtf8(bytes));
     }
+}
+
+TEST(ProjectText, stream_in_error_is_reset_and_not_read) {
+    onBothStreams("Version 8\n" + expanded("FDTDProject{ Units{ Display{ Name km; } } } "), [](QTextStream& stream) {
+        stream.setStatus(QTextStream::ReadPastEnd);
+        OwningProject project;
+        QStringList errors;
+        EXPECT_TRUE(project.loadFromStream(stream, errors));
+        EXPECT_EQ(project.getDisplayUnits().first, "m");
+        EXPECT_EQ(stream.status(), QTextStream::Ok);
+    });
+}
+
+TEST(ProjectText, null_waveforms_are_passed_over) {
+    OwningProject project;
+    const auto pec = BoundaryConditions::PEC;
+    project.setBoundaryConditions(new BoundaryConditions(pec, pec, pec, pec, pec, pec, 0));
+    project.getWaveforms() = {nullptr, new Waveform(Waveform::Step, 64, 0, {}, {})};
+    QStringList errors, warnings;
+    project.checkValidity(errors, warnings);
+    EXPECT_TRUE(saved(project).contains(expanded("Waveform{ Step{ pulseWidth 64; } } ")));
 }
 
 TEST(ProjectText, deeply_nested_and_repeated_blocks) {

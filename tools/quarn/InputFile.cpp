@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "Console.h"
+#include "PatternFile.h"
 #include "ViaSheet.h"
 
 namespace quarn::tool {
@@ -26,6 +27,7 @@ struct Recogniser {
 constexpr Recogniser recognisers[] = {
     {FileKind::MeshlessVias, isViaFile},
     {FileKind::Project, isProject},
+    {FileKind::AntennaPattern, isPatternFile},
 };
 
 }  // namespace

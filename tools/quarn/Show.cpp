@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 #include "Console.h"
 #include "InputFile.h"
+#include "PatternSheet.h"
 #include "ProjectSheet.h"
 #include "Subcommands.h"
 #include "ViaSheet.h"
@@ -16,6 +17,8 @@ Sheet sheetOf(const QString& path) {
             return sheetOfProject(path, content);
         case FileKind::MeshlessVias:
             return sheetOfVias(path, content);
+        case FileKind::AntennaPattern:
+            return sheetOfPattern(path, content);
         case FileKind::Unknown:
             break;
     }
@@ -28,7 +31,7 @@ int runShow(const QStringList& arguments) {
     CommandLine commandLine(
         QStringLiteral("show"),
         QStringLiteral("Says what files are and what they hold. Their content tells the kind, their names do not.\n"
-                       "Known are project files and files of meshless vias."));
+                       "Known are project files, files of meshless vias and NSMA antenna patterns."));
     commandLine.addFiles(QStringLiteral("FILE"), QStringLiteral("The files to show."));
     if (!commandLine.parse(arguments)) return ExitFine;
 

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+#include <cstdio>
+
+#include "quarn/Export.h"
+
+namespace quarn {
+
+/// Reads numbers from a binary file, in the byte order of the machine (quarn/BinaryFile.h). Owns its stream and closes
+/// it at the end of its life. Record classes may derive from it.
+class QUARN_EXPORT DataFileReader {
+public:
+    DataFileReader() = default;
+    DataFileReader(const DataFileReader&) = delete;
+    DataFileReader& operator=(const DataFileReader&) = delete;
+    virtual ~DataFileReader();
+
+    /// Closes what is open, then opens the file at `path`.
+    bool open(const QString& path);
+
+    /// False when the file ends before or within the number, which then stays as it was, and when no file is open.
+    bool read(signed char& value);
+    bool read(short& value);
+    bool read(int& value);
+    bool read(long long& value);
+    bool read(float& value);
+    bool read(double& value);
+
+    /// Goes to `offset` bytes from the start of the file. False when that is below 0 or no file is open; a position
+    /// behind the end of the file is none to be refused, but nothing can be read there.
+    bool seek(long offset);
+
+    /// Goes `count` bytes on from the current position, or back; otherwise like seek.
+    bool skip(int count);
+
+    /// Bytes from the start of the file; -1 when no file is open.
+    long tell() const;
+
+    /// False when no file is open.
+    bool close();
+
+private:
+    std::FILE* m_file = nullptr;
+};
+
+}  // namespace quarn

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdio>
+#include <cstring>
+#include <type_traits>
+
+/// Numbers in binary streams. A number that lies in the stream's buffer as a whole, or fits into it, is copied there
+/// and then, without a lock and without a call; only the few that do not go through the C library.
+namespace quarn::scalar {
+
+enum class ByteOrder { Native, Reversed };
+
+/// Of the integers in all binary files.
+inline constexpr ByteOrder fileByteOrder = ByteOrder::Native;
+
+#ifdef __GLIBC__
+// Bounds of the buffer as the C library's own inlined getc_unlocked and putc_unlocked use them.
+inline bool takeFromBuffer(void* bytes, std::size_t size, std::FILE* file) {
+    if (file->_IO_read_end - file->_IO_read_ptr < static_cast<std::ptrdiff_t>(size)) return false;
+    std::memcpy(bytes, file->_IO_read_ptr, size);
+    file->_IO_read_ptr += size;
+    return true;
+}
+
+inline bool putIntoBuffer(const void* bytes, std::size_t size, std::FILE* file) {
+    if (file->_IO_write_end - file->_IO_write_ptr < static_cast<std::ptrdiff_t>(size)) return false;
+    std::memcpy(file->_IO_write_ptr, bytes, size);
+    file->_IO_write_ptr += size;
+    return true;
+}
+#else
+inline bool takeFromBuffer(void*, std::size_t, std::FILE*) { return false; }
+inline bool putIntoBuffer(const void*, std::size_t, std::FILE*) { return false; }
+#endif
+
+template <class T>
+using Bytes = std::array<unsigned char, sizeof(T)>;
+
+inline bool readByte(unsigned char& byte, std::FILE* file) {
+    return takeFromBuffer(&byte, 1, file) || std::fread(&byte, 1, 1, file) == 1;
+}
+
+inline bool writeByte(unsigned char byte, std::FILE* file) {
+    return putIntoBuffer(&byte, 1, file) || std::fwrite(&byte, 1, 1, file) == 1;
+}
+
+/// The value stays as it was when the stream ends within it. In reversed order each byte is tried by itself, whatever
+/// became of the one before.
+template <ByteOrder order = ByteOrder::Native, class T>
+bool readScalar(T& value, std::FILE* file) {
+    static_assert(std::is_trivially_copyable_v<T>);
+    if (!file) return false;
+    Bytes<T> bytes{};
+    bool complete = true;
+    if constexpr (order == ByteOrder::Native) {
+        if (takeFromBuffer(&value, sizeof value, file)) return true;
+        complete = std::fread(bytes.data(), sizeof value, 1, file) == 1;
+    } else {
+        std::for_each(bytes.rbegin(), bytes.rend(), [&](unsigned char& byte) { complete &= readByte(byte, file); });
+    }
+    if (complete) std::memcpy(&value, bytes.data(), sizeof value);
+    return complete;
+}
+
+template <ByteOrder order = ByteOrder::Native, class T>
+bool writeScalar(const T& value, std::FILE* file) {
+    static_assert(std::is_trivially_copyable_v<T>);
+    if (!file) return false;
+    if constexpr (order == ByteOrder::Native) {
+        return putIntoBuffer(&value, sizeof value, file) || std::fwrite(&value, sizeof value, 1, file) == 1;
+    } else {
+        Bytes<T> bytes;
+        std::memcpy(bytes.data(), &value, sizeof value);
+        bool complete = true;
+        std::for_each(bytes.rbegin(), bytes.rend(), [&](unsigned char byte) { complete &= writeByte(byte, file); });
+        return complete;
+    }
+}
+
+}  // namespace quarn::scalar

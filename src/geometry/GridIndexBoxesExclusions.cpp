@@ -1,0 +1,46 @@
+// Excluded cells become the exceptions of the boxes in which they lie.
+
+#include <algorithm>
+#include <limits>
+
+#include "geometry/CellsInBoxes.h"
+#include "geometry/IndexBox.h"
+#include "quarn/GridIndexBoxes.h"
+
+namespace quarn {
+
+namespace {
+
+constexpr std::uint64_t largestInt = std::numeric_limits<std::int32_t>::max();
+
+// Boxes that do not overlap need each exclusion once. A file of a few hundred kilobytes can demand gigabytes otherwise.
+constexpr std::size_t mostRepeatedExclusions = std::size_t{1} << 24;
+
+}  // namespace
+
+void GridIndexBoxes::setupBoxExclusions(const std::vector<ivec3>& exclusions) {
+    const std::vector<BoxAndCell> pairs =
+        findCellsInBoxes(m_boxes, exclusions, exclusions.size() + mostRepeatedExclusions);
+    const std::vector<Box> boxes = std::move(m_boxes);
+    m_boxes.clear();
+    auto pair = pairs.begin();
+    for (std::size_t b = 0; b < boxes.size(); ++b) {
+        const auto isOfOtherBox = [&](const BoxAndCell& p) { return p.box != b; };
+        const auto end = std::find_if(pair, pairs.end(), isOfOtherBox);
+        const auto excluded = static_cast<std::uint64_t>(end - pair);
+        if (excluded == indexbox::volume(boxes[b])) {
+            pair = end;
+            continue;
+        }
+        for (std::uint64_t rank = 0; pair != end; ++pair, ++rank) {
+            const std::uint64_t preceding = indexbox::cellNumber(boxes[b], exclusions[pair->cell]) - rank;
+            m_exceptions.push_back(static_cast<std::int32_t>(std::min(preceding, largestInt)));
+            if (preceding >= largestInt) m_farExclusions.push_back(exclusions[pair->cell]);
+        }
+        m_boxes.push_back(boxes[b]);
+        m_exceptionEnds.push_back(m_exceptions.size());
+    }
+    setupBoxStarts();
+}
+
+}  // namespace quarn

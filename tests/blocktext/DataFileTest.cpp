@@ -1,0 +1,138 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "quarn/DataFileReader.h"
+#include "quarn/DataFileWriter.h"
+
+namespace quarn::test {
+namespace {
+
+class DataFile : public testing::Test {
+protected:
+    QByteArray bytes() const {
+        QFile file(m_path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    void put(const QByteArray& bytes) const {
+        QFile file(m_path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    QTemporaryDir m_folder;
+    QString m_path = m_folder.filePath("data");
+};
+
+TEST_F(DataFile, eachTypeHasItsSize) {
+    DataFileWriter writer;
+    ASSERT_TRUE(writer.open(m_path, "wb"));
+    EXPECT_TRUE(writer.write(static_cast<signed char>(1)) && writer.write(short{2}) && writer.write(3) &&
+                writer.write(4LL) && writer.write(1.0F) && writer.write(-2.0));
+    EXPECT_TRUE(writer.close());
+    EXPECT_EQ(bytes().toHex(),
+              "01"
+              "0200"
+              "03000000"
+              "0400000000000000"
+              "0000803f"
+              "00000000000000c0");
+
+    DataFileReader reader;
+    ASSERT_TRUE(reader.open(m_path));
+    signed char i8 = 0;
+    short i16 = 0;
+    int i32 = 0;
+    long long i64 = 0;
+    float f32 = 0;
+    double f64 = 0;
+    EXPECT_TRUE(reader.read(i8) && reader.read(i16) && reader.read(i32) && reader.read(i64) && reader.read(f32) &&
+                reader.read(f64));
+    EXPECT_EQ(std::make_tuple(i8, i16, i32, i64, f32, f64), std::make_tuple(1, 2, 3, 4, 1.0F, -2.0));
+    EXPECT_EQ(reader.tell(), 27);
+    EXPECT_FALSE(reader.read(i8));
+}
+
+TEST_F(DataFile, closedFilesRefuseEverything) {
+    DataFileReader reader;
+    int value = 7;
+    EXPECT_FALSE(reader.open(m_path));
+    EXPECT_FALSE(reader.seek(0) || reader.skip(0) || reader.close() || reader.read(value));
+    EXPECT_EQ(reader.tell(), -1);
+    EXPECT_EQ(value, 7);
+    DataFileWriter writer;
+    EXPECT_FALSE(writer.write(1) || writer.seek(0) || writer.skip(0) || writer.flush() || writer.close());
+    ASSERT_TRUE(writer.open(m_path, "wb"));
+    EXPECT_TRUE(writer.close());
+    EXPECT_FALSE(writer.write(1) || writer.close());
+    EXPECT_EQ(bytes(), "");
+}
+
+TEST_F(DataFile, readerGoesToPositions) {
+    put("0123456789");
+    DataFileReader reader;
+    ASSERT_TRUE(reader.open(m_path));
+    signed char digit = 0;
+    EXPECT_TRUE(reader.seek(4) && reader.read(digit));
+    EXPECT_EQ(digit, '4');
+    EXPECT_TRUE(reader.skip(2) && reader.read(digit));
+    EXPECT_EQ(digit, '7');
+    EXPECT_TRUE(reader.skip(-8) && reader.read(digit));
+    EXPECT_EQ(digit, '0');
+    EXPECT_FALSE(reader.seek(-1) || reader.skip(-2));
+    EXPECT_EQ(reader.tell(), 1);
+    EXPECT_TRUE(reader.seek(20));
+    EXPECT_FALSE(reader.read(digit));
+    EXPECT_TRUE(reader.seek(9) && reader.read(digit)) << "the end of the file is forgotten";
+}
+
+TEST_F(DataFile, writerGoesToPositions) {
+    DataFileWriter writer;
+    ASSERT_TRUE(writer.open(m_path, "wb"));
+    const auto put = [&](char c) { return writer.write(static_cast<signed char>(c)); };
+    EXPECT_TRUE(put('a') && put('b') && put('c') && writer.seek(1) && put('B') && writer.skip(2) && put('e'));
+    EXPECT_FALSE(writer.seek(-1));
+    EXPECT_TRUE(writer.flush());
+    EXPECT_EQ(bytes(), QByteArray("aBc\0e", 5)) << "of a file that is still open";
+}
+
+TEST_F(DataFile, openingAgainClosesFirst) {
+    DataFileWriter writer;
+    ASSERT_TRUE(writer.open(m_path, "wb") && writer.write(1));
+    int waited = -1;
+    ASSERT_TRUE(writer.openWithRetries(m_path, "ab", 10, &waited) && writer.write(2) && writer.close());
+    EXPECT_EQ(waited, 0);
+    EXPECT_EQ(bytes().toHex(), "0100000002000000");
+
+    DataFileReader reader;
+    ASSERT_TRUE(reader.open(m_path) && reader.skip(4));
+    ASSERT_TRUE(reader.open(m_path));
+    EXPECT_EQ(reader.tell(), 0);
+    EXPECT_FALSE(reader.open(m_path + "none"));
+    EXPECT_EQ(reader.tell(), -1) << "the file before stayed open";
+}
+
+TEST_F(DataFile, writerEndsWithItsDataInTheFile) {
+    {
+        DataFileWriter writer;
+        ASSERT_TRUE(writer.open(m_path, "wb") && writer.write(1));
+    }
+    EXPECT_EQ(bytes().size(), 4);
+}
+
+#ifdef Q_OS_LINUX
+TEST_F(DataFile, fullDiskShowsAtTheLatestOnClosing) {
+    DataFileWriter writer;
+    ASSERT_TRUE(writer.open("/dev/full", "wb") && writer.write(1));
+    EXPECT_FALSE(writer.flush());
+    EXPECT_FALSE(writer.close());
+    ASSERT_TRUE(writer.open("/dev/full", "wb") && writer.write(1));
+    EXPECT_FALSE(writer.close());
+}
+#endif
+
+}  // namespace
+}  // namespace quarn::test

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "quarn/NSMACutPlane.h"
+
+namespace quarn::tool {
+
+/// One cut of an antenna pattern file, read or refused.
+struct PatternCut {
+    struct Refusal {
+        int line;
+        QString reason;
+    };
+
+    int line = 0;                     ///< where its keywords start, counted from 1
+    std::optional<double> frequency;  ///< in Hz, when the header before the cut gives one
+    int completedLines = 0;           ///< samples without a second value, which were given an empty one
+    int leftOutLines = 0;             ///< samples behind the last point that the cut announces
+    std::optional<Refusal> refusal;
+    NSMACutPlane plane;  ///< of a refused cut what was read before the refusal
+};
+
+/// Whether an NSMA keyword that belongs to a cut stands near the beginning of the content.
+bool isPatternFile(const QByteArray& content);
+
+/// All cuts of an NSMA file in UTF-8 or, after a byte-order mark, UTF-16. Header lines are passed over and a sample
+/// that has an angle and a gain only is completed, as the reader of cuts refuses both. Gains are taken for decibels and
+/// become power ratios. Throws a FileProblem when the file is larger, or has more cuts, than any pattern.
+std::vector<PatternCut> readPatternFile(const QString& path, const QByteArray& content);
+
+}  // namespace quarn::tool
