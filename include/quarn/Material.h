@@ -1,0 +1,115 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+#include "quarn/Export.h"
+
+namespace quarn {
+
+class DelimManager;
+
+/// Describes a kind of material to the geometry file; internal to the library.
+template <class Kind>
+struct MaterialText;
+
+/// The thermal properties of a material, for temperature-rise runs.
+class QUARN_EXPORT PhysicalParameters {
+public:
+    /// Density in kg/m^3, heat capacity in J/(kg K), thermal conductivity in W/(m K).
+    PhysicalParameters(float density, float heatCapacity, float thermalConductivity, float perfussionByBlood,
+                       float metabolicHeat);
+
+    float getDensity() const { return m_density; }
+    float getHeatCapacity() const { return m_heatCapacity; }
+    float getThermalConductivity() const { return m_thermalConductivity; }
+    float getPerfussionByBlood() const { return m_perfussionByBlood; }
+    float getMetabolicHeat() const { return m_metabolicHeat; }
+
+    /// Reads the rest of the "PhysicalParameters" block in which the reader stands, with the keys in any order. A key
+    /// that is missing keeps its value, an unknown one is dropped with its line, and a number that cannot be read ends
+    /// the reading. Returns whether the stream is in order.
+    bool streamIn(DelimManager& delim);
+
+    /// Writes the block "PhysicalParameters" with `label` as its value. Returns whether the stream is in order.
+    bool streamOut(DelimManager& delim, const QString& label) const;
+
+    QUARN_EXPORT friend bool operator==(const PhysicalParameters& a, const PhysicalParameters& b);
+    friend bool operator!=(const PhysicalParameters& a, const PhysicalParameters& b) { return !(a == b); }
+
+private:
+    float m_density;
+    float m_heatCapacity;
+    float m_thermalConductivity;
+    float m_perfussionByBlood;
+    float m_metabolicHeat;
+};
+
+/// A material of the geometry file: a name, and thermal properties where a run needs them. The classes that derive from
+/// it hold the electric or magnetic data; getMaterialType() says which one an object is.
+///
+/// Ownership of the physical parameters: copies of a material share them, and no material ever deletes them. Whoever
+/// adds them to a material deletes them, once, after the last material that shares them; getPhysicalParameters() is
+/// the way to them. GeometryFile does so for those that it made.
+class QUARN_EXPORT Material {
+public:
+    /// Each class has the type that bears its name. Value 21 belongs to none and stays free.
+    enum MaterialType : std::int32_t {
+        ElectricFreeSpace = 0,
+        ElectricPerfectConductor = 1,
+        ElectricNormal = 2,
+        ElectricSampled = 3,
+        ElectricDebye = 4,
+        ElectricLorentz = 5,
+        ElectricAnisotropic = 6,
+        ElectricNonlinear = 7,
+        ElectricThinWire = 8,
+        Electric3PoleDebye = 9,
+        Electric7PoleDebye = 10,
+        ElectricDjordjevic = 11,
+        ElectricDebyeLorentzColeCole = 12,
+        MagneticFreeSpace = 13,
+        MagneticPerfectConductor = 14,
+        MagneticNormal = 15,
+        MagneticFerrite = 16,
+        MagneticDebye = 17,
+        Magnetic7PoleDebye = 18,
+        MagneticNonlinear = 19,
+        MagneticSampled = 20,
+        ElectricSurfaceResistance = 22
+    };
+
+    virtual ~Material();
+
+    /// Equal when the other is of the same class with the same name, both or neither have physical parameters, and
+    /// these and the class's own fields compare equal; a NaN is equal to nothing. Classes say where they leave out a
+    /// field.
+    virtual bool operator==(const Material& other) const;
+    bool operator!=(const Material& other) const { return !(*this == other); }
+
+    Material(const Material& other) = default;
+
+    /// The type of a material never changes.
+    Material& operator=(const Material& other);
+
+    QString getName() const { return m_name; }
+    MaterialType getMaterialType() const { return m_type; }
+
+    /// Null when there are none.
+    PhysicalParameters* getPhysicalParameters() const { return m_physicalParameters; }
+
+    /// Stores a new copy of the parameters, or null. What was stored before is not deleted.
+    void addPhysicalParameters(const PhysicalParameters* parameters);
+    void addPhysicalParameters(const float& density, const float& heatCapacity, const float& thermalConductivity,
+                               const float& perfussionByBlood, const float& metabolicHeat);
+
+protected:
+    Material(const QString& name, MaterialType type) : m_type(type), m_name(name) {}
+
+private:
+    MaterialType m_type;
+    QString m_name;
+    PhysicalParameters* m_physicalParameters = nullptr;
+};
+
+}  // namespace quarn

@@ -1,0 +1,133 @@
+#include "quarn/GeometryFile.h"
+
+#include <algorithm>
+#include <set>
+#include <tuple>
+#include <utility>
+
+#include "geometry/GeometrySections.h"
+#include "geometry/MaterialKinds.h"
+#include "quarn/ConformalDielectricManager.h"
+
+namespace quarn {
+
+namespace {
+
+/// Deletes what `old` points to, each object once, save what `kept` points to as well.
+template <class T>
+void destroyOthers(const std::vector<T*>& old, const std::vector<T*>& kept = {}) {
+    std::set<T*> obsolete(old.begin(), old.end());
+    for (T* object : kept) obsolete.erase(object);
+    for (T* object : obsolete) delete object;
+}
+
+template <class T>
+std::vector<T*> joined(std::vector<T*> a, const std::vector<T*>& b) {
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
+
+Material* copied(const Material* material, std::vector<std::unique_ptr<PhysicalParameters>>& parameters) {
+    if (!material) return nullptr;
+    Material* copy = nullptr;
+    useAsItsKind(*material, [&copy](const auto& kind) { copy = new std::decay_t<decltype(kind)>(kind); });
+    if (copy && copy->getPhysicalParameters()) {
+        copy->addPhysicalParameters(copy->getPhysicalParameters());
+        parameters.emplace_back(copy->getPhysicalParameters());
+    }
+    return copy;
+}
+
+template <class T>
+std::vector<T*> released(std::vector<std::unique_ptr<T>>& objects) {
+    std::vector<T*> result;
+    for (auto& object : objects) result.push_back(object.release());
+    return result;
+}
+
+}  // namespace
+
+ConformalDielectricManager::~ConformalDielectricManager() = default;
+
+MaterialMap::MaterialMap(const QString& name, std::int32_t xElectricMaterial, std::int32_t yElectricMaterial,
+                         std::int32_t zElectricMaterial, std::int32_t xMagneticMaterial, std::int32_t yMagneticMaterial,
+                         std::int32_t zMagneticMaterial)
+    : m_name(name),
+      m_xElectricMaterial(xElectricMaterial),
+      m_yElectricMaterial(yElectricMaterial),
+      m_zElectricMaterial(zElectricMaterial),
+      m_xMagneticMaterial(xMagneticMaterial),
+      m_yMagneticMaterial(yMagneticMaterial),
+      m_zMagneticMaterial(zMagneticMaterial) {}
+
+bool operator==(const MaterialMap& a, const MaterialMap& b) {
+    const auto fields = [](const MaterialMap& m) {
+        return std::tie(m.m_name,
+                        m.m_xElectricMaterial,
+                        m.m_yElectricMaterial,
+                        m.m_zElectricMaterial,
+                        m.m_xMagneticMaterial,
+                        m.m_yMagneticMaterial,
+                        m.m_zMagneticMaterial);
+    };
+    return fields(a) == fields(b);
+}
+
+GeometryFile::GeometryFile() = default;
+
+GeometryFile::GeometryFile(const GeometryFile& other)
+    : m_conformalDielectricManager(other.m_conformalDielectricManager) {
+    for (const Material* m : other.m_electricMaterials) m_electricMaterials.push_back(copied(m, m_ownParameters));
+    for (const Material* m : other.m_magneticMaterials) m_magneticMaterials.push_back(copied(m, m_ownParameters));
+    for (const MaterialMap* map : other.m_materialMappings) {
+        m_materialMappings.push_back(map ? new MaterialMap(*map) : nullptr);
+    }
+}
+
+GeometryFile& GeometryFile::operator=(const GeometryFile& other) {
+    if (this != &other) {
+        GeometryFile copy(other);
+        swap(copy);
+    }
+    return *this;
+}
+
+GeometryFile::~GeometryFile() {
+    destroyOthers(joined(m_electricMaterials, m_magneticMaterials));
+    destroyOthers(m_materialMappings);
+}
+
+void GeometryFile::swap(GeometryFile& other) {
+    m_electricMaterials.swap(other.m_electricMaterials);
+    m_magneticMaterials.swap(other.m_magneticMaterials);
+    m_materialMappings.swap(other.m_materialMappings);
+    std::swap(m_conformalDielectricManager, other.m_conformalDielectricManager);
+    m_ownParameters.swap(other.m_ownParameters);
+}
+
+void GeometryFile::setElectricMaterials(const std::vector<Material*>& materials) {
+    const auto old = m_electricMaterials;
+    m_electricMaterials = materials;
+    destroyOthers(old, joined(m_electricMaterials, m_magneticMaterials));
+}
+
+void GeometryFile::setMagneticMaterials(const std::vector<Material*>& materials) {
+    const auto old = m_magneticMaterials;
+    m_magneticMaterials = materials;
+    destroyOthers(old, joined(m_electricMaterials, m_magneticMaterials));
+}
+
+void GeometryFile::setMaterialMappings(const std::vector<MaterialMap*>& maps) {
+    const auto old = m_materialMappings;
+    m_materialMappings = maps;
+    destroyOthers(old, m_materialMappings);
+}
+
+void GeometryFile::install(GeometryContents& contents) {
+    setElectricMaterials(released(contents.electricMaterials));
+    setMagneticMaterials(released(contents.magneticMaterials));
+    setMaterialMappings(released(contents.materialMappings));
+    m_ownParameters = std::move(contents.physicalParameters);
+}
+
+}  // namespace quarn

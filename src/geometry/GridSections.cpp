@@ -1,0 +1,121 @@
+#include <cmath>
+#include <limits>
+
+#include "blocktext/BlockWalker.h"
+#include "blocktext/BlockWriter.h"
+#include "geometry/GeometrySections.h"
+#include "geometry/MaterialLines.h"
+
+namespace quarn {
+
+using namespace geometry;
+
+namespace {
+
+namespace key {
+constexpr auto GridDefinition = "GridDefinition"_key;
+constexpr auto GridOriginInMeters = "GridOriginInMeters"_key;
+constexpr auto Deltas = "Deltas"_key;
+}  // namespace key
+
+// What the file and the grid call the parts of an axis.
+struct AxisText {
+    QLatin1String numberOfCells;
+    QLatin1String deltas;
+    std::uint32_t (Grid::*getNumberOfCells)() const;
+    float (Grid::*getDelta)(std::uint32_t) const;
+};
+
+constexpr std::array<AxisText, 3> axes = {{
+    {"NumberOfCellsInX"_key, "DelX"_key, &Grid::getNumberOfUserCellsInX, &Grid::getUserXElectricDelta},
+    {"NumberOfCellsInY"_key, "DelY"_key, &Grid::getNumberOfUserCellsInY, &Grid::getUserYElectricDelta},
+    {"NumberOfCellsInZ"_key, "DelZ"_key, &Grid::getNumberOfUserCellsInZ, &Grid::getUserZElectricDelta},
+}};
+
+// A count that is none becomes one that no grid takes.
+bool readCount(QTextStream& in, std::uint32_t& count) {
+    constexpr auto most = std::numeric_limits<std::uint32_t>::max();
+    qint64 number = 0;
+    in >> number;
+    if (in.status() != QTextStream::Ok) return false;
+    count = number >= 0 && number <= most ? static_cast<std::uint32_t>(number) : most;
+    return true;
+}
+
+auto onCount(QLatin1String word, std::uint32_t& count) {
+    return onWord(word, [&count](QTextStream& in) { return readCount(in, count); });
+}
+
+// NaNs count as one size, so that they too stay a single run.
+bool isSameSize(float a, float b) { return a == b || (std::isnan(a) && std::isnan(b)); }
+
+void writeRuns(DelimManager& delim, const AxisText& axis, const Grid& grid) {
+    const WrittenBlock block(delim, axis.deltas);
+    const std::uint32_t cells = (grid.*axis.getNumberOfCells)();
+    float last = 0.0F;
+    for (std::uint32_t i = 0; i < cells; ++i) {
+        const float size = (grid.*axis.getDelta)(i);
+        if (i > 0 && isSameSize(size, last)) continue;
+        delim.GetStream() << i << ' ' << size << '\n';
+        last = size;
+    }
+}
+
+bool readRuns(DelimManager& delim, Grid::Runs& runs) {
+    bool isRead = true;
+    walkList(delim, [&](QTextStream& in) {
+        Grid::Runs::value_type run;
+        isRead = readAll(in, run.first, run.second);
+        if (isRead) runs.push_back(run);
+    });
+    return isRead;
+}
+
+}  // namespace
+
+void writeGridDefinition(DelimManager& delim, const Grid& grid) {
+    const WrittenBlock block(delim, key::GridDefinition);
+    putLine(delim, key::GridOriginInMeters, grid.getUserXOrigin(), grid.getUserYOrigin(), grid.getUserZOrigin());
+    for (const AxisText& axis : axes) putLine(delim, axis.numberOfCells, (grid.*axis.getNumberOfCells)());
+}
+
+// The other keys that files have here, such as "BaseCellSize" and "OffsetX", say nothing that the grid needs.
+bool readGridDefinition(DelimManager& delim, GeometryContents& contents) {
+    auto& [x, y, z] = contents.gridAxes;
+    const auto readOrigin = [&](QTextStream& in) { return readAll(in, x.origin, y.origin, z.origin); };
+    return walkBlock(delim,
+                     Unknown::DropLine,
+                     onWord(key::GridOriginInMeters, readOrigin),
+                     onCount(axes[0].numberOfCells, x.cells),
+                     onCount(axes[1].numberOfCells, y.cells),
+                     onCount(axes[2].numberOfCells, z.cells));
+}
+
+bool readAdaptiveGridDefinition(DelimManager& delim, GeometryContents& contents) {
+    QString name, value, description;
+    while (delim.ContinueReading()) {
+        name.clear();
+        if (!delim.IsDelim(name, value, description)) {
+            dropLine(delim.GetStream());
+            continue;
+        }
+        const bool isRead = readGridDefinition(delim, contents);
+        delim.SeekToEndOfDelim();
+        return isRead;
+    }
+    return true;
+}
+
+void writeDeltas(DelimManager& delim, const Grid& grid) {
+    const WrittenBlock block(delim, key::Deltas);
+    for (const AxisText& axis : axes) writeRuns(delim, axis, grid);
+}
+
+bool readDeltas(DelimManager& delim, GeometryContents& contents) {
+    const auto onRuns = [&](std::size_t axis) {
+        return onBlock(axes[axis].deltas, [&, axis] { return readRuns(delim, contents.gridAxes[axis].runs); });
+    };
+    return walkBlock(delim, Unknown::DropLine, onRuns(0), onRuns(1), onRuns(2));
+}
+
+}  // namespace quarn

@@ -1,0 +1,153 @@
+#include "quarn/v6GeometryFile.h"
+
+#include <QTextStream>
+
+#include "blocktext/BlockWalker.h"
+#include "blocktext/WholeText.h"
+#include "geometry/GeometrySections.h"
+
+namespace quarn {
+
+using namespace blocktext;
+
+namespace {
+
+constexpr auto unrecognizedFormat = "Unrecognized *.id file format."_key;
+constexpr auto undefinedMesh = "The mesh is undefined."_key;
+constexpr auto refusedGrid = "Error initializing the grid."_key;
+
+// Zeros stand where older files had the extent of the mesh.
+constexpr auto fileStart = "Geometry file version 3.20\n\nmesh_defined\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0\n"_key;
+
+struct Section {
+    QLatin1String name;
+    bool (*read)(DelimManager&, GeometryContents&);
+    QLatin1String failure;
+};
+
+// "AveragedMaterialBins" is always empty and passed over as any unknown block.
+constexpr Section sections[] = {
+    {"materials"_key, readMaterials, "Error loading materials."_key},
+    {"materialMaps"_key, readMaterialMaps, "Error loading material mappings."_key},
+    {"AdaptiveGridDefinition"_key, readAdaptiveGridDefinition, "Error loading grid definition."_key},
+    {"GridDefinition"_key, readGridDefinition, "Error loading grid definition."_key},
+    {"Deltas"_key, readDeltas, "Error loading deltas."_key},
+};
+
+bool readBlock(DelimManager& delim, const QString& name, GeometryContents& contents, QStringList& errors) {
+    for (const Section& section : sections) {
+        if (name != section.name) continue;
+        if (section.read(delim, contents)) return true;
+        errors << section.failure;
+        return false;
+    }
+    delim.SeekToEndOfDelim();
+    return true;
+}
+
+bool readBlocks(DelimManager& delim, GeometryContents& contents, QStringList& errors) {
+    QTextStream& in = delim.GetStream();
+    QString name, value, description;
+    for (in.skipWhiteSpace(); !in.atEnd(); in.skipWhiteSpace()) {
+        name.clear();
+        if (!delim.IsDelim(name, value, description)) {
+            dropLine(in);
+        } else if (!readBlock(delim, name, contents, errors)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Between the version and the blocks stand the state of the mesh and its extent, which no longer counts.
+bool readFileStart(QTextStream& in, QStringList& errors) {
+    constexpr int wordsOfExtent = 15;
+    QString buffer;
+    if (readWord(in, buffer) == "mesh_undefined"_key) {
+        errors << undefinedMesh;
+        return false;
+    }
+    for (int i = 0; i < wordsOfExtent; ++i) readWord(in, buffer);
+    int more = 0;
+    if (readValue(in, more) && more == 1) readWord(in, buffer);
+    in.resetStatus();
+    return true;
+}
+
+bool initialize(Grid& grid, const GeometryContents& contents, QStringList& errors) {
+    const auto& [x, y, z] = contents.gridAxes;
+    if (grid.initialize(x.cells, y.cells, z.cells, x.origin, y.origin, z.origin, x.runs, y.runs, z.runs, true)) {
+        return true;
+    }
+    errors << refusedGrid;
+    return false;
+}
+
+// The whole part of a number, or 0 where it is none that an int holds.
+std::int32_t wholePart(float number) {
+    constexpr float limit = 2147483648.0F;
+    return number > -limit && number < limit ? static_cast<std::int32_t>(number) : 0;
+}
+
+}  // namespace
+
+bool v6GeometryFile::saveToStream(const Grid& grid, QTextStream& stream) const { return save(QString(), grid, stream); }
+
+bool v6GeometryFile::save(const QString& path, const Grid& grid, QTextStream& stream) const {
+    QString text;
+    QTextStream blocks(&text, QIODevice::WriteOnly);
+    blocks.setRealNumberPrecision(17);
+    DelimManager delim(blocks, path);
+    if (!writeMaterials(delim, getElectricMaterials(), getMagneticMaterials())) return false;
+    if (!writeMaterialMaps(delim, getMaterialMappings())) return false;
+    writeGridDefinition(delim, grid);
+    writeDeltas(delim, grid);
+    delim.BeginDelim(QStringLiteral("AveragedMaterialBins"), QString(), QString());
+    delim.EndDelim();
+
+    stream.setRealNumberPrecision(17);
+    stream.setCodec("UTF-8");
+    stream << fileStart << text;
+    stream.flush();
+    return stream.status() == QTextStream::Ok;
+}
+
+bool v6GeometryFile::loadFromStream(QTextStream& stream, Grid* grid, QStringList& errors) {
+    return load(QString(), stream, grid, errors);
+}
+
+bool v6GeometryFile::load(const QString& path, QTextStream& stream, Grid* grid, QStringList& errors) {
+    stream.setCodec("UTF-8");
+    if (!acceptsVersionOf(stream, errors)) return false;
+    WholeText text(stream);
+    if (!readFileStart(text.stream(), errors)) return false;
+    GeometryContents contents;
+    DelimManager delim(text.stream(), path);
+    if (!readBlocks(delim, contents, errors)) return false;
+    if (grid && !initialize(*grid, contents, errors)) return false;
+    install(contents);
+    return true;
+}
+
+// Versions 3 and any with the minor number 19 are read alike.
+bool v6GeometryFile::acceptsVersionOf(QTextStream& stream, QStringList& errors) {
+    constexpr int longestLine = 255;
+    m_majorFileVersion = 0;
+    m_minorFileVersion = 0;
+    QString line = stream.readLine(longestLine).toLower().remove(u' ');
+    const auto phrase = "geometryfileversion"_key;
+    if (!line.contains(phrase)) {
+        stream.seek(0);
+    } else if (line.remove(phrase).isEmpty()) {
+        m_majorFileVersion = -1;
+    } else {
+        m_majorFileVersion = wholePart(line.toFloat());
+        const int point = line.indexOf(u'.');
+        m_minorFileVersion = point < 0 ? 0 : line.midRef(point + 1).toInt();
+    }
+    if (m_majorFileVersion == 3 || m_minorFileVersion == 19) return true;
+    errors << unrecognizedFormat;
+    return false;
+}
+
+}  // namespace quarn

@@ -1,0 +1,281 @@
+#include "quarn/GeometryFile.h"
+
+#include <gmock/gmock.h>
+
+#include <memory>
+
+#include "geometry/GeometrySupport.h"
+#include "quarn/ConformalDielectricManager.h"
+#include "quarn/ElectricDispersiveMaterials.h"
+#include "quarn/ElectricMaterials.h"
+#include "quarn/MagneticMaterials.h"
+
+namespace quarn::test {
+namespace {
+
+// The x cells of sizes 1, 1, 2, 2, 1 are three runs.
+const QString grid5x2x1 =
+    "begin_<GridDefinition> \nGridOriginInMeters 0.10000000149011612 -2 3\nNumberOfCellsInX 5\nNumberOfCellsInY 2\n"
+    "NumberOfCellsInZ 1\nend_<GridDefinition>\n"
+    "begin_<Deltas> \nbegin_<DelX> \n0 1\n2 2\n4 1\nend_<DelX>\nbegin_<DelY> \n0 0.10000000149011612\nend_<DelY>\n"
+    "begin_<DelZ> \n0 0.5\nend_<DelZ>\nend_<Deltas>\n";
+const QString maps =
+    "begin_<materialMaps> \nbegin_<materialMap> body  \nmaterialNumber 0\nxElectricMaterial 1\nyElectricMaterial 2\n"
+    "zElectricMaterial 3\nxMagneticMaterial 4\nyMagneticMaterial 5\nzMagneticMaterial -6\nend_<materialMap>\n"
+    "end_<materialMaps>\n";
+const QString wire = "begin_<thin_wire> Größe \"7\" > 6\nmaterial_number 2\nradius 5\nend_<thin_wire>\n";
+const QString wholeFile =
+    withMaterials(wire) + maps + grid5x2x1 + "begin_<AveragedMaterialBins> \nend_<AveragedMaterialBins>\n";
+
+TEST(GeometryFile, is_loaded_and_saved_as_it_was) {
+    onBothStreams(wholeFile, [](QTextStream& stream) {
+        v6GeometryFile file;
+        Grid grid;
+        QStringList errors;
+        ASSERT_TRUE(file.loadFromStream(stream, &grid, errors));
+        EXPECT_EQ(errors, QStringList());
+        EXPECT_EQ(file.GetMajorFileVersionNumber(), 3);
+        EXPECT_EQ(file.GetMinorFileVersionNumber(), 20);
+        EXPECT_EQ(file.getElectricMaterials().at(2)->getName(), "Größe \"7\" > 6");
+        EXPECT_EQ(*file.getMaterialMappings().at(0), MaterialMap("body  ", 1, 2, 3, 4, 5, -6));
+        EXPECT_EQ(grid.getUserXElectricDelta(3), 2.0F);
+        EXPECT_EQ(grid.getUserXUpperBound(), 0.10000000149011612 + 6);
+        EXPECT_EQ(savedText(file, grid), wholeFile);
+    });
+}
+
+TEST(GeometryFile, is_replaced_by_asecond_load) {
+    v6GeometryFile file;
+    ASSERT_TRUE(loadText(file, wholeFile));
+    ASSERT_TRUE(loadText(file, wholeFile));
+    EXPECT_EQ(file.getElectricMaterials().size(), 3U);
+    EXPECT_EQ(file.getMagneticMaterials().size(), 2U);
+    EXPECT_EQ(file.getMaterialMappings().size(), 1U);
+}
+
+struct Reading {
+    const char* name;
+    QString text;
+    QString equivalent;
+};
+
+void PrintTo(const Reading& row, std::ostream* out) { *out << row.name; }
+
+class ReadAs : public testing::TestWithParam<Reading> {};
+
+// Both texts are blocks of a file.
+TEST_P(ReadAs, gives_the_same_file) {
+    const auto canonical = [](const QString& blocks) {
+        v6GeometryFile file;
+        Grid grid;
+        EXPECT_TRUE(loadText(file, fileStart + blocks, &grid));
+        return savedText(file, grid);
+    };
+    EXPECT_EQ(canonical(GetParam().text), canonical(GetParam().equivalent));
+}
+
+const QString cells3x1x1 = "GridDefinition{ NumberOfCellsInX 3; NumberOfCellsInY 1; NumberOfCellsInZ 1; }";
+
+const Reading readings[] = {
+    {"blocks_in_any_order", grid5x2x1 + maps, maps + grid5x2x1},
+    {"unknown_blocks", expanded("Unheard{ x 1; Deltas{ y; } }") + maps + expanded("Unheard{}"), maps},
+    {"lines_between_blocks", "stray words\n\nend_<materials>\n" + maps + "stray", maps},
+    {"other_grid_keys",
+     expanded("GridDefinition{ OffsetX a; TargetSizeOfGridInMeters a b c; BaseCellSize 1 2 3; NumberOfCellsInY +2;"
+              "GridOriginInMeters 1 2 3; NumberOfCellsInX 1; Unheard NumberOfCellsInX 9; }"),
+     expanded("GridDefinition{ GridOriginInMeters 1 2 3; NumberOfCellsInX 1; NumberOfCellsInY 2; }")},
+    {"the_origin_is_single_precision",
+     expanded("GridDefinition{ GridOriginInMeters 0.1 0 0; }"),
+     expanded("GridDefinition{ GridOriginInMeters 0.10000000149011612 0 0; }")},
+    {"only_the_first_block_of_an_adaptive_grid",
+     expanded("AdaptiveGridDefinition{ word; Any{ NumberOfCellsInX 2; } GridDefinition{ NumberOfCellsInX 7; } }") +
+         maps,
+     expanded("GridDefinition{ NumberOfCellsInX 2; }") + maps},
+    {"other_blocks_among_the_deltas",
+     expanded(cells3x1x1 + "Deltas{ DelZ{ 0 3; } Unheard{ 0 9; } DelX{ 0 1; +1 2; } }"),
+     expanded(cells3x1x1 + "Deltas{ DelX{ 0 1; 1 2; } DelY{} DelZ{ 0 3; } }")},
+    {"the_number_of_a_map_is_its_position",
+     expanded("materialMaps{ materialMap{ zMagneticMaterial 1; unheard 3; materialNumber 5; } }"),
+     expanded("materialMaps{ materialMap{ materialNumber 0; zMagneticMaterial 1; } }")},
+    {"the_names_of_built_in_materials_are_the_readers",
+     expanded("materials{ electricfreespace{ conductivity 5; } }"),
+     "begin_<materials> \nend_<materials>\n"},
+    {"kinds_that_are_no_more",
+     expanded("materials{ frequency_dependent{ debye{ } } thin_wire{ radius 1; } }"),
+     expanded("materials{ thin_wire{ radius 1; } }")},
+    {"a_second_block_of_materials",
+     expanded("materials{ thin_wire{ radius 1; } } materials{ thin_wire{ radius 2; } }"),
+     expanded("materials{ thin_wire{ radius 1; } thin_wire{ radius 2; } }")},
+    {"both_loss_tangent_and_imaginary_part",
+     expanded("materials{ normal_magnetic{ UseComplex ; Imaginary 3; UseLossTangent ; LossTangent 2; } }"),
+     expanded("materials{ normal_magnetic{ UseLossTangent ; LossTangent 2; } }")},
+    {"a_density_alone_makes_physical_parameters",
+     expanded("materials{ normal_electric{ density 2; } }"),
+     expanded("materials{ normal_electric{ density 2; TemperatureRiseMaterialParameters{} } }")},
+    {"a_file_that_breaks_off", maps + "begin_<Deltas> \nbegin_<DelX> \n0 1\n", maps},
+};
+INSTANTIATE_TEST_SUITE_P(GeometryFile, ReadAs, testing::ValuesIn(readings), rowName<Reading>);
+
+TEST(GeometryFile, writes_a_run_of_nans_once) {
+    Grid grid;
+    ASSERT_TRUE(grid.initialize(3, 0, 0, 0, 0, 0, {{0, std::nanf("")}}, {}, {}, false));
+    EXPECT_EQ(savedText(v6GeometryFile(), grid).count("nan"), 1);
+}
+
+TEST(GeometryFile, skips_the_extra_integer_of_the_header_only_behind_aone) {
+    const QString header = versionLine + "mesh 1 -2 3 1.5 2e3 nan -1 0 .5 a b c d e f ";
+    v6GeometryFile file;
+    ASSERT_TRUE(loadText(file, header + "1 begin_<Unheard>\n" + maps));
+    EXPECT_EQ(file.getMaterialMappings().size(), 1U);
+    ASSERT_TRUE(loadText(file, header + "2 " + maps));
+    EXPECT_EQ(file.getMaterialMappings().size(), 1U);
+}
+
+struct Version {
+    const char* name;
+    const char* line;
+    int major, minor;
+    bool isAccepted;
+};
+
+void PrintTo(const Version& row, std::ostream* out) { *out << row.name; }
+
+class VersionLine : public testing::TestWithParam<Version> {};
+
+TEST_P(VersionLine, decides_whether_the_file_is_read) {
+    v6GeometryFile file;
+    QStringList errors;
+    EXPECT_EQ(loadText(file, QString(GetParam().line) + "\nmesh_defined\n", nullptr, &errors), GetParam().isAccepted);
+    EXPECT_EQ(errors, GetParam().isAccepted ? QStringList() : QStringList("Unrecognized *.id file format."));
+    EXPECT_EQ(file.GetMajorFileVersionNumber(), GetParam().major);
+    EXPECT_EQ(file.GetMinorFileVersionNumber(), GetParam().minor);
+}
+
+const Version versions[] = {
+    {"current", "Geometry file version 3.20", 3, 20, true},
+    {"any_case_and_blanks", " geometryFILE  ver sion3 . 7", 3, 7, true},
+    {"minor_nineteen", "Geometry file version 4.19", 4, 19, true},
+    {"older", "Geometry file version 2.20", 2, 20, false},
+    {"no_minor", "Geometry file version 3", 3, 0, true},
+    {"no_number", "Geometry file version", -1, 0, false},
+    {"no_integer_holds_it", "Geometry file version 1e30", 0, 0, false},
+    {"no_version", "mesh_defined", 0, 0, false},
+};
+INSTANTIATE_TEST_SUITE_P(GeometryFile, VersionLine, testing::ValuesIn(versions), rowName<Version>);
+
+struct Refusal {
+    const char* name;
+    QString text;
+    const char* error;
+};
+
+void PrintTo(const Refusal& row, std::ostream* out) { *out << row.name; }
+
+class RefusedFile : public testing::TestWithParam<Refusal> {};
+
+TEST_P(RefusedFile, leaves_everything_as_it_was) {
+    v6GeometryFile file;
+    Grid grid;
+    ASSERT_TRUE(loadText(file, wholeFile, &grid));
+    const Material* material = file.getElectricMaterials()[2];
+    QStringList errors;
+    EXPECT_FALSE(loadText(file, GetParam().text, &grid, &errors));
+    EXPECT_EQ(errors, QStringList(GetParam().error));
+    EXPECT_EQ(file.getElectricMaterials()[2], material);
+    EXPECT_EQ(savedText(file, grid), wholeFile);
+}
+
+Refusal block(const char* name, const char* shortForm, const char* error) {
+    return {name,
+            withMaterials("begin_<normal_electric> x\ndensity 1\nend_<normal_electric>\n") + expanded(shortForm),
+            error};
+}
+
+const Refusal refusals[] = {
+    {"undefined_mesh", versionLine + "mesh_undefined\n" + maps, "The mesh is undefined."},
+    {"unreadable_material",
+     withMaterials("begin_<normal_electric> x\ndensity 1\nconductivity abc\nend_<normal_electric>\n"),
+     "Error loading materials."},
+    block("unreadable_sample", "materials{ magnetic_sampled{ SampledParameters{ frequency x; } } }",
+          "Error loading materials."),
+    block("unreadable_thermal_value",
+          "materials{ normal_electric{ TemperatureRiseMaterialParameters{ heat_capacity x; } } }",
+          "Error loading materials."),
+    block("tensor_too_short", "materials{ anisotropic{ conductivity ; 1 2 3 ; permittivity ; } }",
+          "Error loading materials."),
+    block("unreadable_map", "materialMaps{ materialMap{ xElectricMaterial x; } }", "Error loading material mappings."),
+    block("unreadable_deltas", "Deltas{ DelY{ 0 1; x 2; } }", "Error loading deltas."),
+    block("unreadable_origin", "GridDefinition{ GridOriginInMeters 1 x 3; }", "Error loading grid definition."),
+    block("unreadable_adaptive_grid", "AdaptiveGridDefinition{ Inner{ NumberOfCellsInX x; } }",
+          "Error loading grid definition."),
+    block("huge_count", "GridDefinition{ NumberOfCellsInX 4000000000; }", "Error initializing the grid."),
+    block("count_that_would_wrap", "GridDefinition{ NumberOfCellsInY 4294967297; }", "Error initializing the grid."),
+    block("negative_count", "GridDefinition{ NumberOfCellsInZ -1; }", "Error initializing the grid."),
+};
+INSTANTIATE_TEST_SUITE_P(GeometryFile, RefusedFile, testing::ValuesIn(refusals), rowName<Refusal>);
+
+TEST(GeometryFile, is_not_saved_with_what_the_text_cannot_carry) {
+    v6GeometryFile nullMaterial, nullMap;
+    nullMaterial.setMagneticMaterials({nullptr});
+    nullMap.setMaterialMappings({nullptr});
+    for (const v6GeometryFile* file : {&nullMaterial, &nullMap}) {
+        QString text;
+        QTextStream stream(&text, QIODevice::WriteOnly);
+        EXPECT_FALSE(file->saveToStream(Grid(), stream));
+        EXPECT_EQ(text, "");
+    }
+}
+
+TEST(GeometryFile, copies_are_deep) {
+    v6GeometryFile file;
+    const QString text = withMaterials(expanded("normal_electric{ density 3; } electric_sampled{ SampledParameters{ "
+                                                "frequency 1; conductivity 2; permittivity 3; } }")) +
+                         maps;
+    ASSERT_TRUE(loadText(file, text));
+    ConformalDielectricManager manager;
+    file.setConformDielectricManager(&manager);
+    const QString before = savedText(file);
+    v6GeometryFile assigned;
+    ASSERT_TRUE(loadText(assigned, text));
+    {
+        const v6GeometryFile copy(file);
+        assigned = copy;
+        EXPECT_NE(copy.getElectricMaterials()[2], file.getElectricMaterials()[2]);
+        EXPECT_NE(copy.getElectricMaterials()[2]->getPhysicalParameters(),
+                  file.getElectricMaterials()[2]->getPhysicalParameters());
+        EXPECT_NE(copy.getMaterialMappings()[0], file.getMaterialMappings()[0]);
+        EXPECT_EQ(copy.getConformalDielectricManager(), &manager);
+    }
+    file.setElectricMaterials({});
+    file.setMaterialMappings({});
+    EXPECT_EQ(savedText(assigned), before);
+}
+
+class CountedWire : public ElectricThinWire {
+public:
+    explicit CountedWire(int& living) : ElectricThinWire("counted", 1), m_living(living) { ++m_living; }
+    ~CountedWire() override { --m_living; }
+
+private:
+    int& m_living;
+};
+
+TEST(GeometryFile, deletes_what_it_no_longer_lists) {
+    int living = 0;
+    {
+        GeometryFile file;
+        auto* kept = new CountedWire(living);
+        auto* shared = new CountedWire(living);
+        file.setElectricMaterials({kept, kept, new CountedWire(living), shared});
+        file.setMagneticMaterials({shared});
+        file.setElectricMaterials(file.getElectricMaterials());
+        EXPECT_EQ(living, 3) << "setting the same list deletes nothing";
+        file.setElectricMaterials({kept});
+        EXPECT_EQ(living, 2);
+        EXPECT_EQ(file.getMagneticMaterials()[0]->getName(), "counted") << "still listed here";
+    }
+    EXPECT_EQ(living, 0);
+}
+
+}  // namespace
+}  // namespace quarn::test
