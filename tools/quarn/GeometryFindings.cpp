@@ -34,6 +34,17 @@ void addMissingMaterial(QStringList& errors, const MaterialMap& map, const char*
                   .arg(count);
 }
 
+// A component sits on a cell edge: along its own direction it needs a cell, across it the far side of the last cell is
+// as good as any.
+bool isWithin(const Grid& grid, const CircuitComponent& component) {
+    const auto fits = [&component](unsigned index, std::uint32_t cells, auto axis) {
+        return index < cells || (index == cells && component.getComponentDirection() != axis);
+    };
+    return fits(component.getXIndex(), grid.getNumberOfUserCellsInX(), CircuitComponent::X) &&
+           fits(component.getYIndex(), grid.getNumberOfUserCellsInY(), CircuitComponent::Y) &&
+           fits(component.getZIndex(), grid.getNumberOfUserCellsInZ(), CircuitComponent::Z);
+}
+
 void removeRepeatedSizes(std::vector<BlockLine>& lines, BlockNumbers& numbers) {
     const int deltas = numbers.of(0, QStringLiteral("Deltas"));
     const int axes[] = {numbers.of(deltas, QStringLiteral("DelX")),
@@ -84,25 +95,16 @@ QStringList errorsIn(const LoadedGeometry& loaded) {
     return errors;
 }
 
-// A component sits on a cell edge: along its own direction it needs a cell, across it the far side of the last cell is
-// as good as any.
 QStringList misplacedComponents(const ProjectFile& project, const Grid& grid) {
     QStringList errors;
     if (!project.getComponentManager()) return errors;
     for (const CircuitComponent* component : project.getComponentManager()->getComponents()) {
-        const unsigned cell[] = {component->getXIndex(), component->getYIndex(), component->getZIndex()};
-        bool isOutside = false;
-        for (int axis = 0; axis < 3; ++axis) {
-            const bool isAlong = static_cast<int>(component->getComponentDirection()) == axis;
-            const std::uint32_t cells = (grid.*gridAxes[axis].getNumberOfCells)();
-            isOutside = isOutside || cell[axis] > cells || (isAlong && cell[axis] == cells);
-        }
-        if (!isOutside) continue;
+        if (isWithin(grid, *component)) continue;
         errors << QStringLiteral("A component is outside the grid, at cell (%2, %3, %4): %1")
                       .arg(component->qstr_short())
-                      .arg(cell[0])
-                      .arg(cell[1])
-                      .arg(cell[2]);
+                      .arg(component->getXIndex())
+                      .arg(component->getYIndex())
+                      .arg(component->getZIndex());
     }
     return errors;
 }
