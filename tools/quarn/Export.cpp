@@ -18,7 +18,7 @@ namespace {
 
 int statusOfIncomplete(const QString& path, std::size_t bytes) {
     if (bytes == 0) return ExitFine;
-    complain(QStringLiteral("%1: cut short: the last %2 make no whole record")
+    complain(QStringLiteral("%1: cut short: %2 at the end belong to no whole record")
                  .arg(path, counted(bytes, QStringLiteral("byte"))));
     return ExitFindings;
 }
@@ -209,9 +209,8 @@ int runExport(const QStringList& arguments) {
                        "patterns in degrees. Kinds of records:\n  %1\n"
                        "Exit status: 0 fine, 1 the file is cut short, 2 it cannot be used.")
             .arg(recordKindNames().join(QStringLiteral("\n  "))));
-    commandLine.addOption(as,
-                          QStringLiteral("What the records are, for files that do not say it."),
-                          QStringLiteral("KIND"));
+    commandLine.addOption(
+        as, QStringLiteral("What the records are, for files that do not say it."), QStringLiteral("KIND"));
     commandLine.addOption(
         group, QStringLiteral("The group of a multi-point result, such as transient-total-E."), QStringLiteral("NAME"));
     commandLine.addOption(

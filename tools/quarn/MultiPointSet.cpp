@@ -46,9 +46,9 @@ void SetGroup::choose(MultiPointResultReader& reader, int index) const {
 }
 
 bool SetGroup::begin(MultiPointResultReader& reader, int component) const {
-    return m_isSteady ? reader.beginSteady(static_cast<Result::SteadyGroup>(m_group), steadyComponents[component])
-                      : reader.beginTransient(static_cast<Result::TransientGroup>(m_group),
-                                              transientComponents[component]);
+    return m_isSteady
+               ? reader.beginSteady(static_cast<Result::SteadyGroup>(m_group), steadyComponents[component])
+               : reader.beginTransient(static_cast<Result::TransientGroup>(m_group), transientComponents[component]);
 }
 
 bool SetGroup::read(MultiPointResultReader& reader, int component, std::vector<float>& values,

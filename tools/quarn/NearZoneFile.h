@@ -32,7 +32,7 @@ public:
     /// Those that the records hold, in their order.
     const std::vector<NearZoneGroup>& groups() const { return m_groups; }
 
-    bool next(Record& record) { return m_result.readRecord(record, m_file.get()); }
+    bool next(Record& record) { return m_result.readRecord(m_file.get(), record); }
 
     /// Bytes at the end of the file that are no whole record.
     std::size_t incompleteBytes() const { return m_incompleteBytes; }

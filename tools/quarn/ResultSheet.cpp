@@ -15,7 +15,7 @@ QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 void addIncompleteRecord(Sheet& sheet, std::size_t bytes) {
     if (bytes == 0) return;
-    sheet.add(text("Cut short"), text("the last %1 make no whole record").arg(counted(bytes, text("byte"))));
+    sheet.add(text("Cut short"), text("%1 at the end belong to no whole record").arg(counted(bytes, text("byte"))));
 }
 
 Sheet sheetOfNearZonePoint(const QString& path) {
@@ -84,8 +84,7 @@ QString listText(const std::vector<float>& list, const char* unit) {
 
 Sheet sheetOfMultiPoint(const QString& path) {
     MultiPointSet set(path);
-    Sheet sheet(
-        text("%1: multi-point result, version %2").arg(path).arg(set.reader.getSerializationVersion()));
+    Sheet sheet(text("%1: multi-point result, version %2").arg(path).arg(set.reader.getSerializationVersion()));
     sheet.add(text("Points"), QString::number(set.reader.getNumberOfPoints()));
     sheet.add(text("Time steps"), listText(set.times, "s"));
     sheet.add(text("Frequencies"), listText(set.frequencies, "Hz"));

@@ -8,9 +8,10 @@ namespace quarn::tool {
 int runSar(const QStringList& arguments) {
     CommandLine commandLine(
         QStringLiteral("sar"),
-        QStringLiteral("'quarn sar combine OUT PART...' joins the files that several processes wrote of one SAR plane,\n"
-                       "in their order. Files that do not exist are passed over; PARTs stay. When anything fails, an\n"
-                       "earlier OUT stays as it was."));
+        QStringLiteral(
+            "'quarn sar combine OUT PART...' joins the files that several processes wrote of one SAR plane,\n"
+            "in their order. Files that do not exist are passed over; PARTs stay. When anything fails, an\n"
+            "earlier OUT stays as it was."));
     commandLine.addFile(QStringLiteral("combine"), QStringLiteral("What to do."));
     commandLine.addFile(QStringLiteral("OUT"), QStringLiteral("The file to write."));
     commandLine.addFiles(QStringLiteral("PART"), QStringLiteral("The files to join."));
