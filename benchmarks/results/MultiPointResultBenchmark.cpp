@@ -57,6 +57,13 @@ bool readAtOnce(Reader& reader, std::vector<float>& values) {
     return count == values.size();
 }
 
+bool readAtOnceIntoNewVector(Reader& reader, std::vector<float>& values) {
+    std::vector<float> found(numPoints);
+    if (!readAtOnce(reader, found)) return false;
+    values.swap(found);
+    return true;
+}
+
 bool readBlock(Reader& reader, std::vector<float>& values) {
     return reader.beginTransientTotalEx() && reader.readTransientBlock(Reader::X, values);
 }
@@ -91,6 +98,7 @@ void readComponent(benchmark::State& state, Read read) {
 BENCHMARK_CAPTURE(readComponent, block, readBlock)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(readComponent, blockIntoNewVector, readBlockIntoNewVector)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(readComponent, each, readEach)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(readComponent, atOnceIntoNewVectorReference, readAtOnceIntoNewVector)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(readComponent, atOnceReference, readAtOnce)->Unit(benchmark::kMillisecond);
 
 void readAllComponents(benchmark::State& state) {
