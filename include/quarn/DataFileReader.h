@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <cstddef>
 #include <cstdio>
 
 #include "quarn/Export.h"
@@ -19,6 +20,8 @@ public:
     /// Closes what is open, then opens the file at `path`.
     bool open(const QString& path);
 
+    bool isOpen() const { return m_file != nullptr; }
+
     /// False when the file ends before or within the number, which then stays as it was, and when no file is open.
     bool read(signed char& value);
     bool read(short& value);
@@ -26,6 +29,14 @@ public:
     bool read(long long& value);
     bool read(float& value);
     bool read(double& value);
+
+    /// Reads up to `count` items of `size` bytes, as they are, at the cost of one copy. Returns how many were there as
+    /// a whole; 0 when no file is open.
+    std::size_t readBlock(void* items, std::size_t size, std::size_t count);
+
+    /// Bytes from the current position to the end of the file; 0 behind the end, for what has no end and when no file
+    /// is open. Costs calls of the system: to be asked before a block, not before a number.
+    long bytesLeft();
 
     /// Goes to `offset` bytes from the start of the file. False when that is below 0 or no file is open; a position
     /// behind the end of the file is none to be refused, but nothing can be read there.

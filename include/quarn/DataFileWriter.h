@@ -23,6 +23,8 @@ public:
     /// The same, but tries again for up to `maximumWait` milliseconds; `waited`, if given, receives how many it took.
     bool openWithRetries(const QString& path, const QString& mode, int maximumWait, int* waited = nullptr);
 
+    bool isOpen() const { return m_file != nullptr; }
+
     /// False when the number could not be written or no file is open.
     bool write(const signed char& value);
     bool write(const short& value);

@@ -1,5 +1,7 @@
 #include "quarn/DataFileReader.h"
 
+#include <algorithm>
+
 #include "blocktext/OwnedStream.h"
 #include "quarn/BinaryFile.h"
 
@@ -19,6 +21,17 @@ bool DataFileReader::read(int& value) { return fread_int32(value, m_file); }
 bool DataFileReader::read(long long& value) { return fread_int64(value, m_file); }
 bool DataFileReader::read(float& value) { return fread_float(value, m_file); }
 bool DataFileReader::read(double& value) { return fread_double(value, m_file); }
+
+std::size_t DataFileReader::readBlock(void* items, std::size_t size, std::size_t count) {
+    return m_file ? std::fread(items, size, count, m_file) : 0;
+}
+
+long DataFileReader::bytesLeft() {
+    const long position = tell();
+    if (position < 0 || !stream::seek(m_file, 0, SEEK_END)) return 0;
+    const long end = tell();
+    return seek(position) ? std::max(end - position, 0L) : 0;
+}
 
 bool DataFileReader::seek(long offset) { return stream::seek(m_file, offset, SEEK_SET); }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <type_traits>
 #include <vector>
 
 namespace quarn::tool {
@@ -14,12 +15,18 @@ public:
     void addDetail(const QString& label, const QString& value) { add(QStringLiteral("  ") + label, value); }
     void print() const;
 
-    /// Calls `add` with position and object for the first entries of a list of pointers, and adds how many there are
-    /// beyond them.
+    /// Calls `add` with position and object for the first entries of a list of objects or of pointers to them, and adds
+    /// how many there are beyond them.
     template <class List, class Add>
     void addFirst(const List& list, Add add) {
         constexpr std::size_t longestList = 20;
-        for (std::size_t i = 0; i < list.size() && i < longestList; ++i) add(i, *list[i]);
+        for (std::size_t i = 0; i < list.size() && i < longestList; ++i) {
+            if constexpr (std::is_pointer_v<typename List::value_type>) {
+                add(i, *list[i]);
+            } else {
+                add(i, list[i]);
+            }
+        }
         if (list.size() > longestList) {
             addDetail(QStringLiteral("..."), QStringLiteral("and %1 more").arg(list.size() - longestList));
         }

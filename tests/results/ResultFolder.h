@@ -1,0 +1,39 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+namespace quarn::test {
+
+/// A folder of its own for the files of one test.
+class ResultFolder {
+public:
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+    bool has(const QString& name) const { return QFile::exists(path(name)); }
+    QStringList names() const { return QDir(m_folder.path()).entryList(QDir::Files, QDir::Name); }
+
+    QByteArray bytes(const QString& name) const {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        return file.readAll();
+    }
+
+    /// Returns the path.
+    QString put(const QString& name, const QByteArray& bytes) const {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << name.toStdString();
+        file.write(bytes);
+        return path(name);
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+}  // namespace quarn::test
