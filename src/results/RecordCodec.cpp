@@ -1,9 +1,5 @@
 #include "quarn/RecordCodec.h"
 
-#include <algorithm>
-#include <type_traits>
-
-#include "foundation/ScalarCodec.h"
 #include "quarn/CircuitComponentResults.h"
 #include "quarn/DataFileReader.h"
 #include "quarn/DataFileWriter.h"
@@ -11,6 +7,7 @@
 #include "quarn/IncidentPlaneWaveFields.h"
 #include "quarn/SarStatistics.h"
 #include "quarn/SystemResults.h"
+#include "results/BlockReading.h"
 #include "results/RecordFields.h"
 
 namespace quarn {
@@ -25,13 +22,10 @@ bool RecordCodec<RecordType>::writeRecord(DataFileWriter& writer, const Record& 
     return records::writeFields(writer, Record::fields(record));
 }
 
-// A block is read straight into the records: they have the layout of the file.
 template <class RecordType>
 bool RecordCodec<RecordType>::readRecords(DataFileReader& reader, std::size_t count, std::vector<Record>& records) {
-    static_assert(std::is_trivially_copyable_v<Record> && records::fileSize<Record> == recordSize);
-    static_assert(scalar::fileByteOrder == scalar::ByteOrder::Native);
-    records.resize(std::min(count, static_cast<std::size_t>(reader.bytesLeft()) / recordSize));
-    records.resize(reader.readBlock(records.data(), recordSize, records.size()));
+    static_assert(records::fileSize<Record> == recordSize, "without gaps in memory, as in a file");
+    records::readBlock(reader, count, records);
     return records.size() == count;
 }
 

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+
+#include "quarn/DataFileReader.h"
+#include "quarn/DataFileWriter.h"
+#include "quarn/Export.h"
+#include "quarn/SARPlane.h"
+
+namespace quarn {
+
+/// The specific absorption rate in cells of one plane of the grid, in one file:
+///
+///     offset  type     meaning
+///          0           FileHeader of type sarPlane, version 0
+///         16  int32    plane: 0 YZ, 1 ZX, 2 XY
+///         20  int32    index of the plane along its normal
+///         24  int32    number of records
+///         28           records
+///
+/// A record takes 12 bytes: two int32, the indices i and j in an XY plane, j and k in a YZ plane, i and k in a ZX
+/// plane; and a float, the rate. Files that were appended to hold more records than their number says.
+class QUARN_EXPORT SarResult {
+public:
+    struct Record {
+        std::int32_t i = 0;  ///< the cell
+        std::int32_t j = 0;
+        std::int32_t k = 0;
+        float value = 0.0F;  ///< W/kg
+
+        friend bool operator==(const Record& a, const Record& b) {
+            return a.i == b.i && a.j == b.j && a.k == b.k && a.value == b.value;
+        }
+        friend bool operator!=(const Record& a, const Record& b) { return !(a == b); }
+    };
+
+    /// Joins files of one plane, as several processes of the engine wrote them, in the order of the list. Of each file
+    /// as many records are taken as its number says; files that do not exist are passed over. The partial files stay,
+    /// and the output may be one of them. On failure, for want of any file too, `error` says what failed, `warning`
+    /// what comes of it, and a file that was at the place of the output before is as it was.
+    ///
+    /// The result is made beside the output and takes its place once it is complete, unless the output is a device or
+    /// the like, which is written directly. Memory does not depend on the size of the files.
+    static bool combineFiles(const QStringList& partialFileNames, const QString& outputFileName, QString& error,
+                             QString& warning);
+};
+
+/// Writes the file of a plane, from its beginning or at its end.
+class QUARN_EXPORT SarResultWriter {
+public:
+    /// Makes a new file. `numRecords` is the number of records that will follow in all, now or by appending. False,
+    /// with no file open, when the file cannot be written, the plane is none or the number is negative.
+    bool beginResultWriting(const QString& fileName, SARPlane::Plane plane, int planeIndex, int numRecords);
+
+    /// Opens a file for more records of its plane, waiting for half a second if another process holds it. Neither is
+    /// the file checked nor its number of records changed. False when it cannot be opened or the plane is none.
+    bool beginResultAppending(const QString& fileName, SARPlane::Plane plane, int planeIndex);
+
+    /// The index along the plane's normal is not written. False also when no file is open.
+    bool writeRecord(const SarResult::Record& record);
+
+    /// False when not all records could be written and when no file is open.
+    bool endResultWriting();
+
+private:
+    DataFileWriter m_writer;
+    SARPlane::Plane m_plane = SARPlane::XY;
+    std::int32_t m_planeIndex = 0;
+};
+
+/// Reads the file of a plane.
+class QUARN_EXPORT SarResultReader {
+public:
+    /// False, with no file open, when the file cannot be opened, is of another type or version, or is malformed.
+    bool beginResultReading(const QString& fileName);
+
+    SARPlane::Plane getPlane() const { return m_plane; }
+    int getPlaneIndex() const { return m_planeIndex; }
+
+    /// As the file says, which may hold fewer records, or more if it was appended to.
+    int getNumberOfRecords() const { return m_numRecords; }
+
+    /// How many records the file still holds.
+    std::int64_t getNumberOfRecordsLeft();
+
+    /// False, with the record as it was, at the end of the file and when none is open.
+    bool readRecord(SarResult::Record& record);
+
+    /// False when no file is open.
+    bool endResultReading();
+
+private:
+    DataFileReader m_reader;
+    SARPlane::Plane m_plane = SARPlane::XY;
+    std::int32_t m_planeIndex = 0;
+    std::int32_t m_numRecords = 0;
+};
+
+}  // namespace quarn

@@ -1,0 +1,182 @@
+#include "quarn/SarResult.h"
+
+#include <gtest/gtest.h>
+
+#include <QFileInfo>
+
+#include "results/ResultFolder.h"
+
+namespace quarn::test {
+namespace {
+
+using Records = std::vector<SarResult::Record>;
+
+const QByteArray header("!tavrixfdtdL\x0D\0\0\0", 16);
+const QByteArray record = QByteArray::fromHex(
+    "01000000"
+    "02000000"
+    "00004040");
+
+QByteArray start(const char* hex) { return header + QByteArray::fromHex(hex); }
+
+// Of the plane z = 9, with a number of records that may not be that of the records.
+QByteArray plane(char numRecords, const QByteArray& records) {
+    return start("0200000009000000") + numRecords + QByteArray(3, '\0') + records;
+}
+
+struct SarFile : testing::Test {
+    Records read(const QString& name) const {
+        SarResultReader reader;
+        EXPECT_TRUE(reader.beginResultReading(folder.path(name)));
+        Records records;
+        for (SarResult::Record next; reader.readRecord(next);) records.push_back(next);
+        EXPECT_TRUE(reader.endResultReading());
+        return records;
+    }
+
+    bool combine(const QStringList& names, const QString& output) {
+        QStringList paths;
+        for (const QString& name : names) paths << folder.path(name);
+        error.clear();
+        warning.clear();
+        return SarResult::combineFiles(paths, output, error, warning);
+    }
+
+    const ResultFolder folder;
+    QString error, warning;
+};
+
+TEST_F(SarFile, bytesOfEachPlane) {
+    struct Row {
+        SARPlane::Plane plane;
+        const char* code;
+        const char* indices;  // of the cell 1, 2, 3
+        SarResult::Record read;
+    };
+    const Row rows[] = {{SARPlane::XY, "02000000", "0100000002000000", {1, 2, -9, 3}},
+                        {SARPlane::YZ, "00000000", "0200000003000000", {-9, 2, 3, 3}},
+                        {SARPlane::ZX, "01000000", "0100000003000000", {1, -9, 3, 3}}};
+    for (const Row& row : rows) {
+        SarResultWriter writer;
+        ASSERT_TRUE(writer.beginResultWriting(folder.path("f"), row.plane, -9, 2));
+        EXPECT_TRUE(writer.writeRecord({1, 2, 3, 3}) && writer.endResultWriting());
+        EXPECT_FALSE(writer.writeRecord({1, 2, 3, 3}) || writer.endResultWriting());
+        EXPECT_EQ(folder.bytes("f").toHex(),
+                  header.toHex() + row.code + "f7ffffff" + "02000000" + row.indices + "00004040");
+        ASSERT_TRUE(writer.beginResultAppending(folder.path("f"), row.plane, -9));
+        EXPECT_TRUE(writer.writeRecord({}) && writer.writeRecord({}) && writer.endResultWriting());
+
+        SarResultReader reader;
+        ASSERT_TRUE(reader.beginResultReading(folder.path("f")));
+        EXPECT_EQ(reader.getPlane(), row.plane);
+        EXPECT_EQ(reader.getPlaneIndex(), -9);
+        EXPECT_EQ(reader.getNumberOfRecords(), 2) << "appending does not count";
+        EXPECT_EQ(reader.getNumberOfRecordsLeft(), 3);
+        EXPECT_EQ(read("f").front(), row.read);
+        EXPECT_EQ(read("f").size(), 3U);
+    }
+}
+
+TEST_F(SarFile, refusedFilesAndPlanes) {
+    const QByteArray good = plane(1, record);
+    EXPECT_EQ(read(QFileInfo(folder.put("f", good)).fileName()).size(), 1U);
+    const auto begins = [&](int offset, char byte) {
+        SarResultReader reader;
+        return reader.beginResultReading(folder.put("f", QByteArray(good).replace(offset, 1, &byte, 1))) ||
+               reader.endResultReading();
+    };
+    EXPECT_FALSE(begins(12, 8)) << "another type of file";
+    EXPECT_FALSE(begins(14, 1)) << "another version";
+    EXPECT_FALSE(begins(16, 3)) << "no plane";
+    EXPECT_FALSE(begins(27, '\xFF')) << "a negative number of records";
+    SarResultWriter writer;
+    const auto noPlane = static_cast<SARPlane::Plane>(3);
+    EXPECT_FALSE(writer.beginResultWriting(folder.path("new"), noPlane, 0, 0));
+    EXPECT_FALSE(writer.beginResultWriting(folder.path("new"), SARPlane::XY, 0, -1));
+    EXPECT_FALSE(writer.beginResultAppending(folder.path("new"), noPlane, 0));
+    EXPECT_FALSE(writer.beginResultWriting(folder.path("no/f"), SARPlane::XY, 0, 0) || writer.endResultWriting());
+    EXPECT_FALSE(folder.has("new"));
+}
+
+TEST_F(SarFile, combiningTakesAsManyRecordsAsAFileSays) {
+    const QByteArray other = QByteArray::fromHex(
+        "07000000"
+        "08000000"
+        "000080bf");
+    folder.put("a", plane(2, record + other + other));
+    folder.put("b", plane(0, record));
+    folder.put("c", plane(1, record));
+    const QString output = folder.put("out", "earlier");
+    EXPECT_TRUE(combine({"a", "missing", "b", "c"}, output));
+    EXPECT_EQ(folder.bytes("out").toHex(), plane(3, record + other + record).toHex());
+    EXPECT_EQ(error + warning, QString());
+    EXPECT_EQ(folder.names(), (QStringList{"a", "b", "c", "out"})) << "nothing else is left, nor missing";
+    EXPECT_TRUE(combine({"a", "c"}, folder.path("a"))) << "the output is one of them";
+    EXPECT_EQ(folder.bytes("a").toHex(), plane(3, record + other + record).toHex());
+    ASSERT_TRUE(QFile::link(folder.path("c"), folder.path("link")));
+    EXPECT_TRUE(combine({"c", "c"}, folder.path("link")));
+    EXPECT_EQ(folder.bytes("c").toHex(), plane(2, record + record).toHex()) << "a link stays one";
+}
+
+TEST_F(SarFile, failedCombinationsChangeNothing) {
+    const QString a = folder.put("%2a", plane(1, record));
+    const QString output = folder.put("out", "earlier");
+    const QString incompatible = "Incompatible plane data found when combining output file '%1' into '%2'.";
+    const QString unopened = "Failed to open temporary SAR output file '%1' for combining into '%2'.";
+    const QString corrupt = "Partial SAR data file '%1' is corrupt or missing data needed for SAR output file '%2'.";
+    struct Row {
+        const char* name;
+        QByteArray second;
+        QString error;
+        const char* consequence;
+    };
+    const Row rows[] = {
+        {"another plane", start("010000000900000000000000"), incompatible, "unavailable"},
+        {"another index", start("020000000800000000000000"), incompatible, "unavailable"},
+        {"an empty file", "", unopened, "unavailable"},
+        {"a short file", plane(2, record + record).chopped(1), corrupt, "incomplete"},
+        {"too large a number", start("0200000009000000ffffff7f") + record, corrupt, "incomplete"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const QString b = folder.put("b%1", row.second);
+        EXPECT_FALSE(combine({"%2a", "b%1"}, output));
+        EXPECT_EQ(error, QString(row.error).arg(b, output));
+        EXPECT_EQ(warning, QString("SAR data will be %1 on disk.").arg(row.consequence));
+        EXPECT_FALSE(combine({"%2a", "b%1"}, b)) << "the output is one of them";
+        EXPECT_EQ(folder.bytes("b%1"), row.second);
+        EXPECT_EQ(folder.bytes("out"), "earlier");
+        EXPECT_EQ(folder.names(), (QStringList{"%2a", "b%1", "out"}));
+    }
+    const QString creation = "Failed to create SAR output file '%1'.";
+    for (const QString& nowhere : {folder.path("no/out"), folder.path(".")}) {
+        EXPECT_FALSE(combine({"%2a"}, nowhere));
+        EXPECT_EQ(error, creation.arg(nowhere));
+        EXPECT_EQ(warning, "SAR data will be unavailable on disk.");
+    }
+    EXPECT_FALSE(combine({"missing"}, output)) << "there is nothing to combine";
+    EXPECT_EQ(error, creation.arg(output));
+    EXPECT_EQ(folder.bytes("%2a"), plane(1, record));
+}
+
+#ifdef Q_OS_LINUX
+TEST_F(SarFile, fullDiskIsSeenBeforeCombiningSucceeds) {
+    folder.put("a", plane(1, record));
+    EXPECT_FALSE(combine({"a"}, "/dev/full"));
+    EXPECT_EQ(error, "Failed to write data to SAR output file '/dev/full'.");
+    EXPECT_EQ(warning, "SAR data will be incomplete on disk.");
+    EXPECT_FALSE(QFileInfo("/dev/full").isFile()) << "a device is not replaced";
+}
+
+// Of a file with holes, which takes no room.
+TEST_F(SarFile, numbersOfRecordsMayNotAddUpToMoreThanAnInteger) {
+    folder.put("a", start("0200000009000000ffffff7f"));
+    if (!QFile::resize(folder.path("a"), 28 + 12LL * 0x7FFFFFFF)) GTEST_SKIP() << "no holes in files here";
+    EXPECT_FALSE(combine({"a", "a"}, folder.path("out")));
+    EXPECT_EQ(error, QString("Failed to create SAR output file '%1'.").arg(folder.path("out")));
+    EXPECT_EQ(folder.names(), QStringList{"a"});
+}
+#endif
+
+}  // namespace
+}  // namespace quarn::test
