@@ -57,6 +57,10 @@ public:
     /// Keeps only the cells between two corners, both inclusive. Boxes are clipped and keep their order.
     void intersectBoundingBox(const ivec3& lower, const ivec3& upper);
 
+    /// The same cells with the same numbers, in the same boxes.
+    QUARN_EXPORT friend bool operator==(const GridIndexBoxes& a, const GridIndexBoxes& b);
+    friend bool operator!=(const GridIndexBoxes& a, const GridIndexBoxes& b) { return !(a == b); }
+
 private:
     void addUnboxedPoints(std::vector<ivec3> points);
     void setupBoxExclusions(const std::vector<ivec3>& exclusions);

@@ -15,12 +15,20 @@ class AmbientConditions;
 class BoundaryConditions;
 class ComponentManager;
 class DFTParameters;
+class FarZoneRequest;
+class NearZoneMultiFieldIndexedPoint;
+class NearZoneMultiFieldInterpolatedPoint;
 class PlaneWave;
+class SARAveragingRequest;
+class SARPlane;
 class StaticVoltageList;
 class TdAfsTerminationCriteria;
+class TemperatureRiseRequest;
 class TerminationCriteria;
 class WaveGuidePortManager;
 class Waveform;
+struct HACRequest;
+struct MultiPointFieldRequest;
 
 /// The description of one simulation run.
 ///
@@ -28,8 +36,9 @@ class Waveform;
 /// destructor deletes nothing, several projects may point to one object, and whoever created an object deletes it.
 /// Callers who let a load create the objects can leave that to deleteContents().
 ///
-/// Copying: the copy constructor copies the objects too, save waveforms, circuit components and waveguide ports, which
-/// the copy shares; assignment copies the pointers, so that both projects share everything.
+/// Copying: the copy constructor copies the objects too, save waveforms, circuit components, waveguide ports, SAR
+/// planes and HAC requests, which the copy shares; assignment copies the pointers, so that both projects share
+/// everything.
 class QUARN_EXPORT ProjectFile {
 public:
     enum SteadyStateStorageMethod : std::int32_t { Memory = 0, HardDisk = 1 };
@@ -79,6 +88,7 @@ public:
     const std::vector<SteadyStateFrequency>& getSteadyStateFrequencies() const { return m_steadyStateFrequencies; }
     std::vector<SteadyStateFrequency>& getSteadyStateFrequencies() { return m_steadyStateFrequencies; }
     SteadyStateStorageMethod getSteadyStateStorageMethod() const { return m_steadyStateStorageMethod; }
+    void setSteadyStateStorageMethod(SteadyStateStorageMethod method) { m_steadyStateStorageMethod = method; }
     bool saveFieldsOnFarZoneBoxForPostProcessing() const { return m_saveFieldsOnFarZoneBox; }
     void setSaveFieldsOnFarZoneBoxForPostProcessing(bool save) { m_saveFieldsOnFarZoneBox = save; }
     bool computeSystemDissipatedPower() const { return m_computeSystemDissipatedPower; }
@@ -114,6 +124,36 @@ public:
     const std::vector<Waveform*>& getWaveforms() const { return m_waveforms; }
     std::vector<Waveform*>& getWaveforms() { return m_waveforms; }
 
+    /// The results that the engine is to record.
+    const std::vector<FarZoneRequest>& getSteadyStateFarZoneRequests() const { return m_steadyStateFarZoneRequests; }
+    std::vector<FarZoneRequest>& getSteadyStateFarZoneRequests() { return m_steadyStateFarZoneRequests; }
+    const std::vector<FarZoneRequest>& getTransientFarZoneRequests() const { return m_transientFarZoneRequests; }
+    std::vector<FarZoneRequest>& getTransientFarZoneRequests() { return m_transientFarZoneRequests; }
+    const std::vector<NearZoneMultiFieldIndexedPoint>& GetNearZoneMultiFieldIndexedPoints() const {
+        return m_nearZoneIndexedPoints;
+    }
+    std::vector<NearZoneMultiFieldIndexedPoint>& GetNearZoneMultiFieldIndexedPoints() {
+        return m_nearZoneIndexedPoints;
+    }
+    const std::vector<NearZoneMultiFieldInterpolatedPoint>& GetNearZoneMultiFieldInterpolatedPoints() const {
+        return m_nearZoneInterpolatedPoints;
+    }
+    std::vector<NearZoneMultiFieldInterpolatedPoint>& GetNearZoneMultiFieldInterpolatedPoints() {
+        return m_nearZoneInterpolatedPoints;
+    }
+    const std::vector<MultiPointFieldRequest>& GetMultiPointFieldRequests() const { return m_multiPointFieldRequests; }
+    std::vector<MultiPointFieldRequest>& GetMultiPointFieldRequests() { return m_multiPointFieldRequests; }
+    const SARAveragingRequest* getSARAveragingRequest() const { return m_sarAveragingRequest; }
+    void setSARAveragingRequest(SARAveragingRequest* request) { m_sarAveragingRequest = request; }
+    const TemperatureRiseRequest* getTemperatureRiseRequest() const { return m_temperatureRiseRequest; }
+    void setTemperatureRiseRequest(TemperatureRiseRequest* request) { m_temperatureRiseRequest = request; }
+    const std::vector<SARPlane*>& getSARPlaneRequests() const { return m_sarPlaneRequests; }
+    std::vector<SARPlane*>& getSARPlaneRequests() { return m_sarPlaneRequests; }
+
+    /// A project without steady-state frequencies saves no HAC requests.
+    const std::vector<const HACRequest*>& getHACRequests() const { return m_hacRequests; }
+    std::vector<const HACRequest*>& getHACRequests() { return m_hacRequests; }
+
     /// Appends what is wrong or doubtful with the run; never clears the lists.
     void checkValidity(QStringList& errors, QStringList& warnings) const;
 
@@ -143,6 +183,15 @@ protected:
     WaveGuidePortManager* m_waveGuidePortManager = nullptr;
     PlaneWave* m_planeWave = nullptr;
     std::vector<Waveform*> m_waveforms;
+    std::vector<FarZoneRequest> m_steadyStateFarZoneRequests;
+    std::vector<FarZoneRequest> m_transientFarZoneRequests;
+    std::vector<NearZoneMultiFieldIndexedPoint> m_nearZoneIndexedPoints;
+    std::vector<NearZoneMultiFieldInterpolatedPoint> m_nearZoneInterpolatedPoints;
+    std::vector<MultiPointFieldRequest> m_multiPointFieldRequests;
+    SARAveragingRequest* m_sarAveragingRequest = nullptr;
+    TemperatureRiseRequest* m_temperatureRiseRequest = nullptr;
+    std::vector<const HACRequest*> m_hacRequests;
+    std::vector<SARPlane*> m_sarPlaneRequests;
 
 private:
     bool hasActivePort() const;

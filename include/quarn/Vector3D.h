@@ -27,6 +27,11 @@ public:
         return *this;
     }
 
+    friend bool operator==(const Vector3D& a, const Vector3D& b) {
+        return a.m_x == b.m_x && a.m_y == b.m_y && a.m_z == b.m_z;
+    }
+    friend bool operator!=(const Vector3D& a, const Vector3D& b) { return !(a == b); }
+
 private:
     double m_x = 0.0;
     double m_y = 0.0;

@@ -23,9 +23,9 @@ class DelimManager;
 /// refused with a std::runtime_error then, with nothing written.
 ///
 /// Loading: fills this object's members with new objects, which the caller owns from then on (see deleteContents());
-/// objects that were there before are replaced and not deleted, waveforms and steady-state frequencies are added to
-/// those that are there. Unknown blocks and keys are skipped. What a damaged file no longer says keeps the value that
-/// it had or takes its default; only an unsupported version is refused.
+/// objects that were there before are replaced and not deleted, waveforms, steady-state frequencies and requests are
+/// added to those that are there. Unknown blocks and keys are skipped. What a damaged file no longer says keeps the
+/// value that it had or takes its default; only an unsupported version is refused.
 class QUARN_EXPORT v6ProjectFile : public ProjectFile {
 public:
     v6ProjectFile();

@@ -64,9 +64,37 @@ auto onValue(QLatin1String word, T& value) {
     return onWord(word, [&value](QTextStream& in) { readValue(in, value); });
 }
 
+/// Reads all of `values`, until one cannot be read.
+template <class... Values>
+bool readAll(QTextStream& in, Values&... values) {
+    return (readValue(in, values) && ...);
+}
+
+/// Reads a count and calls `read` that many times, or until it returns false. No memory is taken on the word of the
+/// count. There is nothing to read where the count is missing or below 1.
+template <class Read>
+void readCounted(QTextStream& in, Read read) {
+    int count = -1;
+    readValue(in, count);
+    for (int i = 0; i < count && read(in); ++i) continue;
+}
+
 /// Reads the rest of the line behind `word`, cleaned and trimmed.
 inline auto onText(QLatin1String word, QString& text) {
     return onWord(word, [&text](QTextStream& in) { text = readRestOfLine(in); });
+}
+
+/// Reads a number, or the rest of the line as text, into what a setter of `object` takes.
+template <class Object, class Owner, class T>
+auto onSetting(QLatin1String word, Object& object, void (Owner::*set)(T)) {
+    return onWord(word, [&object, set](QTextStream& in) {
+        std::decay_t<T> value{};
+        if constexpr (std::is_same_v<std::decay_t<T>, QString>) {
+            (object.*set)(readRestOfLine(in));
+        } else if (readValue(in, value)) {
+            (object.*set)(value);
+        }
+    });
 }
 
 inline auto onFlag(QLatin1String word, bool& flag) {

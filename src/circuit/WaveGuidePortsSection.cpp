@@ -56,19 +56,6 @@ void writePort(DelimManager& delim, const WaveGuidePort& port) {
     for (const auto& point : port.planarPolygon()) writePoint(delim, key::PolygonPoint, point);
 }
 
-// Reads a number or text into what a setter of the port takes.
-template <class T>
-auto onSetting(QLatin1String word, WaveGuidePort& port, void (WaveGuidePort::*set)(T)) {
-    return onWord(word, [&port, set](QTextStream& in) {
-        std::decay_t<T> value{};
-        if constexpr (std::is_same_v<std::decay_t<T>, QString>) {
-            (port.*set)(readRestOfLine(in));
-        } else if (readValue(in, value)) {
-            (port.*set)(value);
-        }
-    });
-}
-
 std::unique_ptr<WaveGuidePort> readPort(DelimManager& delim) {
     auto port = std::make_unique<WaveGuidePort>();
     auto type = port->getWaveGuidePortType();

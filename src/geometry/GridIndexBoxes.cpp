@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <limits>
+#include <tuple>
 
 #include "geometry/IndexBox.h"
 
@@ -118,6 +119,13 @@ void GridIndexBoxes::intersectBoundingBox(const ivec3& lower, const ivec3& upper
     kept.m_sparePoints = cellsInside(m_sparePoints);
     kept.setupBoxExclusions(cellsInside(excludedCells()));
     *this = std::move(kept);
+}
+
+bool operator==(const GridIndexBoxes& a, const GridIndexBoxes& b) {
+    const auto members = [](const GridIndexBoxes& i) {
+        return std::tie(i.m_boxes, i.m_exceptions, i.m_exceptionEnds, i.m_farExclusions, i.m_sparePoints);
+    };
+    return members(a) == members(b);
 }
 
 }  // namespace quarn

@@ -15,12 +15,6 @@ namespace quarn::geometry {
 
 using namespace blocktext;
 
-/// Reads all of `values`, until one cannot be read.
-template <class... Values>
-bool readAll(QTextStream& in, Values&... values) {
-    return (readValue(in, values) && ...);
-}
-
 template <class Value>
 auto onNumber(QLatin1String key, Value& value) {
     return onWord(key, [&value](QTextStream& in) { return readValue(in, value); });

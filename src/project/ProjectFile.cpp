@@ -5,8 +5,15 @@
 #include "quarn/BoundaryConditions.h"
 #include "quarn/ComponentManager.h"
 #include "quarn/DFTParameters.h"
+#include "quarn/FarZoneRequest.h"
+#include "quarn/HACRequest.h"
+#include "quarn/MultiPointFieldRequest.h"
+#include "quarn/NearZoneMultiFieldPoint.h"
+#include "quarn/SARAveragingRequest.h"
+#include "quarn/SARPlane.h"
 #include "quarn/StaticVoltageList.h"
 #include "quarn/TdAfsTerminationCriteria.h"
+#include "quarn/TemperatureRiseRequest.h"
 #include "quarn/TerminationCriteria.h"
 #include "quarn/WaveGuidePort.h"
 #include "quarn/Waveform.h"
@@ -51,6 +58,8 @@ ProjectFile::ProjectFile(const ProjectFile& other) {
     m_componentManager = copyOf(other.m_componentManager);
     m_waveGuidePortManager = copyOf(other.m_waveGuidePortManager);
     m_planeWave = copyOfPlaneWave(other.m_planeWave);
+    m_sarAveragingRequest = copyOf(other.m_sarAveragingRequest);
+    m_temperatureRiseRequest = copyOf(other.m_temperatureRiseRequest);
 }
 
 ProjectFile& ProjectFile::operator=(const ProjectFile& other) {
@@ -77,6 +86,15 @@ ProjectFile& ProjectFile::operator=(const ProjectFile& other) {
     m_waveGuidePortManager = other.m_waveGuidePortManager;
     m_planeWave = other.m_planeWave;
     m_waveforms = other.m_waveforms;
+    m_steadyStateFarZoneRequests = other.m_steadyStateFarZoneRequests;
+    m_transientFarZoneRequests = other.m_transientFarZoneRequests;
+    m_nearZoneIndexedPoints = other.m_nearZoneIndexedPoints;
+    m_nearZoneInterpolatedPoints = other.m_nearZoneInterpolatedPoints;
+    m_multiPointFieldRequests = other.m_multiPointFieldRequests;
+    m_sarAveragingRequest = other.m_sarAveragingRequest;
+    m_temperatureRiseRequest = other.m_temperatureRiseRequest;
+    m_hacRequests = other.m_hacRequests;
+    m_sarPlaneRequests = other.m_sarPlaneRequests;
     return *this;
 }
 
@@ -144,6 +162,15 @@ void deleteContents(ProjectFile& project) {
     deleteAndClear(project.m_waveGuidePortManager);
     deleteAndClear(project.m_planeWave);
     deleteAndClear(project.m_waveforms);
+    deleteAndClear(project.m_sarAveragingRequest);
+    deleteAndClear(project.m_temperatureRiseRequest);
+    deleteAndClear(project.m_hacRequests);
+    deleteAndClear(project.m_sarPlaneRequests);
+    project.m_steadyStateFarZoneRequests.clear();
+    project.m_transientFarZoneRequests.clear();
+    project.m_nearZoneIndexedPoints.clear();
+    project.m_nearZoneInterpolatedPoints.clear();
+    project.m_multiPointFieldRequests.clear();
     project.m_steadyStateFrequencies.clear();
 }
 

@@ -7,7 +7,14 @@
 #include "blocktext/BlockWriter.h"
 #include "circuit/CircuitSections.h"
 #include "project/Sections.h"
+#include "quarn/FarZoneRequest.h"
+#include "quarn/HACRequest.h"
+#include "quarn/MultiPointFieldRequest.h"
+#include "quarn/NearZoneMultiFieldPoint.h"
+#include "quarn/SARAveragingRequest.h"
+#include "quarn/TemperatureRiseRequest.h"
 #include "quarn/v6ProjectFile.h"
+#include "results/RequestSections.h"
 
 namespace quarn {
 
@@ -35,6 +42,14 @@ constexpr auto UseTimestep = "UseTimestep"_key;
 constexpr auto UseUsersCFL = "UseUsersCFL"_key;
 
 constexpr auto RequestResults = "RequestResults"_key;
+constexpr auto MultiFieldIndexedPoint = "MultiFieldIndexedPoint"_key;
+constexpr auto MultiFieldInterpolatedPoint = "MultiFieldInterpolatedPoint"_key;
+constexpr auto MultiPointFieldRequest = "MultiPointFieldRequest"_key;
+constexpr auto RawSARPlanes = "RawSARPlanes"_key;
+constexpr auto TemperatureRiseRequest = "TemperatureRiseRequest"_key;
+constexpr auto SARAveraging = "SARAveraging"_key;
+constexpr auto FarZoneRequests = "FarZoneRequests"_key;
+constexpr auto HACRequest = "HACRequest"_key;
 constexpr auto DFTParameters = "DFTParameters"_key;
 constexpr auto SteadyStateFrequencies = "SteadyStateFrequencies"_key;
 constexpr auto StorageIsMemory = "SteadyStateStorageMethodIsMemory"_key;
@@ -47,6 +62,13 @@ void writeUnits(DelimManager& delim, QLatin1String name, const QPair<QString, do
     const WrittenBlock block(delim, name);
     putLine(delim, key::Name, units.first);
     putLine(delim, key::Conversion, units.second);
+}
+
+// A request that could not be read is left out.
+template <class Request>
+void appendRead(DelimManager& delim, std::vector<Request>& requests, bool (*read)(DelimManager&, Request&)) {
+    Request request;
+    if (read(delim, request)) requests.push_back(std::move(request));
 }
 
 }  // namespace
@@ -129,32 +151,57 @@ bool v6ProjectFile::StreamInRunParameters(DelimManager& delim) {
     return isOk(delim);
 }
 
-// The settings of steady-state results are written only where there are such results.
+// The settings of steady-state results, and HAC requests, are written only where there are such results.
 bool v6ProjectFile::StreamOutRequestResults(DelimManager& delim) {
     const WrittenBlock block(delim, key::RequestResults);
-    if (!m_steadyStateFrequencies.empty()) {
-        StreamOutDFTParameters(delim);
-        putLine(delim, m_steadyStateStorageMethod == HardDisk ? key::StorageIsHardDisk : key::StorageIsMemory);
-        if (!m_saveFieldsOnFarZoneBox) putLine(delim, key::DontSaveFarZoneBoxFile);
-        if (!m_computeSystemDissipatedPower) putLine(delim, key::DontComputeSystemDissipatedPower);
-        writeSteadyStateFrequencies(delim, m_steadyStateFrequencies);
+    for (const auto& point : m_nearZoneIndexedPoints) writeIndexedPoint(delim, point);
+    for (const auto& point : m_nearZoneInterpolatedPoints) writeInterpolatedPoint(delim, point);
+    for (const auto& request : m_multiPointFieldRequests) writeMultiPointFieldRequest(delim, request);
+    writeRawSARPlanes(delim, m_sarPlaneRequests);
+    if (m_temperatureRiseRequest) m_temperatureRiseRequest->streamOut(delim);
+    if (m_sarAveragingRequest) m_sarAveragingRequest->streamOut(delim);
+    writeFarZoneRequests(delim, m_steadyStateFarZoneRequests, m_transientFarZoneRequests);
+    if (m_steadyStateFrequencies.empty()) return isOk(delim);
+    StreamOutDFTParameters(delim);
+    putLine(delim, m_steadyStateStorageMethod == HardDisk ? key::StorageIsHardDisk : key::StorageIsMemory);
+    putFlag(delim, key::DontSaveFarZoneBoxFile, !m_saveFieldsOnFarZoneBox);
+    putFlag(delim, key::DontComputeSystemDissipatedPower, !m_computeSystemDissipatedPower);
+    writeSteadyStateFrequencies(delim, m_steadyStateFrequencies);
+    for (const HACRequest* request : m_hacRequests) {
+        if (request) writeHACRequest(delim, *request);
     }
     return isOk(delim);
 }
 
 bool v6ProjectFile::StreamInRequestResults(DelimManager& delim) {
     m_saveFieldsOnFarZoneBox = true;
-    walkBlock(delim,
-              Unknown::DropLine,
-              onBlock(key::DFTParameters, [&] { return StreamInDFTParameters(delim); }),
-              onBlock(key::SteadyStateFrequencies, [&] { return StreamInSteadyStateFrequencies(delim); }),
-              onLine([&](QString line) {
-                  stripEscapeCharacters(line);
-                  if (line == key::StorageIsMemory) m_steadyStateStorageMethod = Memory;
-                  if (line == key::StorageIsHardDisk) m_steadyStateStorageMethod = HardDisk;
-                  if (line == key::DontSaveFarZoneBoxFile) m_saveFieldsOnFarZoneBox = false;
-                  if (line == key::DontComputeSystemDissipatedPower) m_computeSystemDissipatedPower = false;
-              }));
+    install(m_sarAveragingRequest, std::unique_ptr<SARAveragingRequest>());
+    const auto readSetting = [&](QString line) {
+        stripEscapeCharacters(line);
+        if (line == key::StorageIsMemory) m_steadyStateStorageMethod = Memory;
+        if (line == key::StorageIsHardDisk) m_steadyStateStorageMethod = HardDisk;
+        if (line == key::DontSaveFarZoneBoxFile) m_saveFieldsOnFarZoneBox = false;
+        if (line == key::DontComputeSystemDissipatedPower) m_computeSystemDissipatedPower = false;
+    };
+    walkBlock(
+        delim,
+        Unknown::DropLine,
+        onBlock(key::MultiFieldIndexedPoint, [&] { appendRead(delim, m_nearZoneIndexedPoints, readIndexedPoint); }),
+        onBlock(key::MultiFieldInterpolatedPoint,
+                [&] { appendRead(delim, m_nearZoneInterpolatedPoints, readInterpolatedPoint); }),
+        onBlock(key::MultiPointFieldRequest,
+                [&] { appendRead(delim, m_multiPointFieldRequests, readMultiPointFieldRequest); }),
+        onBlock(key::RawSARPlanes, [&] { readRawSARPlanes(delim, m_sarPlaneRequests); }),
+        onBlock(key::TemperatureRiseRequest,
+                [&] { install(m_temperatureRiseRequest, std::make_unique<quarn::TemperatureRiseRequest>(delim)); }),
+        onBlock(key::SARAveraging,
+                [&] { install(m_sarAveragingRequest, std::make_unique<SARAveragingRequest>(delim)); }),
+        onBlock(key::FarZoneRequests,
+                [&] { readFarZoneRequests(delim, m_steadyStateFarZoneRequests, m_transientFarZoneRequests); }),
+        onBlock(key::DFTParameters, [&] { StreamInDFTParameters(delim); }),
+        onBlock(key::HACRequest, [&] { m_hacRequests.push_back(readHACRequest(delim).release()); }),
+        onBlock(key::SteadyStateFrequencies, [&] { StreamInSteadyStateFrequencies(delim); }),
+        onLine(readSetting));
     return isOk(delim);
 }
 

@@ -10,7 +10,8 @@ const QLatin1String beginMark("begin_<");
 const QLatin1String endMark("end_<");
 
 bool isVersionLine(QStringView line) {
-    return line.contains(QLatin1String("Version")) || line.contains(QLatin1String("FDTD file version"));
+    return line.contains(QLatin1String("Version")) || line.contains(QLatin1String("FDTD file version")) ||
+           isGeometryVersionLine(line);
 }
 
 /// The name in an open line; null in other lines.
@@ -95,6 +96,10 @@ int BlockNumbers::of(int parent, const QString& name) {
     const int number = m_numbers.size() + 1;
     m_numbers.insert(place, number);
     return number;
+}
+
+bool isGeometryVersionLine(QStringView line) {
+    return line.toString().remove(u' ').contains(QLatin1String("geometryfileversion"), Qt::CaseInsensitive);
 }
 
 BlockText scanBlockText(const QString& text, BlockNumbers& numbers) {

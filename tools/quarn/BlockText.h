@@ -37,6 +37,9 @@ struct BlockText {
     std::vector<UnclosedBlock> unclosed;  ///< in the order of their lines
 };
 
+/// Whether the first line of a text makes it a geometry file, in whatever case and with whatever blanks.
+bool isGeometryVersionLine(QStringView line);
+
 /// Scans a block text. The first line is the version line and left out; where it says something else it opens and
 /// closes nothing, since it is taken for the version line all the same. The result views the text. Lines count as open
 /// and close lines wherever in them the mark stands, as for the library. A close line also ends the unclosed blocks

@@ -1,9 +1,11 @@
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <optional>
 
 #include "CommandLine.h"
 #include "Console.h"
 #include "Findings.h"
+#include "GeometryFindings.h"
 #include "InputFile.h"
 #include "ProjectOnDisk.h"
 #include "Subcommands.h"
@@ -12,25 +14,43 @@ namespace quarn::tool {
 
 namespace {
 
-Findings findingsIn(const QString& path) {
-    LoadedProject loaded(path, readFile(path));
-    return examine(loaded);
-}
+/// Looks at files, project files together with the geometry that they run on.
+class Examiner {
+public:
+    /// The path of the geometry may be null. Throws a FileProblem.
+    explicit Examiner(const QString& geometryPath) {
+        if (!geometryPath.isNull()) m_geometry.emplace(geometryPath, readFile(geometryPath));
+    }
+
+    Findings findingsIn(const QString& path) const {
+        const QByteArray content = readFile(path);
+        if (kindOf(content) == FileKind::Geometry) return examine(LoadedGeometry(path, content));
+        LoadedProject loaded(path, content);
+        Findings findings = examine(loaded);
+        if (m_geometry) findings.errors << misplacedComponents(loaded.project, m_geometry->grid);
+        return findings;
+    }
+
+private:
+    std::optional<LoadedGeometry> m_geometry;
+};
 
 int statusOf(const Findings& findings) { return findings.none() ? ExitFine : ExitFindings; }
 
-int checkAsText(const QString& path) {
-    const Findings findings = findingsIn(path);
-    findings.print(path);
-    return statusOf(findings);
+int checkAsText(const QStringList& paths, const Examiner& examiner) {
+    return forEachFile(paths, [&examiner](const QString& path) {
+        const Findings findings = examiner.findingsIn(path);
+        findings.print(path);
+        return statusOf(findings);
+    });
 }
 
-int checkAsJson(const QStringList& paths) {
+int checkAsJson(const QStringList& paths, const Examiner& examiner) {
     QJsonArray files;
-    const int status = forEachFile(paths, [&files](const QString& path) {
+    const int status = forEachFile(paths, [&](const QString& path) {
         QJsonObject file{{QStringLiteral("file"), path}};
         try {
-            const Findings findings = findingsIn(path);
+            const Findings findings = examiner.findingsIn(path);
             const QJsonObject members = findings.toJson();
             for (auto member = members.begin(); member != members.end(); ++member) {
                 file.insert(member.key(), member.value());
@@ -47,22 +67,40 @@ int checkAsJson(const QStringList& paths) {
     return status;
 }
 
+/// The geometry, where it is one that can be used; that it is none is said when it is checked itself.
+Examiner examinerWith(const QString& geometryPath) {
+    try {
+        return Examiner(geometryPath);
+    } catch (const FileProblem&) {
+        return Examiner(QString());
+    }
+}
+
 }  // namespace
 
 int runCheck(const QStringList& arguments) {
+    const QString json = QStringLiteral("json");
+    const QString geometry = QStringLiteral("geometry");
     CommandLine commandLine(
         QStringLiteral("check"),
         QStringLiteral("Loads project files and prints what is wrong or doubtful with the runs that they describe.\n"
                        "Names too, with its number, each line that loading and saving the file does not keep: unknown\n"
                        "keys and blocks, misspelt ones among them, are ignored by the reader without a word. Lines\n"
                        "that only move within their block or write a number differently are kept.\n"
+                       "Geometry files are checked likewise.\n"
                        "Exit status: 0 no findings, 1 findings (warnings count), 2 a file cannot be used."));
-    commandLine.addOption(QStringLiteral("json"), QStringLiteral("Prints one JSON document: an array of files."));
-    commandLine.addFiles(QStringLiteral("PROJECT"), QStringLiteral("The project files to check."));
+    commandLine.addOption(json, QStringLiteral("Prints one JSON document: an array of files."));
+    commandLine.addOption(geometry,
+                          QStringLiteral("Checks this geometry file too, and the projects against its grid."),
+                          QStringLiteral("FILE"));
+    commandLine.addFiles(QStringLiteral("PROJECT"), QStringLiteral("The project or geometry files to check."));
     if (!commandLine.parse(arguments)) return ExitFine;
 
-    const QStringList paths = commandLine.files();
-    return commandLine.isSet(QStringLiteral("json")) ? checkAsJson(paths) : forEachFile(paths, checkAsText);
+    QStringList paths = commandLine.files();
+    const QString geometryPath = commandLine.value(geometry);
+    if (!geometryPath.isNull()) paths << geometryPath;
+    const Examiner examiner = examinerWith(geometryPath);
+    return commandLine.isSet(json) ? checkAsJson(paths, examiner) : checkAsText(paths, examiner);
 }
 
 }  // namespace quarn::tool

@@ -8,8 +8,6 @@ namespace quarn::tool {
 
 namespace {
 
-constexpr std::size_t longestList = 20;
-
 QString placeOf(const CircuitComponent& component) {
     return QStringLiteral("cell (%1, %2, %3)")
         .arg(component.getXIndex())
@@ -25,15 +23,6 @@ QString waveGuidePortText(const WaveGuidePort& port) {
         .arg(numberText(port.getWaveGuideAmplitude()), numberText(port.getWaveGuidePhase()));
 }
 
-/// Adds the first entries of a list, and how many there are beyond them.
-template <class List, class Add>
-void addFirst(Sheet& sheet, const List& list, Add add) {
-    for (std::size_t i = 0; i < list.size() && i < longestList; ++i) add(i, *list[i]);
-    if (list.size() > longestList) {
-        sheet.addDetail(QStringLiteral("..."), QStringLiteral("and %1 more").arg(list.size() - longestList));
-    }
-}
-
 QString label(const CircuitComponent& component, std::size_t index) {
     return QStringLiteral("%1 %2").arg(QLatin1String(component.isPort() ? "port" : "component")).arg(index);
 }
@@ -46,7 +35,7 @@ void addComponents(Sheet& sheet, const ComponentManager& manager) {
         summary += QStringLiteral("; S-parameters with port %1 active").arg(manager.getActivePort());
     }
     sheet.add(QStringLiteral("Circuit"), summary);
-    addFirst(sheet, manager.getComponents(), [&](std::size_t i, const CircuitComponent& component) {
+    sheet.addFirst(manager.getComponents(), [&](std::size_t i, const CircuitComponent& component) {
         sheet.addDetail(label(component, i),
                         component.qstr_short() + QStringLiteral(" at ") + placeOf(component) +
                             QLatin1String(component.isActive() ? ", active" : ""));
@@ -66,7 +55,7 @@ void addStaticVoltages(Sheet& sheet, const StaticVoltageList& voltages) {
 void addWaveGuidePorts(Sheet& sheet, const WaveGuidePortManager& manager) {
     sheet.add(QStringLiteral("Waveguides"),
               counted(manager.getNumberOfWaveguidePorts(), QStringLiteral("waveguide port")));
-    addFirst(sheet, manager.getWaveguidePorts(), [&](std::size_t i, const WaveGuidePort& port) {
+    sheet.addFirst(manager.getWaveguidePorts(), [&](std::size_t i, const WaveGuidePort& port) {
         sheet.addDetail(QStringLiteral("port %1").arg(i), waveGuidePortText(port));
     });
 }

@@ -17,6 +17,10 @@ void CommandLine::addOption(const QString& name, const QString& description) {
     m_parser.addOption({name, description});
 }
 
+void CommandLine::addOption(const QString& name, const QString& description, const QString& valueName) {
+    m_parser.addOption({name, description, valueName});
+}
+
 void CommandLine::addFile(const QString& name, const QString& description) {
     m_fileNames << name;
     m_parser.addPositionalArgument(name, description);

@@ -16,6 +16,8 @@ public:
     CommandLine(const QString& subcommand, const QString& description);
 
     void addOption(const QString& name, const QString& description);
+    /// An option that takes a value; the help calls it `valueName`.
+    void addOption(const QString& name, const QString& description, const QString& valueName);
     void addFile(const QString& name, const QString& description);
     /// One or more files; nothing can follow them.
     void addFiles(const QString& name, const QString& description);
@@ -24,6 +26,8 @@ public:
     bool parse(const QStringList& arguments);
 
     bool isSet(const QString& option) const { return m_parser.isSet(option); }
+    /// Null when the option is not set.
+    QString value(const QString& option) const { return m_parser.value(option); }
     QStringList files() const { return m_parser.positionalArguments(); }
 
 private:

@@ -4,6 +4,7 @@
 
 #include "CircuitText.h"
 #include "Console.h"
+#include "GeometryFindings.h"
 #include "ProjectOnDisk.h"
 #include "quarn/BoundaryConditions.h"
 
@@ -21,6 +22,17 @@ QString savedTextWithoutBoundaries(v6ProjectFile& project) {
     const int start = text.indexOf(QLatin1String("begin_<OuterBoundaries>"));
     const int end = text.indexOf(endOfBoundaries) + endOfBoundaries.size();
     return text.remove(start, end - start);
+}
+
+void addInvalidCharacters(Findings& findings, int count) {
+    if (count == 0) return;
+    findings.warnings << QStringLiteral("The file is not UTF-8 throughout; what is not is replaced in %1.")
+                             .arg(counted(count, QStringLiteral("place")));
+}
+
+void compare(Findings& findings, BlockText input, const BlockText& saved) {
+    findings.lost = linesLost(input.lines, saved.lines);
+    findings.unclosed = std::move(input.unclosed);
 }
 
 void printAt(const QString& path, int line, const QString& text) {
@@ -78,15 +90,22 @@ Findings examine(LoadedProject& loaded) {
     v6ProjectFile& project = loaded.project;
     findings.circuit = circuitLines(project);
     project.checkValidity(findings.errors, findings.warnings);
-    if (loaded.invalidCharacters > 0) {
-        findings.warnings << QStringLiteral("The file is not UTF-8 throughout; what is not is replaced in %1.")
-                                 .arg(counted(loaded.invalidCharacters, QStringLiteral("place")));
-    }
+    addInvalidCharacters(findings, loaded.invalidCharacters);
+    BlockNumbers numbers;
     const QString saved = project.getBoundaryConditions() ? savedText(project) : savedTextWithoutBoundaries(project);
+    compare(findings, scanBlockText(loaded.text, numbers), scanBlockText(saved, numbers));
+    return findings;
+}
+
+Findings examine(const LoadedGeometry& loaded) {
+    Findings findings;
+    findings.errors = errorsIn(loaded);
+    addInvalidCharacters(findings, loaded.invalidCharacters);
     BlockNumbers numbers;
     BlockText input = scanBlockText(loaded.text, numbers);
-    findings.lost = linesLost(input.lines, scanBlockText(saved, numbers).lines);
-    findings.unclosed = std::move(input.unclosed);
+    normalize(input.lines, numbers);
+    const QString saved = QString::fromUtf8(savedBytes(loaded));
+    compare(findings, std::move(input), scanBlockText(saved, numbers));
     return findings;
 }
 

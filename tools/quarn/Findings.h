@@ -9,9 +9,10 @@
 
 namespace quarn::tool {
 
+struct LoadedGeometry;
 struct LoadedProject;
 
-/// What there is to say about a project file.
+/// What there is to say about a project or geometry file.
 struct Findings {
     QStringList circuit;  ///< the components and ports; no findings, but what the reader wants to see beside them
     QStringList errors;
@@ -30,5 +31,8 @@ struct Findings {
 /// Validates the project and compares its text with what it is saved as. A project without boundary conditions gets
 /// some, as it could not be saved otherwise.
 Findings examine(LoadedProject& loaded);
+
+/// Likewise for the grid, the materials and the maps.
+Findings examine(const LoadedGeometry& loaded);
 
 }  // namespace quarn::tool

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "Console.h"
+#include "GeometryOnDisk.h"
 #include "PatternFile.h"
 #include "ViaSheet.h"
 
@@ -26,6 +27,7 @@ struct Recogniser {
 
 constexpr Recogniser recognisers[] = {
     {FileKind::MeshlessVias, isViaFile},
+    {FileKind::Geometry, isGeometryFile},
     {FileKind::Project, isProject},
     {FileKind::AntennaPattern, isPatternFile},
 };

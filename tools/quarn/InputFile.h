@@ -6,7 +6,7 @@
 namespace quarn::tool {
 
 /// What a file is, as its content tells; its name does not count.
-enum class FileKind { Project, MeshlessVias, AntennaPattern, Unknown };
+enum class FileKind { Project, Geometry, MeshlessVias, AntennaPattern, Unknown };
 FileKind kindOf(const QByteArray& content);
 
 /// The content of a file. Throws a FileProblem when it cannot be read or exceeds 512 MiB.

@@ -4,6 +4,7 @@
 #include "Console.h"
 #include "ProjectOnDisk.h"
 #include "Quantity.h"
+#include "RequestSheet.h"
 #include "quarn/quarn.h"
 
 namespace quarn::tool {
@@ -255,6 +256,7 @@ Sheet sheetOfProject(const QString& path, const QByteArray& content) {
     addWaveforms(sheet, project.getWaveforms());
     addTermination(sheet, project);
     addSteadyState(sheet, project);
+    addRequests(sheet, project);
     return sheet;
 }
 

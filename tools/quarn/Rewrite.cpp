@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 #include "Console.h"
+#include "GeometryOnDisk.h"
 #include "InputFile.h"
 #include "ProjectOnDisk.h"
 #include "Subcommands.h"
@@ -9,7 +10,9 @@ namespace quarn::tool {
 namespace {
 
 QByteArray canonicalForm(const QString& path) {
-    LoadedProject loaded(path, readFile(path));
+    const QByteArray content = readFile(path);
+    if (kindOf(content) == FileKind::Geometry) return savedBytes(LoadedGeometry(path, content));
+    LoadedProject loaded(path, content);
     try {
         return savedBytes(loaded.project);
     } catch (const std::runtime_error& problem) {
@@ -22,11 +25,11 @@ QByteArray canonicalForm(const QString& path) {
 int runRewrite(const QStringList& arguments) {
     CommandLine commandLine(
         QStringLiteral("rewrite"),
-        QStringLiteral(
-            "Loads a project file and saves it in its canonical form: sections and lines in their order, no\n"
-            "indentation, numbers in full. What 'quarn check' names as not kept is gone in OUT.\n"
-            "OUT may be IN; when anything fails, an earlier OUT stays as it was."));
-    commandLine.addFile(QStringLiteral("IN"), QStringLiteral("The project file to load."));
+        QStringLiteral("Loads a project or geometry file and saves it in its canonical form: sections and lines in "
+                       "their order, no\n"
+                       "indentation, numbers in full. What 'quarn check' names as not kept is gone in OUT.\n"
+                       "OUT may be IN; when anything fails, an earlier OUT stays as it was."));
+    commandLine.addFile(QStringLiteral("IN"), QStringLiteral("The project or geometry file to load."));
     commandLine.addFile(QStringLiteral("OUT"), QStringLiteral("The file to write."));
     if (!commandLine.parse(arguments)) return ExitFine;
 

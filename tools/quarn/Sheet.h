@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <type_traits>
 #include <vector>
 
 namespace quarn::tool {
@@ -13,6 +14,23 @@ public:
     void add(const QString& label, const QString& value) { m_rows.push_back({label, value}); }
     void addDetail(const QString& label, const QString& value) { add(QStringLiteral("  ") + label, value); }
     void print() const;
+
+    /// Calls `add` with position and object for the first entries of a list of objects or of pointers to them, and adds
+    /// how many there are beyond them.
+    template <class List, class Add>
+    void addFirst(const List& list, Add add) {
+        constexpr std::size_t longestList = 20;
+        for (std::size_t i = 0; i < list.size() && i < longestList; ++i) {
+            if constexpr (std::is_pointer_v<typename List::value_type>) {
+                add(i, *list[i]);
+            } else {
+                add(i, list[i]);
+            }
+        }
+        if (list.size() > longestList) {
+            addDetail(QStringLiteral("..."), QStringLiteral("and %1 more").arg(list.size() - longestList));
+        }
+    }
 
 private:
     struct Row {

@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 #include "Console.h"
+#include "GeometrySheet.h"
 #include "InputFile.h"
 #include "PatternSheet.h"
 #include "ProjectSheet.h"
@@ -15,6 +16,8 @@ Sheet sheetOf(const QString& path) {
     switch (kindOf(content)) {
         case FileKind::Project:
             return sheetOfProject(path, content);
+        case FileKind::Geometry:
+            return sheetOfGeometry(path, content);
         case FileKind::MeshlessVias:
             return sheetOfVias(path, content);
         case FileKind::AntennaPattern:
@@ -31,7 +34,7 @@ int runShow(const QStringList& arguments) {
     CommandLine commandLine(
         QStringLiteral("show"),
         QStringLiteral("Says what files are and what they hold. Their content tells the kind, their names do not.\n"
-                       "Known are project files, files of meshless vias and NSMA antenna patterns."));
+                       "Known are project and geometry files, files of meshless vias and NSMA antenna patterns."));
     commandLine.addFiles(QStringLiteral("FILE"), QStringLiteral("The files to show."));
     if (!commandLine.parse(arguments)) return ExitFine;
 

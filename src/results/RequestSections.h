@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+/// The sections of the project file that carry output requests: for each a writer of the whole block and a reader of
+/// what follows the block's open line. Both return whether the stream is in order, readers also whether the section
+/// held what it should; a request whose reader returns false is not to be used.
+namespace quarn {
+
+class DelimManager;
+class FarZoneRequest;
+class NearZoneMultiFieldIndexedPoint;
+class NearZoneMultiFieldInterpolatedPoint;
+class SARPlane;
+struct HACRequest;
+struct MultiPointFieldRequest;
+
+bool writeIndexedPoint(DelimManager& delim, const NearZoneMultiFieldIndexedPoint& point);
+bool readIndexedPoint(DelimManager& delim, NearZoneMultiFieldIndexedPoint& point);
+
+bool writeInterpolatedPoint(DelimManager& delim, const NearZoneMultiFieldInterpolatedPoint& point);
+bool readInterpolatedPoint(DelimManager& delim, NearZoneMultiFieldInterpolatedPoint& point);
+
+bool writeMultiPointFieldRequest(DelimManager& delim, const MultiPointFieldRequest& request);
+bool readMultiPointFieldRequest(DelimManager& delim, MultiPointFieldRequest& request);
+
+/// Without planes nothing is written. The caller owns the planes that a reader appends; it stops at the first line that
+/// is no plane and keeps those before.
+bool writeRawSARPlanes(DelimManager& delim, const std::vector<SARPlane*>& planes);
+bool readRawSARPlanes(DelimManager& delim, std::vector<SARPlane*>& planes);
+
+/// Without requests nothing is written. The reader appends.
+bool writeFarZoneRequests(DelimManager& delim, const std::vector<FarZoneRequest>& steadyState,
+                          const std::vector<FarZoneRequest>& transient);
+bool readFarZoneRequests(DelimManager& delim, std::vector<FarZoneRequest>& steadyState,
+                         std::vector<FarZoneRequest>& transient);
+
+bool writeHACRequest(DelimManager& delim, const HACRequest& request);
+std::unique_ptr<const HACRequest> readHACRequest(DelimManager& delim);
+
+}  // namespace quarn
