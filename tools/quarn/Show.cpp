@@ -4,6 +4,7 @@
 #include "InputFile.h"
 #include "PatternSheet.h"
 #include "ProjectSheet.h"
+#include "ResultSheet.h"
 #include "Subcommands.h"
 #include "ViaSheet.h"
 
@@ -12,6 +13,8 @@ namespace quarn::tool {
 namespace {
 
 Sheet sheetOf(const QString& path) {
+    const ResultKind result = resultKindOf(path);
+    if (result != ResultKind::None) return sheetOfResult(path, result);
     const QByteArray content = readFile(path);
     switch (kindOf(content)) {
         case FileKind::Project:
@@ -33,8 +36,11 @@ Sheet sheetOf(const QString& path) {
 int runShow(const QStringList& arguments) {
     CommandLine commandLine(
         QStringLiteral("show"),
-        QStringLiteral("Says what files are and what they hold. Their content tells the kind, their names do not.\n"
-                       "Known are project and geometry files, files of meshless vias and NSMA antenna patterns."));
+        QStringLiteral(
+            "Says what files are and what they hold. Their content tells the kind, their names do not.\n"
+            "Known are project and geometry files, files of meshless vias, NSMA antenna patterns, and of the\n"
+            "engine's results near-zone points, multi-point results (give the BASE_info.bin), SAR planes and\n"
+            "fields on the far-zone box. Files of records do not say what they are: see 'quarn export'."));
     commandLine.addFiles(QStringLiteral("FILE"), QStringLiteral("The files to show."));
     if (!commandLine.parse(arguments)) return ExitFine;
 

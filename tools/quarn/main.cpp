@@ -21,6 +21,8 @@ constexpr Subcommand subcommands[] = {
     {"check", "Checks project files and names each line that would be lost", runCheck},
     {"show", "Says what files are and what they hold", runShow},
     {"rewrite", "Loads a file and saves it in its canonical form", runRewrite},
+    {"export", "Writes what a result file holds as CSV", runExport},
+    {"sar", "Joins partial files of a SAR plane", runSar},
     {"demo", "Builds, saves and reads back example projects", runDemo},
 };
 

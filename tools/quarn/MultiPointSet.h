@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+#include "quarn/MultiPointResultReader.h"
+
+namespace quarn::tool {
+
+/// A group of a multi-point result, transient or steady: files that each hold one component at one time step or
+/// frequency.
+class SetGroup {
+public:
+    SetGroup(const char* name, const char* symbol, const char* unit, MultiPointResult::TransientGroup group)
+        : m_name(name), m_symbol(symbol), m_unit(unit), m_isSteady(false), m_group(group) {}
+    SetGroup(const char* name, const char* symbol, const char* unit, MultiPointResult::SteadyGroup group)
+        : m_name(name), m_symbol(symbol), m_unit(unit), m_isSteady(true), m_group(group) {}
+
+    /// "transient-total-E"
+    QString name() const { return QString::fromLatin1(m_name); }
+    QString unit() const { return QString::fromUtf8(m_unit); }
+    bool isSteady() const { return m_isSteady; }
+    bool isIn(const MultiPointResult& result) const;
+
+    /// "Ex", or "Exr" and "Exi" for the two parts of a steady component.
+    QStringList components() const;
+
+    /// Chooses the time step or the frequency.
+    void choose(MultiPointResultReader& reader, int index) const;
+    bool begin(MultiPointResultReader& reader, int component) const;
+    bool read(MultiPointResultReader& reader, int component, std::vector<float>& values, std::size_t count) const;
+
+private:
+    const char* m_name;
+    const char* m_symbol;
+    const char* m_unit;
+    bool m_isSteady;
+    int m_group;
+};
+
+/// A multi-point result with its lists.
+struct MultiPointSet {
+    /// Throws a FileProblem when the file is not named BASE_info.bin or is refused.
+    explicit MultiPointSet(const QString& infoFile);
+
+    /// How many time steps or frequencies there are so far.
+    int indicesOf(const SetGroup& group) const;
+
+    MultiPointResultReader reader;
+    std::vector<SetGroup> groups;  ///< those that the result has
+    std::vector<float> times;
+    std::vector<float> frequencies;
+};
+
+}  // namespace quarn::tool

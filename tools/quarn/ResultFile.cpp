@@ -1,0 +1,35 @@
+#include "ResultFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include "quarn/DataFileReader.h"
+#include "quarn/FileHeader.h"
+
+namespace quarn::tool {
+
+namespace {
+
+ResultKind kindByHeader(const QString& path) {
+    DataFileReader reader;
+    FileHeader header;
+    if (!reader.open(path) || !header.read(reader)) return ResultKind::None;
+    if (header.fileType == FileHeader::sarPlane) return ResultKind::SarPlane;
+    return header.fileType == FileHeader::farZoneBoxFields ? ResultKind::FarZoneBox : ResultKind::None;
+}
+
+}  // namespace
+
+// A pipe must not be opened twice, hence the look at what the path is.
+ResultKind resultKindOf(const QString& path) {
+    constexpr int magicSize = 4;
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return ResultKind::None;
+    const QByteArray magic = file.read(magicSize);
+    if (magic == "Rnzp") return ResultKind::NearZonePoint;
+    return magic == "Rmpt" ? ResultKind::MultiPoint : kindByHeader(path);
+}
+
+std::int64_t sizeOfFile(const QString& path) { return QFileInfo(path).size(); }
+
+}  // namespace quarn::tool

@@ -1,0 +1,187 @@
+#include "ResultSheet.h"
+
+#include "Console.h"
+#include "MultiPointSet.h"
+#include "NearZoneFile.h"
+#include "Quantity.h"
+#include "ValueRange.h"
+#include "quarn/quarn.h"
+
+namespace quarn::tool {
+
+namespace {
+
+QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+
+void addIncompleteRecord(Sheet& sheet, std::size_t bytes) {
+    if (bytes == 0) return;
+    sheet.add(text("Cut short"), text("%1 at the end belong to no whole record").arg(counted(bytes, text("byte"))));
+}
+
+Sheet sheetOfNearZonePoint(const QString& path) {
+    NearZoneFile file(path);
+    ValueRange times;
+    std::vector<ValueRange> ranges(file.groups().size());
+    std::size_t records = 0;
+    for (NearZoneFile::Record record; file.next(record); ++records) {
+        times.add(record.time);
+        for (std::size_t i = 0; i < ranges.size(); ++i) {
+            for (const float value : record.*file.groups()[i].components) ranges[i].add(value);
+        }
+    }
+    const auto& header = file.header();
+    Sheet sheet(text("%1: near-zone point, version %2").arg(path).arg(header.getVersion()));
+    sheet.add(text("Point"),
+              text("(%1, %2, %3) m")
+                  .arg(numberText(static_cast<double>(header.getX())),
+                       numberText(static_cast<double>(header.getY())),
+                       numberText(static_cast<double>(header.getZ()))));
+    sheet.add(text("Records"), QString::number(records));
+    sheet.add(text("Time"), times.text(text("s")));
+    for (std::size_t i = 0; i < ranges.size(); ++i) {
+        sheet.addDetail(text(file.groups()[i].name), ranges[i].text(text(file.groups()[i].unit)));
+    }
+    addIncompleteRecord(sheet, file.incompleteBytes());
+    return sheet;
+}
+
+/// What there is of the component files of a group.
+struct GroupSurvey {
+    ValueRange range;
+    int complete = 0;
+    int expected = 0;
+};
+
+GroupSurvey survey(MultiPointSet& set, const SetGroup& group) {
+    constexpr std::size_t piece = 1 << 16;
+    GroupSurvey result;
+    std::vector<float> values;
+    const int components = group.components().size();
+    for (int index = 0; index < set.indicesOf(group); ++index) {
+        group.choose(set.reader, index);
+        for (int component = 0; component < components; ++component) {
+            std::size_t found = 0;
+            if (group.begin(set.reader, component)) {
+                while (group.read(set.reader, component, values, piece) && !values.empty()) {
+                    for (const float value : values) result.range.add(value);
+                    found += values.size();
+                }
+            }
+            ++result.expected;
+            if (found >= static_cast<std::size_t>(set.reader.getNumberOfPoints())) ++result.complete;
+        }
+        set.reader.endTimestep();
+    }
+    return result;
+}
+
+QString listText(const std::vector<float>& list, const char* unit) {
+    if (list.empty()) return text("none");
+    ValueRange range;
+    for (const float value : list) range.add(value);
+    return text("%1, %2").arg(list.size()).arg(range.text(text(unit)));
+}
+
+Sheet sheetOfMultiPoint(const QString& path) {
+    MultiPointSet set(path);
+    Sheet sheet(text("%1: multi-point result, version %2").arg(path).arg(set.reader.getSerializationVersion()));
+    sheet.add(text("Points"), QString::number(set.reader.getNumberOfPoints()));
+    sheet.add(text("Time steps"), listText(set.times, "s"));
+    sheet.add(text("Frequencies"), listText(set.frequencies, "Hz"));
+    int missing = 0;
+    int expected = 0;
+    for (const SetGroup& group : set.groups) {
+        const GroupSurvey found = survey(set, group);
+        sheet.addDetail(group.name(), found.range.text(group.unit()));
+        missing += found.expected - found.complete;
+        expected += found.expected;
+    }
+    if (missing > 0) {
+        sheet.add(text("Cut short"),
+                  text("%1 of %2 component files are missing or too short").arg(missing).arg(expected));
+    }
+    return sheet;
+}
+
+QString planeName(SARPlane::Plane plane) {
+    switch (plane) {
+        case SARPlane::XY:
+            return text("xy");
+        case SARPlane::YZ:
+            return text("yz");
+        case SARPlane::ZX:
+            return text("zx");
+    }
+    return text("unknown");
+}
+
+Sheet sheetOfSarPlane(const QString& path) {
+    SarResultReader reader;
+    if (!reader.beginResultReading(path)) {
+        throw FileProblem(path, text("not a SAR plane of a version that is known, or cut short"));
+    }
+    ValueRange range;
+    std::int64_t records = 0;
+    for (SarResult::Record record; reader.readRecord(record); ++records) range.add(record.value);
+    Sheet sheet(text("%1: SAR plane, version 0").arg(path));
+    sheet.add(text("Plane"), text("%1, index %2").arg(planeName(reader.getPlane())).arg(reader.getPlaneIndex()));
+    sheet.add(text("Records"), QString::number(records));
+    sheet.addDetail(text("SAR"), range.text(text("W/kg")));
+    const int announced = reader.getNumberOfRecords();
+    if (records < announced) sheet.add(text("Cut short"), text("the file says %1 records").arg(announced));
+    if (records > announced) sheet.add(text("Appended"), text("the file says %1 records").arg(announced));
+    return sheet;
+}
+
+void addComplex(ValueRange& range, const std::complex<float>& value) {
+    range.add(value.real());
+    range.add(value.imag());
+}
+
+Sheet sheetOfFarZoneBox(const QString& path) {
+    using File = FieldsOnSteadyStateFarZoneBoxFile;
+    constexpr std::size_t piece = 1 << 12;
+    DataFileReader reader;
+    FileHeader header;
+    if (!reader.open(path) || !header.read(reader)) throw FileProblem(path, text("cannot be read"));
+    ValueRange electric;
+    ValueRange magnetic;
+    std::size_t records = 0;
+    std::vector<File::Record> read;
+    for (bool more = true; more; records += read.size()) {
+        more = File::readRecords(reader, piece, read);
+        for (const File::Record& record : read) {
+            addComplex(electric, record.e1);
+            addComplex(electric, record.e2);
+            addComplex(magnetic, record.h1);
+            addComplex(magnetic, record.h2);
+        }
+    }
+    Sheet sheet(text("%1: fields on the far-zone box, version %2").arg(path).arg(header.version));
+    sheet.add(text("Records"), QString::number(records));
+    sheet.addDetail(text("E"), electric.text(text("V/m")));
+    sheet.addDetail(text("H"), magnetic.text(text("A/m")));
+    constexpr std::int64_t headerSize = 16;
+    addIncompleteRecord(sheet, static_cast<std::size_t>(sizeOfFile(path) - headerSize) % File::recordSize);
+    return sheet;
+}
+
+}  // namespace
+
+Sheet sheetOfResult(const QString& path, ResultKind kind) {
+    switch (kind) {
+        case ResultKind::NearZonePoint:
+            return sheetOfNearZonePoint(path);
+        case ResultKind::MultiPoint:
+            return sheetOfMultiPoint(path);
+        case ResultKind::SarPlane:
+            return sheetOfSarPlane(path);
+        case ResultKind::FarZoneBox:
+            return sheetOfFarZoneBox(path);
+        case ResultKind::None:
+            break;
+    }
+    throw FileProblem(path, text("not a kind of file that is known here"));
+}
+
+}  // namespace quarn::tool
