@@ -1,5 +1,5 @@
 // Any bytes as the box field file of a small box, over a PEC plane in every second size: the far field of a box that
-// loads can be computed, by either method, and one that does not load gives nothing.
+// loads can be computed, and one that does not load gives nothing.
 
 #include <QTemporaryDir>
 #include <cstddef>
@@ -43,12 +43,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const float frequency = 1e9F * static_cast<float>(size % 7);
     const quarn::PostProcessSSFarZoneFields processor(&fields, frequency, 0, 0);
-    for (const std::size_t numAngles : {std::size_t{3}, std::size_t{4000}}) {
-        std::vector<quarn::FarZoneRequest::Angle> angles(numAngles, {1.0F, 0.5F});
-        angles.back() = {2.5F, -0.5F};
-        std::vector<quarn::FarZoneSSFieldFile::Record> records;
-        require(processor.computeFields(angles, records) == fields.isComplete());
-        require(records.size() == (fields.isComplete() ? numAngles : 0));
-    }
+    const std::vector<quarn::FarZoneRequest::Angle> angles{{1.0F, 0.5F}, {2.5F, -0.5F}, {0.0F, 100.0F}};
+    std::vector<quarn::FarZoneSSFieldFile::Record> records;
+    require(processor.computeFields(angles, records) == fields.isComplete());
+    require(records.size() == (fields.isComplete() ? angles.size() : 0));
     return 0;
 }
