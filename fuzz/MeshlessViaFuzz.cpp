@@ -1,0 +1,25 @@
+// Any bytes as a file of meshless vias: they are refused with a message and an empty list, or give vias that are
+// written back as the bytes that they came from.
+
+#include <cstdint>
+#include <cstdlib>
+#include <sstream>
+#include <stdexcept>
+
+#include "quarn/MeshlessVia.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    std::istringstream input(bytes);
+    std::vector<quarn::MeshlessVia> vias(1);
+    try {
+        quarn::MeshlessVia::read_binary_stream(vias, input);
+    } catch (const std::runtime_error&) {
+        return vias.empty() ? 0 : (std::abort(), 1);
+    }
+    std::ostringstream output;
+    quarn::MeshlessVia::write_binary_stream(vias, output);
+    for (const auto& via : vias) via.str();
+    if (bytes.compare(0, output.str().size(), output.str()) != 0) std::abort();
+    return 0;
+}
