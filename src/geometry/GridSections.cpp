@@ -82,7 +82,9 @@ void writeGridDefinition(DelimManager& delim, const Grid& grid) {
 // The other keys that files have here, such as "BaseCellSize" and "OffsetX", say nothing that the grid needs.
 bool readGridDefinition(DelimManager& delim, GeometryContents& contents) {
     auto& [x, y, z] = contents.gridAxes;
-    const auto readOrigin = [&](QTextStream& in) { return readAll(in, x.origin, y.origin, z.origin); };
+    const auto readOrigin = [&x = x, &y = y, &z = z](QTextStream& in) {
+        return readAll(in, x.origin, y.origin, z.origin);
+    };
     return walkBlock(delim,
                      Unknown::DropLine,
                      onWord(key::GridOriginInMeters, readOrigin),
