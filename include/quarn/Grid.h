@@ -67,8 +67,8 @@ public:
     double getUserXUpperBound() const { return m_x.upperBound(); }
     double getUserYUpperBound() const { return m_y.upperBound(); }
     double getUserZUpperBound() const { return m_z.upperBound(); }
-    void getUserBoundingBox(double& originX, double& originY, double& originZ, double& upperX, double& upperY,
-                            double& upperZ) const;
+    /// Origins and upper bounds.
+    void getUserBoundingBox(double& xMin, double& xMax, double& yMin, double& yMax, double& zMin, double& zMax) const;
 
 private:
     struct Axis {
