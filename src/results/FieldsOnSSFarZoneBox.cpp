@@ -25,6 +25,9 @@ constexpr FarZoneBox::Face facesInFileOrder[] = {FarZoneBox::XLower,
 
 constexpr std::uint64_t recordsReadAtOnce = 1U << 15;
 
+/// A component of more cells takes half a tebibyte or more: not to be had, even where the system promises it.
+constexpr std::uint64_t mostCellsOnFace = std::uint64_t{1} << 36;
+
 /// How to ask the grid about an axis.
 struct GridAxis {
     std::uint32_t (Grid::*cells)() const;
@@ -103,6 +106,7 @@ bool FieldsOnSSFarZoneBox::isIn(const Grid& grid) const {
 // takes no memory.
 void FieldsOnSSFarZoneBox::allocate() {
     for (const FarZoneBox::Face face : facesInFileOrder) {
+        if (cellsOn(m_box, face) > mostCellsOnFace) throw std::bad_alloc();
         for (Samples& component : m_faces[face]) component.reserve(cellsOn(m_box, face));
     }
     const std::uint32_t cells[numAxes] = {getNumberInX(), getNumberInY(), getNumberInZ()};

@@ -148,8 +148,8 @@ QString peakText(const FarZoneSSFieldFile::Record& record, const RadiatedPower& 
 void writePattern(const Pattern& pattern, const PostProcessSSFarZoneFields& processor, const RadiatedPower& power,
                   const QDir& folder, Sheet& sheet) {
     const FarZoneRecords records = fieldsIn(processor, pattern.angles);
-    const QString recordPath = folder.filePath(pattern.recordFile);
-    const QString csvPath = folder.filePath(pattern.name + QStringLiteral(".csv"));
+    const QString recordPath = QDir::cleanPath(folder.filePath(pattern.recordFile));
+    const QString csvPath = QDir::cleanPath(folder.filePath(pattern.name + QStringLiteral(".csv")));
     writeRecords(recordPath, records);
     writeCsv(csvPath, records, power);
     sheet.add(QStringLiteral("Pattern"), counted(records.size(), QStringLiteral("direction")));

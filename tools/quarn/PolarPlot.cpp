@@ -48,7 +48,9 @@ QString scriptFor(const QString& title, const std::vector<PolarCurve>& curves) {
                          .arg(grid);
     QStringList plots;
     for (const PolarCurve& curve : curves) {
-        plots << QStringLiteral("'-' using 1:2 with lines linewidth 2 title %1").arg(quoted(curve.title));
+        plots << QStringLiteral("'-' using 1:2 with lines linewidth 2 dashtype %1 title %2")
+                     .arg(plots.size() + 1)
+                     .arg(quoted(curve.title));
     }
     script += QStringLiteral("plot ") + plots.join(QStringLiteral(", ")) + u'\n';
     for (const PolarCurve& curve : curves) {
