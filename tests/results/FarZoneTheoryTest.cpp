@@ -40,7 +40,7 @@ Grid gradedGrid(float size, float length) {
 // From the middle of the grid.
 Vector at(const ExactRun& run, double x, double y, double z) {
     double low[3], high[3];
-    run.grid().getUserBoundingBox(low[0], low[1], low[2], high[0], high[1], high[2]);
+    run.grid().getUserBoundingBox(low[0], high[0], low[1], high[1], low[2], high[2]);
     return {0.5 * (low[0] + high[0]) + x, 0.5 * (low[1] + high[1]) + y, 0.5 * (low[2] + high[2]) + z};
 }
 
