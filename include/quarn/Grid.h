@@ -37,6 +37,10 @@ public:
                             float originY, float originZ, const Runs& runsInX, const Runs& runsInY, const Runs& runsInZ,
                             bool withNodes);
 
+    /// False for a grid that was laid out without nodes: it has no electric nodes but the origins, no magnetic nodes
+    /// and no sizes of magnetic cells.
+    bool hasNodes() const { return m_x.hasNodes() && m_y.hasNodes() && m_z.hasNodes(); }
+
     std::uint32_t getNumberOfUserCellsInX() const { return m_x.cells; }
     std::uint32_t getNumberOfUserCellsInY() const { return m_y.cells; }
     std::uint32_t getNumberOfUserCellsInZ() const { return m_z.cells; }
@@ -63,8 +67,8 @@ public:
     double getUserXUpperBound() const { return m_x.upperBound(); }
     double getUserYUpperBound() const { return m_y.upperBound(); }
     double getUserZUpperBound() const { return m_z.upperBound(); }
-    void getUserBoundingBox(double& originX, double& originY, double& originZ, double& upperX, double& upperY,
-                            double& upperZ) const;
+    /// Origins and upper bounds.
+    void getUserBoundingBox(double& xMin, double& xMax, double& yMin, double& yMax, double& zMin, double& zMax) const;
 
 private:
     struct Axis {
@@ -79,6 +83,7 @@ private:
         void placeElectricNodes(std::uint32_t begin, std::uint32_t end, float size);
         void placeMagneticNodes();
 
+        bool hasNodes() const { return magneticNodes.size() == cells; }
         double origin() const { return electricNodes.empty() ? 0.0 : electricNodes.front(); }
         double upperBound() const { return electricNodes.empty() ? 0.0 : electricNodes.back(); }
     };

@@ -166,6 +166,10 @@ public:
 private:
     template <class Item>
     bool readList(const QString& fileName, std::vector<Item>& items) const;
+    template <class Group, class File>
+    bool openFile(Group group, File file, int index);
+    template <class Group, class Files>
+    bool openFiles(Group group, const Files& files, int index);
     bool readEach(float* values, std::size_t count);
     bool readValue(std::size_t component, float& value) {
         return m_components[component].isOpen() && m_components[component].read(value);

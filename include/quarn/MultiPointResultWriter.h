@@ -88,7 +88,8 @@ public:
     bool endResultWriting();
 
 private:
-    bool openComponents(const std::vector<QString>& fileNames);
+    template <class Group, class Files>
+    bool openFiles(Group group, const Files& files, int index);
     bool areOpen(std::size_t count) const;
     bool closeComponents(std::size_t count);
 

@@ -81,14 +81,14 @@ bool Grid::initialize(std::uint32_t cellsInX, std::uint32_t cellsInY, std::uint3
     }
 }
 
-void Grid::getUserBoundingBox(double& originX, double& originY, double& originZ, double& upperX, double& upperY,
-                              double& upperZ) const {
-    originX = getUserXOrigin();
-    originY = getUserYOrigin();
-    originZ = getUserZOrigin();
-    upperX = getUserXUpperBound();
-    upperY = getUserYUpperBound();
-    upperZ = getUserZUpperBound();
+void Grid::getUserBoundingBox(double& xMin, double& xMax, double& yMin, double& yMax, double& zMin,
+                              double& zMax) const {
+    xMin = getUserXOrigin();
+    xMax = getUserXUpperBound();
+    yMin = getUserYOrigin();
+    yMax = getUserYUpperBound();
+    zMin = getUserZOrigin();
+    zMax = getUserZUpperBound();
 }
 
 }  // namespace quarn

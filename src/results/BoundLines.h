@@ -11,8 +11,9 @@ namespace quarn {
 
 using GridBound = std::array<std::uint32_t, 3>;
 
-constexpr QLatin1String lowerBoundKey("lower_bound");
-constexpr QLatin1String upperBoundKey("upper_bound");
+using blocktext::operator""_key;
+constexpr auto lowerBoundKey = "lower_bound"_key;
+constexpr auto upperBoundKey = "upper_bound"_key;
 
 inline void putBounds(DelimManager& delim, const GridBound& lower, const GridBound& upper) {
     blocktext::putLine(delim, lowerBoundKey, QLatin1String(), lower[0], lower[1], lower[2]);

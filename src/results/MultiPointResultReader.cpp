@@ -49,27 +49,27 @@ bool MultiPointResultReader::beginFrequency(int index) {
     return true;
 }
 
+template <class Group, class File>
+bool MultiPointResultReader::openFile(Group group, File file, int index) {
+    return collects(group) && openForReading(m_components[file], getComponentFileName(group, file, index));
+}
+
+template <class Group, class Files>
+bool MultiPointResultReader::openFiles(Group group, const Files& files, int index) {
+    if (!collects(group)) return false;
+    closeComponents();
+    return std::all_of(files.begin(), files.end(), [&](auto file) { return openFile(group, file, index); });
+}
+
+bool MultiPointResultReader::beginTransient(TransientGroup group) { return openFiles(group, components, m_timestep); }
+
 bool MultiPointResultReader::beginTransient(TransientGroup group, Component component) {
-    return collects(group) &&
-           openForReading(m_components[component], getComponentFileName(group, component, m_timestep));
+    return openFile(group, component, m_timestep);
 }
 
-bool MultiPointResultReader::beginTransient(TransientGroup group) {
-    if (!collects(group)) return false;
-    closeComponents();
-    return std::all_of(
-        components.begin(), components.end(), [&](Component component) { return beginTransient(group, component); });
-}
+bool MultiPointResultReader::beginSteady(SteadyGroup group) { return openFiles(group, parts, m_frequency); }
 
-bool MultiPointResultReader::beginSteady(SteadyGroup group, Part part) {
-    return collects(group) && openForReading(m_components[part], getComponentFileName(group, part, m_frequency));
-}
-
-bool MultiPointResultReader::beginSteady(SteadyGroup group) {
-    if (!collects(group)) return false;
-    closeComponents();
-    return std::all_of(parts.begin(), parts.end(), [&](Part part) { return beginSteady(group, part); });
-}
+bool MultiPointResultReader::beginSteady(SteadyGroup group, Part part) { return openFile(group, part, m_frequency); }
 
 bool MultiPointResultReader::readTransient(float& x, float& y, float& z) {
     float values[components.size()];

@@ -12,6 +12,15 @@ constexpr int bytesOfTime = 4;
 
 }  // namespace
 
+template <class Group, class Files>
+bool MultiPointResultWriter::openFiles(Group group, const Files& files, int index) {
+    if (!collects(group)) return false;
+    closeComponents(parts.size());
+    return std::all_of(files.begin(), files.end(), [&](auto file) {
+        return openForWriting(m_components[file], getComponentFileName(group, file, index));
+    });
+}
+
 bool MultiPointResultWriter::beginResultWriting(const QString& baseFileName, const GridIndexBoxes& boxes) {
     endResultWriting();
     setBaseFileName(baseFileName);
@@ -48,12 +57,7 @@ bool MultiPointResultWriter::restartTimestep(float time) {
     return beginTimestep(time);
 }
 
-bool MultiPointResultWriter::beginTransient(TransientGroup group) {
-    if (!collects(group)) return false;
-    std::vector<QString> names;
-    for (const Component component : components) names.push_back(getComponentFileName(group, component, m_timestep));
-    return openComponents(names);
-}
+bool MultiPointResultWriter::beginTransient(TransientGroup group) { return openFiles(group, components, m_timestep); }
 
 bool MultiPointResultWriter::writeTransient(float x, float y, float z) {
     return areOpen(components.size()) && m_components[X].write(x) && m_components[Y].write(y) &&
@@ -79,12 +83,7 @@ bool MultiPointResultWriter::beginFrequencyAtIndex(std::vector<double> frequenci
     });
 }
 
-bool MultiPointResultWriter::beginSteady(SteadyGroup group) {
-    if (!collects(group)) return false;
-    std::vector<QString> names;
-    for (const Part part : parts) names.push_back(getComponentFileName(group, part, m_frequency));
-    return openComponents(names);
-}
+bool MultiPointResultWriter::beginSteady(SteadyGroup group) { return openFiles(group, parts, m_frequency); }
 
 bool MultiPointResultWriter::writeSteady(const std::complex<float>& x, const std::complex<float>& y,
                                          const std::complex<float>& z) {
@@ -104,14 +103,6 @@ bool MultiPointResultWriter::endResultWriting() {
     closeComponents(parts.size());
     m_timesteps.close();
     m_frequencies.close();
-    return true;
-}
-
-bool MultiPointResultWriter::openComponents(const std::vector<QString>& fileNames) {
-    closeComponents(parts.size());
-    for (std::size_t i = 0; i < fileNames.size(); ++i) {
-        if (!openForWriting(m_components[i], fileNames[i])) return false;
-    }
     return true;
 }
 

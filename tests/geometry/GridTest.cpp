@@ -96,7 +96,7 @@ TEST(Grid, is_bounded_by_its_first_and_last_electric_nodes) {
     ASSERT_TRUE(grid.initialize(2, 3, 4, 1, 2, 3, {{0, 1}}, {{0, 10}}, {{0, 100}}, true));
     double bounds[6];
     grid.getUserBoundingBox(bounds[0], bounds[1], bounds[2], bounds[3], bounds[4], bounds[5]);
-    EXPECT_THAT(bounds, ElementsAreArray({1.0, 2.0, 3.0, 2.0, 22.0, 303.0}));
+    EXPECT_THAT(bounds, ElementsAreArray({1.0, 2.0, 2.0, 22.0, 3.0, 303.0}));
 }
 
 TEST(Grid, has_bounds_without_nodes) {

@@ -70,7 +70,7 @@ const std::vector<GroupRow> groupRows{
 #undef QUARN_STEADY
 
 struct MultiPoint : testing::Test {
-    const ResultFolder folder;
+    ResultFolder folder;
     const QString base = folder.path("b");
     Reader reader;
     Floats list;

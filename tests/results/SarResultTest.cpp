@@ -42,7 +42,7 @@ struct SarFile : testing::Test {
         return SarResult::combineFiles(paths, output, error, warning);
     }
 
-    const ResultFolder folder;
+    ResultFolder folder;
     QString error, warning;
 };
 

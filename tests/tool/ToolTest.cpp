@@ -211,20 +211,23 @@ TEST_F(Tool, show_says_what_a_project_holds) {
     EXPECT_EQ(result.status, 2);
 }
 
-TEST_F(Tool, demo_makes_two_projects_without_findings) {
+TEST_F(Tool, demo_takes_runs_as_far_as_their_far_field) {
     const ToolResult result = run({"demo", "new/folder"});
     EXPECT_EQ(result.status, 0) << result.out << result.err;
     EXPECT_THAT(result.out, AllOf(HasSubstr("plane wave"), HasSubstr("unit cell"), HasSubstr("identical")));
+    EXPECT_THAT(result.out, AllOf(HasSubstr("  Peak directivity  2.14 dBi"), HasSubstr("  Deviation ")));
     const QDir made(folder.filePath("new/folder"));
-    EXPECT_EQ(made.entryList(QDir::Files), QStringList({"periodic-cell.project", "plane-wave.project"}));
-    for (const QString& name : made.entryList(QDir::Files)) EXPECT_EQ(run({"check", made.filePath(name)}).status, 0);
+    const QStringList projects({"dipole.project", "periodic-cell.project", "plane-wave.project"});
+    EXPECT_EQ(made.entryList({"*.project"}, QDir::Files), projects);
+    for (const QString& name : projects) EXPECT_EQ(run({"check", made.filePath(name)}).status, 0);
+    EXPECT_EQ(run({"export", "--as", "far-zone", made.filePath("dipole.uan")}).status, 0);
 }
 
 TEST_F(Tool, help_and_version_are_results) {
     EXPECT_EQ(run({"--version"}).out, "quarn " QUARN_VERSION "\n");
     const ToolResult help = run({"--help"});
     EXPECT_EQ(help.status, 0);
-    for (const QString name : {"check", "show", "rewrite", "demo"}) {
+    for (const QString name : {"check", "show", "rewrite", "export", "sar", "farzone", "demo"}) {
         EXPECT_THAT(help.out, HasSubstr("\n  " + name.toStdString() + " "));
         const ToolResult ofSubcommand = run({name, "--help"});
         EXPECT_EQ(ofSubcommand.status, 0);

@@ -38,7 +38,11 @@ void CsvWriter::endRow() {
 }
 
 void CsvWriter::flush() {
-    out() << QString::fromUtf8(m_text);
+    if (m_destination) {
+        *m_destination += m_text;
+    } else {
+        out() << QString::fromUtf8(m_text);
+    }
     m_text.clear();
 }
 

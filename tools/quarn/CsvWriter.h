@@ -7,11 +7,12 @@
 
 namespace quarn::tool {
 
-/// Rows of comma-separated values on standard output. Numbers have as few digits as give them back exactly; what is no
-/// number is "nan" or "inf".
+/// Rows of comma-separated values, on standard output or at the end of a text. Numbers have as few digits as give them
+/// back exactly; what is no number is "nan" or "inf".
 class CsvWriter {
 public:
     CsvWriter() = default;
+    explicit CsvWriter(QByteArray& destination) : m_destination(&destination) {}
     ~CsvWriter() { flush(); }
     CsvWriter(const CsvWriter&) = delete;
     CsvWriter& operator=(const CsvWriter&) = delete;
@@ -30,6 +31,7 @@ private:
     void addNumber(Number value);
     void flush();
 
+    QByteArray* m_destination = nullptr;  ///< null for standard output
     QByteArray m_text;
     bool m_rowIsEmpty = true;
 };

@@ -9,6 +9,7 @@ namespace quarn::tool {
 int runCheck(const QStringList& arguments);
 int runShow(const QStringList& arguments);
 int runRewrite(const QStringList& arguments);
+int runFarZone(const QStringList& arguments);
 int runExport(const QStringList& arguments);
 int runSar(const QStringList& arguments);
 int runDemo(const QStringList& arguments);

@@ -23,6 +23,7 @@ constexpr Subcommand subcommands[] = {
     {"rewrite", "Loads a file and saves it in its canonical form", runRewrite},
     {"export", "Writes what a result file holds as CSV", runExport},
     {"sar", "Joins partial files of a SAR plane", runSar},
+    {"farzone", "Computes far fields from the fields on a far-zone box", runFarZone},
     {"demo", "Builds, saves and reads back example projects", runDemo},
 };
 

@@ -1,0 +1,137 @@
+// Far fields of a sphere of 65 160 directions, one degree apart, from the fields on cubes at 20 cells a wavelength. The
+// reference sums over all cells for each direction, with sines and cosines for each; as that takes hours, it is timed
+// on a few directions. "times reference" is the ratio of the two for all directions; "share sampling" what the samples
+// take of the time, the rest being lookups; "model" the time that the choice of the method expects. The second
+// benchmark has one direction.
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <ctime>
+
+#include "results/FarZoneDirectSum.h"
+#include "results/FarZoneSpectrum.h"
+#include "results/FarZoneTransform.h"
+#include "tests/results/FarZoneReference.h"
+
+namespace {
+
+using namespace quarn::farzone;
+
+constexpr double waveNumber = 2.0 * 3.14159265358979323846;  // of a wavelength of 1 m
+constexpr double cellSize = 0.05;
+
+/// Of this process, so that others on the machine do not count.
+double processorSeconds() { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
+
+quarn::test::SampledBox cube(std::size_t cells) {
+    const std::vector<double> sizes(cells, cellSize);
+    const double corner = -0.5 * cellSize * static_cast<double>(cells);
+    return {{sizes, sizes, sizes}, {corner, corner, corner}, waveNumber};
+}
+
+std::vector<Direction> sphere() {
+    constexpr double degree = 3.14159265358979323846 / 180.0;
+    std::vector<Direction> directions;
+    for (int theta = 0; theta <= 180; ++theta) {
+        for (int phi = 0; phi < 360; ++phi) directions.emplace_back(theta * degree, phi * degree);
+    }
+    return directions;
+}
+
+std::vector<FarField> fieldsBy(Method method, const Surface& surface, const std::vector<Direction>& directions) {
+    Progress progress(nullptr, directions.size(), costOf(method, surface, waveNumber, directions.size()));
+    std::vector<FarField> fields(directions.size());
+    transform(surface, waveNumber, method, directions, progress, fields);
+    return fields;
+}
+
+/// Times the reference on some of the directions, and checks the face sums of both methods against it.
+struct Reference {
+    double secondsPerDirection;
+    bool isMet;
+
+    Reference(const Surface& surface, const std::vector<Direction>& directions) {
+        constexpr std::size_t count = 6;
+        Progress progress(nullptr, 1, 1.0);
+        DirectSum direct(surface, waveNumber);
+        Spectrum spectrum(surface, waveNumber);
+        spectrum.sample(progress);
+        double peaks[6] = {};
+        double byDirect[6] = {};
+        double bySampled[6] = {};
+        double seconds = 0.0;
+        for (std::size_t i = 0; i < count; ++i) {
+            const Vector& direction = directions[(2 * i + 1) * directions.size() / (2 * count)].r;
+            const double start = processorSeconds();
+            const FaceSums expected = quarn::test::referenceSums(surface, waveNumber, direction);
+            seconds += processorSeconds() - start;
+            FaceSums sums;
+            direct.evaluate(&direction, 1, &sums, progress);
+            compare(expected, sums, byDirect, peaks);
+            compare(expected, spectrum.sumsAt(direction), bySampled, peaks);
+        }
+        secondsPerDirection = seconds / static_cast<double>(count);
+        isMet = true;
+        for (std::size_t face = 0; face < 6; ++face) {
+            isMet = isMet && byDirect[face] < 1e-12 * peaks[face] && bySampled[face] < 1e-7 * peaks[face];
+        }
+    }
+
+private:
+    static void compare(const FaceSums& expected, const FaceSums& found, double* deviations, double* peaks) {
+        for (std::size_t face = 0; face < 6; ++face) {
+            for (std::size_t c = 0; c < numComponents; ++c) {
+                const Complex value = expected[face / 2][face % 2][c];
+                peaks[face] = std::max(peaks[face], std::abs(value));
+                deviations[face] = std::max(deviations[face], std::abs(found[face / 2][face % 2][c] - value));
+            }
+        }
+    }
+};
+
+void transformToDirections(benchmark::State& state, std::vector<Direction> directions) {
+    const auto cells = static_cast<std::size_t>(state.range(0));
+    quarn::test::SampledBox box = cube(cells);
+    const Surface& surface = box.surface();
+    const Reference reference(surface, sphere());
+    if (!reference.isMet) state.SkipWithError("the sums differ from those of the reference");
+
+    const Method method = fasterMethod(surface, waveNumber, directions.size());
+    double seconds = 0.0;
+    for (auto _ : state) {
+        const double start = processorSeconds();
+        benchmark::DoNotOptimize(fieldsBy(method, surface, directions));
+        seconds += processorSeconds() - start;
+    }
+    seconds /= static_cast<double>(state.iterations());
+
+    const auto count = static_cast<double>(directions.size());
+    const double cellsOnBox = 6.0 * static_cast<double>(cells * cells);
+    state.counters["times reference"] = reference.secondsPerDirection * count / seconds;
+    state.counters["ns/cell/direction"] = seconds * 1e9 / (cellsOnBox * count);
+    state.counters["reference ns/cell/direction"] = reference.secondsPerDirection * 1e9 / cellsOnBox;
+    state.counters["model ms"] = costOf(method, surface, waveNumber, directions.size()) * 1e-6;
+    if (method == Method::Sampled) {
+        const double start = processorSeconds();
+        Progress progress(nullptr, 1, 1.0);
+        Spectrum spectrum(surface, waveNumber);
+        spectrum.sample(progress);
+        state.counters["share sampling"] = (processorSeconds() - start) / seconds;
+    }
+}
+
+void farFieldsOfASphere(benchmark::State& state) { transformToDirections(state, sphere()); }
+BENCHMARK(farFieldsOfASphere)->ArgName("cells")->Arg(60)->Arg(200)->Arg(400)->Unit(benchmark::kMillisecond);
+
+void farFieldsOfACut(benchmark::State& state) {
+    std::vector<Direction> directions = sphere();
+    directions.resize(16, {0, 0});
+    transformToDirections(state, directions);
+}
+BENCHMARK(farFieldsOfACut)->ArgName("cells")->Arg(60)->Arg(200)->Arg(400)->Unit(benchmark::kMillisecond);
+
+void farFieldOfOneDirection(benchmark::State& state) { transformToDirections(state, {Direction(1.0, 0.5)}); }
+BENCHMARK(farFieldOfOneDirection)->ArgName("cells")->Arg(60)->Arg(200)->Arg(400)->Unit(benchmark::kMillisecond);
+
+}  // namespace

@@ -1,0 +1,51 @@
+// Any bytes as the box field file of a small box, over a PEC plane in every second size: the far field of a box that
+// loads can be computed, and one that does not load gives nothing.
+
+#include <QTemporaryDir>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+
+#include "quarn/BoundaryConditions.h"
+#include "quarn/FieldsOnSSFarZoneBox.h"
+#include "quarn/Grid.h"
+#include "quarn/PostProcessSSFarZoneFields.h"
+
+namespace {
+
+void require(bool holds) {
+    if (!holds) std::abort();
+}
+
+QString write(const std::uint8_t* data, std::size_t size) {
+    static const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("box"));
+    std::FILE* const file = std::fopen(path.toUtf8().constData(), "wb");
+    require(file && std::fwrite(data, 1, size, file) == size && std::fclose(file) == 0);
+    return path;
+}
+
+quarn::FarZoneBox boxIn(const quarn::Grid& grid, bool hasPlane) {
+    constexpr auto open = quarn::BoundaryConditions::CPML;
+    constexpr auto plane = quarn::BoundaryConditions::PEC;
+    return {quarn::BoundaryConditions(open, open, open, open, hasPlane ? plane : open, open, 8), grid};
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    quarn::Grid grid;
+    require(grid.initialize(11, 11, 11, 0, 0, 0, {{0, 0.01F}}, {{0, 0.01F}, {5, 0.02F}}, {{0, 0.01F}}, true));
+    QString problem;
+    const quarn::FieldsOnSSFarZoneBox fields(grid, write(data, size), boxIn(grid, size % 2 == 1), problem);
+    require(fields.isComplete() == problem.isEmpty());
+
+    const float frequency = 1e9F * static_cast<float>(size % 7);
+    const quarn::PostProcessSSFarZoneFields processor(&fields, frequency, 0, 0);
+    const std::vector<quarn::FarZoneRequest::Angle> angles{{1.0F, 0.5F}, {2.5F, -0.5F}, {0.0F, 100.0F}};
+    std::vector<quarn::FarZoneSSFieldFile::Record> records;
+    require(processor.computeFields(angles, records) == fields.isComplete());
+    require(records.size() == (fields.isComplete() ? angles.size() : 0));
+    return 0;
+}

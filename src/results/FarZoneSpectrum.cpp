@@ -1,0 +1,260 @@
+#include "results/FarZoneSpectrum.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace quarn::farzone {
+
+namespace {
+
+constexpr double pi = 3.14159265358979323846;
+
+constexpr double nsPerGatheredCell = 2.0;
+constexpr double nsPerPhasor = 3.5;
+constexpr double nsPerTabulatedPhasor = 20.0;
+constexpr double nsPerTap = 3.0;
+constexpr double nsPerWindow = 1e6;
+constexpr double nsPerDirection = 600.0;
+
+/// Six points of Gauss-Legendre quadrature on -1 to 1 (Abramowitz and Stegun, table 25.4), a pair for each weight.
+struct GaussPair {
+    double point;
+    double weight;
+};
+constexpr GaussPair gauss[] = {
+    {0.238619186083197, 0.467913934572691},
+    {0.661209386466265, 0.360761573048139},
+    {0.932469514203152, 0.171324492379170},
+};
+
+/// The largest phase from the middle of a panel to its end that six points integrate to ten digits.
+constexpr double largestPanelPhase = 1.5;
+
+/// How fast the window's transform can vary, in radians of its logarithm for each radian of angle.
+constexpr double windowSlope = 2.0;
+
+constexpr std::size_t halfTaps = Window::taps / 2;
+
+struct Extent {
+    double middle = 0.0;
+    double half = 0.0;
+};
+
+/// What the cells of an axis cover; not a number when a cell's place or size is none.
+Extent extentOf(const Axis& axis) {
+    if (axis.cells() == 0) return {};
+    double low = std::numeric_limits<double>::infinity();
+    double high = -low;
+    double sum = 0.0;
+    for (std::size_t i = 0; i < axis.cells(); ++i) {
+        const double half = 0.5 * std::abs(axis.sizes[i]);
+        low = std::min(low, axis.middles[i] - half);
+        high = std::max(high, axis.middles[i] + half);
+        sum += axis.middles[i] + half;
+    }
+    return std::isfinite(sum) ? Extent{0.5 * (low + high), 0.5 * (high - low)} : Extent{sum - sum, sum - sum};
+}
+
+/// Samples up to the direction component 1, which are oversampled times the half length in wavelengths times two. A
+/// short axis has a few.
+double samplesWithin(double halfLength, double waveNumber) {
+    return Window::oversampling * std::max(waveNumber * halfLength, 1e-3) / pi;
+}
+
+/// The last sample with those that the window needs behind the component 1.
+double lastSample(const Axis& axis, double waveNumber) {
+    return std::ceil(samplesWithin(extentOf(axis).half, waveNumber)) + static_cast<double>(halfTaps);
+}
+
+double cellsOf(const Surface& surface, std::size_t axis) { return static_cast<double>(surface.axes[axis].cells()); }
+
+double costOfRow(double cellsA, double lastA) { return cellsA * (nsPerGatheredCell + (lastA + 1.0) * nsPerPhasor); }
+double costOfColumn(double cellsB, double lastB) { return cellsB * (lastB + 1.0) * nsPerPhasor; }
+
+/// The exponential of an angle times 0, 1, 2, ... is added to a column of a table.
+void addPhasors(double amplitude, double angle, std::size_t stride, std::size_t count, Phasor* column) {
+    const double cosine = std::cos(angle);
+    const double sine = std::sin(angle);
+    Phasor phasor{amplitude, 0.0};
+    for (std::size_t m = 0; m < count; ++m) {
+        column[m * stride].cosine += phasor.cosine;
+        column[m * stride].sine += phasor.sine;
+        phasor = {phasor.cosine * cosine - phasor.sine * sine, phasor.cosine * sine + phasor.sine * cosine};
+    }
+}
+
+/// The weighted sum of rows of numbers that begin `stride` numbers apart. All numbers of a row are summed side by side,
+/// which a compiler makes into vector instructions.
+template <std::size_t numbersInRow>
+void combine(const double* rows, std::size_t stride, const Window::Weights& weights, double* sums) {
+    for (std::size_t i = 0; i < numbersInRow; ++i) {
+        double sum = 0.0;
+        for (std::size_t row = 0; row < Window::taps; ++row) sum += weights[row] * rows[row * stride + i];
+        sums[i] = sum;
+    }
+}
+
+}  // namespace
+
+Spectrum::Spectrum(const Surface& surface, double waveNumber) : m_surface(surface), m_waveNumber(waveNumber) {
+    for (std::size_t axis = 0; axis < numAxes; ++axis) {
+        const Extent extent = extentOf(surface.axes[axis]);
+        m_samplings[axis] = {waveNumber * extent.middle,
+                             1.0 / samplesWithin(extent.half, waveNumber),
+                             static_cast<std::size_t>(lastSample(surface.axes[axis], waveNumber))};
+        fillPhasors(axis, waveNumber);
+    }
+}
+
+double Spectrum::samplingCost(const Surface& surface, double waveNumber) {
+    double cost = nsPerWindow;
+    for (std::size_t normal = 0; normal < numAxes; ++normal) {
+        const auto [a, b] = inPlaneAxes(normal);
+        const double lastA = lastSample(surface.axes[a], waveNumber);
+        const double lastB = lastSample(surface.axes[b], waveNumber);
+        const double lastN = lastSample(surface.axes[normal], waveNumber);
+        cost += static_cast<double>(surface.pairs[normal].numberSummed()) *
+                (cellsOf(surface, b) * costOfRow(cellsOf(surface, a), lastA) +
+                 (2.0 * lastA + 1.0) * costOfColumn(cellsOf(surface, b), lastB));
+        cost += (cellsOf(surface, normal) + lastN) * (lastN + 1.0) * nsPerTabulatedPhasor;
+    }
+    return cost;
+}
+
+double Spectrum::lookupCost() {
+    return nsPerDirection + numAxes * static_cast<double>(Window::taps * Window::taps) * nsPerTap;
+}
+
+double Spectrum::memory(const Surface& surface, double waveNumber) {
+    double bytes = 0.0;
+    for (std::size_t normal = 0; normal < numAxes; ++normal) {
+        const auto [a, b] = inPlaneAxes(normal);
+        const double samplesA = 2.0 * lastSample(surface.axes[a], waveNumber) + 1.0;
+        const double samplesB = 2.0 * lastSample(surface.axes[b], waveNumber) + 1.0;
+        bytes += samplesA * (samplesB * sizeof(Sample) + cellsOf(surface, b) * sizeof(Lanes));
+        bytes += samplesA * cellsOf(surface, a) * sizeof(Phasor);
+    }
+    return bytes;
+}
+
+// A cell counts as a whole: panels of quadrature, short enough for the fastest sample, run over it. At each point the
+// window's transform is divided out.
+void Spectrum::fillPhasors(std::size_t axis, double waveNumber) {
+    const Axis& cells = m_surface.axes[axis];
+    const Sampling& sampling = m_samplings[axis];
+    m_phasors[axis].assign((sampling.last + 1) * cells.cells(), {});
+    const double anglePerLength = waveNumber * sampling.spacing;
+    const double fastest = (static_cast<double>(sampling.last) + windowSlope) * anglePerLength;
+    for (std::size_t i = 0; i < cells.cells(); ++i) {
+        const double halfSize = 0.5 * cells.sizes[i];
+        const double panels = std::max(1.0, std::ceil(std::abs(halfSize) * fastest / largestPanelPhase));
+        const double halfPanel = halfSize / panels;
+        for (double panel = 0.0; panel < panels; ++panel) {
+            const double middle = cells.middles[i] - halfSize + (2.0 * panel + 1.0) * halfPanel;
+            for (const auto& [point, weight] : gauss) {
+                for (const double side : {-1.0, 1.0}) {
+                    const double angle =
+                        anglePerLength * (middle + side * point * halfPanel) - sampling.centre * sampling.spacing;
+                    addPhasors(weight * halfPanel / Window::transform(angle),
+                               angle,
+                               cells.cells(),
+                               sampling.last + 1,
+                               m_phasors[axis].data() + i);
+                }
+            }
+        }
+    }
+}
+
+bool Spectrum::sample(Progress& progress) {
+    for (std::size_t normal = 0; normal < numAxes; ++normal) {
+        const auto [a, b] = inPlaneAxes(normal);
+        m_samples[normal].assign(m_samplings[a].samples() * m_samplings[b].samples() * sampleSize, 0.0);
+        m_columns.resize(m_samplings[a].samples() * m_surface.axes[b].cells());
+        for (const Side side : {Lower, Upper}) {
+            if (!m_surface.pairs[normal].faces[side].isSummed) continue;
+            if (!sampleRows(normal, side, progress) || !sampleColumns(normal, side, progress)) return false;
+        }
+    }
+    return true;
+}
+
+// Along the lower in-plane axis, into m_columns.
+bool Spectrum::sampleRows(std::size_t normal, Side side, Progress& progress) {
+    const auto [a, b] = inPlaneAxes(normal);
+    const std::size_t cells = m_surface.axes[a].cells();
+    const std::size_t rows = m_surface.axes[b].cells();
+    const std::size_t last = m_samplings[a].last;
+    const double rowCost = costOfRow(static_cast<double>(cells), static_cast<double>(last));
+    m_row.resize(cells);
+    for (std::size_t row = 0; row < rows; ++row) {
+        gatherRow(m_surface.pairs[normal].faces[side], row, m_row);
+        for (std::size_t m = 0; m <= last; ++m) {
+            const LaneSums sums = sumOf(m_row.data(), m_phasors[a].data() + m * cells, cells);
+            m_columns[(last + m) * rows + row] = sums.withPhase();
+            m_columns[(last - m) * rows + row] = sums.withOppositePhase();
+        }
+        if (!progress.advance(rowCost)) return false;
+    }
+    return true;
+}
+
+// Along the upper in-plane axis, from m_columns.
+bool Spectrum::sampleColumns(std::size_t normal, Side side, Progress& progress) {
+    const auto [a, b] = inPlaneAxes(normal);
+    const std::size_t cells = m_surface.axes[b].cells();
+    const std::size_t columns = m_samplings[a].samples();
+    const std::size_t last = m_samplings[b].last;
+    const double columnCost = costOfColumn(static_cast<double>(cells), static_cast<double>(last));
+    const auto store = [&](std::size_t row, std::size_t column, const Lanes& lanes) {
+        double* const sample = m_samples[normal].data() + (row * columns + column) * sampleSize;
+        std::copy(lanes.begin(), lanes.end(), sample + side * numLanes);
+    };
+    for (std::size_t column = 0; column < columns; ++column) {
+        for (std::size_t m = 0; m <= last; ++m) {
+            const LaneSums sums = sumOf(m_columns.data() + column * cells, m_phasors[b].data() + m * cells, cells);
+            store(last + m, column, sums.withPhase());
+            store(last - m, column, sums.withOppositePhase());
+        }
+        if (!progress.advance(columnCost)) return false;
+    }
+    return true;
+}
+
+// The in-plane components of the direction choose the samples, the phase of the cells' middle and of the two faces
+// follow.
+FaceSums Spectrum::sumsAt(const Vector& direction) const {
+    std::array<Neighbours, numAxes> neighbours;
+    for (std::size_t axis = 0; axis < numAxes; ++axis) neighbours[axis] = neighboursOf(axis, direction[axis]);
+    FaceSums sums;
+    for (std::size_t normal = 0; normal < numAxes; ++normal) {
+        const auto [a, b] = inPlaneAxes(normal);
+        const Sample both = interpolated(normal, neighbours[a], neighbours[b]);
+        const double phase = m_samplings[a].centre * direction[a] + m_samplings[b].centre * direction[b];
+        for (const Side side : {Lower, Upper}) {
+            const double facePhase = m_waveNumber * m_surface.axes[normal].faces[side] * direction[normal];
+            sums[normal][side] = shifted(both.data() + side * numLanes, phase + facePhase);
+        }
+    }
+    return sums;
+}
+
+Spectrum::Neighbours Spectrum::neighboursOf(std::size_t axis, double component) const {
+    const double position = component / m_samplings[axis].spacing;
+    const double below = std::floor(position);
+    const auto index = static_cast<std::ptrdiff_t>(below) + static_cast<std::ptrdiff_t>(m_samplings[axis].last);
+    return {static_cast<std::size_t>(index) - (halfTaps - 1), m_window.weights(position - below)};
+}
+
+Spectrum::Sample Spectrum::interpolated(std::size_t normal, const Neighbours& a, const Neighbours& b) const {
+    const std::size_t columns = m_samplings[inPlaneAxes(normal).a].samples();
+    const double* const first = m_samples[normal].data() + (b.first * columns + a.first) * sampleSize;
+    double row[Window::taps * sampleSize];
+    Sample result;
+    combine<Window::taps * sampleSize>(first, columns * sampleSize, b.weights, row);
+    combine<sampleSize>(row, sampleSize, a.weights, result.data());
+    return result;
+}
+
+}  // namespace quarn::farzone

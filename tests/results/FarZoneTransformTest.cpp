@@ -1,0 +1,220 @@
+// The two ways of summing over the faces of a box against the sum over single cells.
+
+#include "results/FarZoneTransform.h"
+
+#include <gmock/gmock.h>
+
+#include <limits>
+
+#include "TestSupport.h"
+#include "results/FarZoneDirectSum.h"
+#include "results/FarZoneSpectrum.h"
+#include "tests/results/FarZoneReference.h"
+
+namespace quarn::test {
+namespace {
+
+using farzone::Direction;
+using farzone::FaceSums;
+using farzone::FarField;
+using farzone::Method;
+using farzone::Surface;
+using farzone::Vector;
+
+constexpr double twoPi = 6.283185307179586;
+
+using Sizes = std::vector<double>;
+
+Sizes even(std::size_t cells, double size) { return Sizes(cells, size); }
+
+/// From one size to another and back, by a constant ratio.
+Sizes graded(std::size_t cells, double smallest, double largest) {
+    Sizes sizes;
+    for (std::size_t i = 0; i < cells; ++i) {
+        const double x = static_cast<double>(i) / static_cast<double>(cells);
+        sizes.push_back(smallest * std::pow(largest / smallest, 0.5 - 0.5 * std::cos(twoPi * x)));
+    }
+    return sizes;
+}
+
+// Lengths are in wavelengths.
+struct Shape {
+    const char* name;
+    std::array<Sizes, 3> sizes;
+    Vector corner;
+};
+
+void PrintTo(const Shape& shape, std::ostream* out) { *out << shape.name; }
+
+const Shape shapes[] = {
+    {"even_cells", {even(30, 0.05), even(24, 0.05), even(20, 0.05)}, {-0.75, -0.6, -0.5}},
+    {"graded_cells_off_centre", {graded(40, 0.01, 0.1), graded(31, 0.1, 0.02), even(20, 0.07)}, {-0.3, -2, 0.1}},
+    {"a_very_small_box", {even(9, 1e-6), graded(8, 1e-6, 3e-6), even(10, 1e-6)}, {-4e-6, -6e-6, -5e-6}},
+    {"a_large_box", {even(100, 0.1), graded(90, 0.02, 0.2), even(80, 0.1)}, {-5, -4.5, -4}},
+    {"cells_larger_than_a_wavelength", {even(8, 1.7), graded(7, 0.4, 2.3), even(9, 1.2)}, {-7, -5, -5}},
+    {"one_cell", {even(1, 0.8), even(1, 1.3), even(1, 0.2)}, {-0.4, -0.6, -0.1}},
+    {"a_plate", {even(40, 0.1), even(50, 0.1), even(1, 0.01)}, {-2, -2.5, 0}},
+    {"cells_of_no_size", {even(12, 0.0), even(12, 0.1), even(12, 0.1)}, {0, -0.6, -0.6}},
+    {"no_cells_along_one_axis", {even(14, 0.1), Sizes(), even(16, 0.1)}, {-0.7, 0, -0.8}},
+};
+
+std::vector<Direction> randomDirections(std::size_t count) {
+    std::mt19937 random(2);
+    std::uniform_real_distribution<double> uniform(0.0, 1.0);
+    std::vector<Direction> directions;
+    for (std::size_t i = 0; i < count; ++i) {
+        directions.emplace_back(std::acos(2.0 * uniform(random) - 1.0), twoPi * uniform(random));
+    }
+    for (const double theta : {0.0, 0.25 * twoPi, 0.5 * twoPi}) directions.emplace_back(theta, 0.0);
+    directions.emplace_back(0.25 * twoPi, 0.25 * twoPi);
+    return directions;
+}
+
+class FarZoneSums : public testing::TestWithParam<Shape> {
+protected:
+    SampledBox box{GetParam().sizes, GetParam().corner, twoPi};
+    Surface& surface = box.surface();
+    farzone::Progress progress{nullptr, 1, 1.0};
+    std::vector<Direction> directions = randomDirections(300);
+
+    /// The largest deviation of a face's sums from the reference, in units of the largest sum of that face.
+    template <class SumsOf>
+    double deviation(SumsOf sumsOf) const {
+        double peaks[6] = {};
+        double deviations[6] = {};
+        for (const Direction& direction : directions) {
+            const FaceSums expected = referenceSums(surface, twoPi, direction.r);
+            const FaceSums found = sumsOf(direction.r);
+            for (std::size_t face = 0; face < 6; ++face) {
+                for (std::size_t component = 0; component < farzone::numComponents; ++component) {
+                    const auto& value = expected[face / 2][face % 2][component];
+                    peaks[face] = std::max(peaks[face], std::abs(value));
+                    deviations[face] =
+                        std::max(deviations[face], std::abs(found[face / 2][face % 2][component] - value));
+                }
+            }
+        }
+        double largest = 0.0;
+        for (std::size_t face = 0; face < 6; ++face) {
+            if (deviations[face] > 0.0) largest = std::max(largest, deviations[face] / peaks[face]);
+        }
+        return largest;
+    }
+};
+
+TEST_P(FarZoneSums, are_exact_when_summed_directly) {
+    farzone::DirectSum direct(surface, twoPi);
+    EXPECT_LT(deviation([&](const Vector& direction) {
+                  FaceSums sums;
+                  EXPECT_TRUE(direct.evaluate(&direction, 1, &sums, progress));
+                  return sums;
+              }),
+              1e-12);
+}
+
+TEST_P(FarZoneSums, are_within_the_error_bound_when_sampled) {
+    farzone::Spectrum spectrum(surface, twoPi);
+    ASSERT_TRUE(spectrum.sample(progress));
+    EXPECT_LT(deviation([&](const Vector& direction) { return spectrum.sumsAt(direction); }), 2e-9);
+}
+
+INSTANTIATE_TEST_SUITE_P(, FarZoneSums, testing::ValuesIn(shapes), rowName<Shape>);
+
+std::vector<FarField> fieldsBy(Method method, const Surface& surface, const std::vector<Direction>& directions) {
+    std::vector<FarField> fields(directions.size());
+    farzone::Progress progress(nullptr, directions.size(), farzone::costOf(method, surface, twoPi, directions.size()));
+    EXPECT_TRUE(farzone::transform(surface, twoPi, method, directions, progress, fields));
+    return fields;
+}
+
+// The plane stands off the centre, so that the image's path counts; fields are of the order of 1000 V.
+TEST(FarZoneTransform, gives_the_same_image_by_both_methods) {
+    SampledBox box(shapes[1].sizes, shapes[1].corner, twoPi);
+    const std::vector<Direction> directions = randomDirections(100);
+    for (std::size_t axis = 0; axis < farzone::numAxes; ++axis) {
+        Surface surface = box.surface();
+        surface.mirrorAxis = axis;
+        surface.mirrorPosition = surface.axes[axis].faces[farzone::Lower];
+        surface.pairs[axis].faces[farzone::Lower].isSummed = false;
+        const auto direct = fieldsBy(Method::Direct, surface, directions);
+        const auto sampled = fieldsBy(Method::Sampled, surface, directions);
+        for (std::size_t i = 0; i < directions.size(); ++i) {
+            EXPECT_LT(std::abs(direct[i].theta - sampled[i].theta), 1e-5) << axis << ' ' << i;
+            EXPECT_LT(std::abs(direct[i].phi - sampled[i].phi), 1e-5) << axis << ' ' << i;
+        }
+    }
+}
+
+TEST(FarZoneTransform, keeps_what_is_not_a_number_to_its_direction) {
+    SampledBox box(shapes[0].sizes, shapes[0].corner, twoPi);
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double infinity = std::numeric_limits<double>::infinity();
+    const std::vector<Direction> directions{{1, 1}, {nan, 1}, {1, 1}, {1, infinity}, {1 + twoPi, 1 - twoPi}};
+    for (const Method method : {Method::Direct, Method::Sampled}) {
+        const auto fields = fieldsBy(method, box.surface(), directions);
+        EXPECT_TRUE(std::isnan(std::abs(fields[1].theta)) && std::isnan(std::abs(fields[1].phi)));
+        EXPECT_TRUE(std::isnan(std::abs(fields[3].theta)) && std::isnan(std::abs(fields[3].phi)));
+        EXPECT_EQ(fields[2].theta, fields[0].theta);
+        EXPECT_LT(std::abs(fields[4].phi - fields[0].phi), 1e-9 * std::abs(fields[0].phi));
+    }
+}
+
+struct Choice {
+    const char* name;
+    double waveNumber;
+    std::size_t directions;
+    Method expected;
+};
+
+void PrintTo(const Choice& choice, std::ostream* out) { *out << choice.name; }
+
+class FarZoneMethod : public testing::TestWithParam<Choice> {};
+
+TEST_P(FarZoneMethod, is_the_faster_one) {
+    SampledBox box({even(60, 0.05), even(60, 0.05), even(60, 0.05)}, {-1.5, -1.5, -1.5}, twoPi);
+    EXPECT_EQ(farzone::fasterMethod(box.surface(), GetParam().waveNumber, GetParam().directions), GetParam().expected);
+}
+
+const Choice choices[] = {
+    {"none", twoPi, 0, Method::Direct},
+    {"one_direction", twoPi, 1, Method::Direct},
+    {"a_few_directions", twoPi, 10, Method::Direct},
+    {"a_cut", twoPi, 360, Method::Sampled},
+    {"a_sphere", twoPi, 65160, Method::Sampled},
+    {"a_sphere_at_frequency_zero", 0, 65160, Method::Direct},
+    {"a_sphere_at_a_negative_frequency", -twoPi, 65160, Method::Direct},
+    {"a_sphere_at_a_frequency_that_is_none", std::numeric_limits<double>::quiet_NaN(), 65160, Method::Direct},
+    {"a_sphere_at_an_infinite_frequency", std::numeric_limits<double>::infinity(), 65160, Method::Direct},
+    {"a_fine_sphere_at_a_frequency_that_needs_too_many_samples", 1000 * twoPi, 1U << 30, Method::Direct},
+};
+INSTANTIATE_TEST_SUITE_P(, FarZoneMethod, testing::ValuesIn(choices), rowName<Choice>);
+
+// A place or a size that is no number makes fields that are none, by whatever way.
+TEST(FarZoneTransform, does_not_sample_cells_that_are_nowhere) {
+    SampledBox box(shapes[0].sizes, shapes[0].corner, twoPi);
+    box.surface().axes[1].middles[3] = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(farzone::fasterMethod(box.surface(), twoPi, 65160), Method::Direct);
+}
+
+TEST(FarZoneTransform, stops_at_once_when_told_to) {
+    SampledBox box(shapes[3].sizes, shapes[3].corner, twoPi);
+    const std::vector<Direction> directions = randomDirections(2000);
+    for (const Method method : {Method::Direct, Method::Sampled}) {
+        int calls = 0;
+        std::size_t last = 0;
+        const auto stop = [&](std::size_t done, std::size_t) {
+            ++calls;
+            last = done;
+            return false;
+        };
+        const double cost = farzone::costOf(method, box.surface(), twoPi, directions.size());
+        farzone::Progress progress(stop, directions.size(), cost);
+        std::vector<FarField> fields(directions.size());
+        EXPECT_FALSE(farzone::transform(box.surface(), twoPi, method, directions, progress, fields));
+        EXPECT_EQ(calls, 1);
+        EXPECT_LT(last, directions.size() / 10);
+    }
+}
+
+}  // namespace
+}  // namespace quarn::test
