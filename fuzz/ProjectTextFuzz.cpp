@@ -17,7 +17,8 @@ public:
     Project(const Project&) = delete;
     Project& operator=(const Project&) = delete;
 
-    // Without boundary conditions a project cannot be saved. The modeling units of a file as it is written are not read.
+    // Without boundary conditions a project cannot be saved. The modeling units of a file as it is written are not
+    // read.
     QString saved() {
         setModelingUnits({QStringLiteral("m"), 1.0});
         using quarn::BoundaryConditions;
