@@ -35,7 +35,8 @@ public:
     bool endResultReading() { return closeComponents(); }
 
     /// @name Lists
-    /// Each replaces the list by what the file holds, so far. False when it cannot be opened or its version is not 0.
+    /// Each replaces the list by what the file holds, so far. False, with an empty list, when it cannot be opened, its
+    /// version is not 0 or there is no memory for it.
     /// @{
     bool readTimesteps(std::vector<float>& times) const;
     bool readFrequencies(std::vector<float>& frequencies) const;
@@ -98,7 +99,8 @@ public:
     bool readTransientZ(float& value) { return readValue(Z, value); }
 
     /// Replaces `values` by the next `count` values of a component, or by as many as its file holds so far. They are
-    /// read as one block; memory is taken for no more than there is. False when the component is not open.
+    /// read as one block; memory is taken for no more than there is. False when the component is not open or the memory
+    /// cannot be had.
     bool readTransientBlock(Component component, std::vector<float>& values, std::size_t count = all) {
         return readBlock(static_cast<std::size_t>(component), values, count);
     }

@@ -27,7 +27,8 @@ public:
     static bool writeRecord(DataFileWriter& writer, const Record& record);
 
     /// Replaces `records` by the next `count` records, or by as many as there are, and returns whether there were that
-    /// many. They are read as one block; memory is taken for no more than the file holds.
+    /// many. They are read as one block; memory is taken for no more than the file holds, and none is read when it
+    /// cannot be had.
     static bool readRecords(DataFileReader& reader, std::size_t count, std::vector<Record>& records);
 };
 

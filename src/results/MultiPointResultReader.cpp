@@ -22,9 +22,7 @@ template <class Item>
 bool MultiPointResultReader::readList(const QString& fileName, std::vector<Item>& items) const {
     items.clear();
     DataFileReader reader;
-    if (!openForReading(reader, fileName)) return false;
-    records::readBlock(reader, all, items);
-    return true;
+    return openForReading(reader, fileName) && records::readBlock(reader, all, items);
 }
 
 bool MultiPointResultReader::readTimesteps(std::vector<float>& times) const {
@@ -101,9 +99,7 @@ bool MultiPointResultReader::readEach(float* values, std::size_t count) {
 }
 
 bool MultiPointResultReader::readBlock(std::size_t component, std::vector<float>& values, std::size_t count) {
-    if (!m_components[component].isOpen()) return false;
-    records::readBlock(m_components[component], count, values);
-    return true;
+    return m_components[component].isOpen() && records::readBlock(m_components[component], count, values);
 }
 
 bool MultiPointResultReader::skipValues(int count) {

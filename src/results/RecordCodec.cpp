@@ -25,8 +25,7 @@ bool RecordCodec<RecordType>::writeRecord(DataFileWriter& writer, const Record& 
 template <class RecordType>
 bool RecordCodec<RecordType>::readRecords(DataFileReader& reader, std::size_t count, std::vector<Record>& records) {
     static_assert(records::fileSize<Record> == recordSize, "without gaps in memory, as in a file");
-    records::readBlock(reader, count, records);
-    return records.size() == count;
+    return records::readBlock(reader, count, records) && records.size() == count;
 }
 
 template class RecordCodec<SystemRadiatedPowerRecord>;
