@@ -186,6 +186,7 @@ public:
         friend bool operator==(const DebyeSample& a, const DebyeSample& b) {
             return a.staticRelativePermittivity == b.staticRelativePermittivity && a.relaxationTime == b.relaxationTime;
         }
+        friend bool operator!=(const DebyeSample& a, const DebyeSample& b) { return !(a == b); }
     };
     struct LorentzSample {
         double staticRelativePermittivity = 0.0;
@@ -196,6 +197,7 @@ public:
             return a.staticRelativePermittivity == b.staticRelativePermittivity &&
                    a.resonantFrequency == b.resonantFrequency && a.dampingCoefficient == b.dampingCoefficient;
         }
+        friend bool operator!=(const LorentzSample& a, const LorentzSample& b) { return !(a == b); }
     };
     struct ColeColeSample {
         double staticRelativePermittivity = 0.0;
@@ -206,6 +208,7 @@ public:
             return a.staticRelativePermittivity == b.staticRelativePermittivity &&
                    a.relaxationTime == b.relaxationTime && a.poleBroadness == b.poleBroadness;
         }
+        friend bool operator!=(const ColeColeSample& a, const ColeColeSample& b) { return !(a == b); }
     };
 
     ElectricDebyeLorentzColeCole(const QString& name, double relativePermittivity, double conductivity,

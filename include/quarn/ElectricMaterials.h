@@ -87,9 +87,15 @@ public:
         float frequency = 0.0F;
         float conductivity = 0.0F;
         float permittivity = 0.0F;
+
+        friend bool operator==(const Parameters& a, const Parameters& b) {
+            return a.frequency == b.frequency && a.conductivity == b.conductivity && a.permittivity == b.permittivity;
+        }
+        friend bool operator!=(const Parameters& a, const Parameters& b) { return !(a == b); }
     };
 
-    ElectricSampled(const QString& name, const std::vector<Parameters>& parameters);
+    ElectricSampled(const QString& name, const std::vector<Parameters>& parameters, bool useSurfaceConductivity = false,
+                    bool useLossTangent = false, bool useComplex = false);
 
     /// Leaves out the samples and the flags.
     bool operator==(const Material& other) const override;
@@ -119,8 +125,8 @@ private:
 
 class QUARN_EXPORT ElectricAnisotropic : public Material {
 public:
-    /// Copies the two tensors, row by row.
-    ElectricAnisotropic(const QString& name, const float (&conductivity)[3][3], const float (&permittivity)[3][3]);
+    /// Copies the two tensors of three rows each.
+    ElectricAnisotropic(const QString& name, const float (*conductivity)[3], const float (*permittivity)[3]);
     bool operator==(const Material& other) const override;
 
     /// Row and column are 0 to 2; they are not checked.

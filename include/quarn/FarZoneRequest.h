@@ -43,8 +43,8 @@ public:
     QString getCircularPolarizedUANOutputFileName() const;
 
     /// Reads the rest of the block in which the reader stands into this request, in place of what it held. Unknown
-    /// words are passed over one by one, and an angle that is not complete ends the reading. Returns whether the stream
-    /// is in order.
+    /// words are passed over one by one, and a number that is missing is zero and ends the reading. Returns whether the
+    /// stream is in order.
     bool StreamIn(DelimManager& delim);
 
     /// Writes the lines of the request without a block around them. Returns whether the stream is in order.

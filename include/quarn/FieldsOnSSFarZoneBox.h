@@ -38,8 +38,8 @@ public:
     /// mirrored fields need no lists of their own, as the box's own are summed a second time with the signs of the
     /// image; this makes sure that they can be.
     ///
-    /// False when not all fields were loaded or when the plane is not where the grid has it. True for a box without an
-    /// image, for which there is nothing to do.
+    /// False when not all fields were loaded or when the plane is not where the grid has it. True for an invalid
+    /// box and one without an image, for which there is nothing to do.
     bool setupImageFields(const Grid& grid) const;
 
     /// Whether the fields of all cells were loaded.

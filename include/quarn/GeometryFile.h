@@ -51,7 +51,7 @@ private:
 /// with whoever added them. The manager is never owned.
 ///
 /// Copying is deep: the copy has materials, physical parameters and maps of its own, and shares the manager. A material
-/// of a class that the library does not know cannot be copied; its place in the copy's list is null.
+/// that is none of the library's classes cannot be copied; its place in the copy's list is null.
 class QUARN_EXPORT GeometryFile {
 public:
     GeometryFile();

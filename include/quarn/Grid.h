@@ -37,8 +37,8 @@ public:
                             float originY, float originZ, const Runs& runsInX, const Runs& runsInY, const Runs& runsInZ,
                             bool withNodes);
 
-    /// False for a grid that was laid out without nodes: it has no electric nodes but the origins, no magnetic nodes
-    /// and no sizes of magnetic cells.
+    /// False for a grid that has cells and was laid out without nodes: it has no electric nodes but the origins, no
+    /// magnetic nodes and no sizes of magnetic cells.
     bool hasNodes() const { return m_x.hasNodes() && m_y.hasNodes() && m_z.hasNodes(); }
 
     std::uint32_t getNumberOfUserCellsInX() const { return m_x.cells; }

@@ -192,9 +192,15 @@ public:
         float frequency = 0.0F;
         float conductivity = 0.0F;
         float permeability = 0.0F;
+
+        friend bool operator==(const Parameters& a, const Parameters& b) {
+            return a.frequency == b.frequency && a.conductivity == b.conductivity && a.permeability == b.permeability;
+        }
+        friend bool operator!=(const Parameters& a, const Parameters& b) { return !(a == b); }
     };
 
-    MagneticSampled(const QString& name, const std::vector<Parameters>& parameters);
+    MagneticSampled(const QString& name, const std::vector<Parameters>& parameters, bool useLossTangent = false,
+                    bool useComplex = false);
 
     /// Leaves out the samples and the flags.
     bool operator==(const Material& other) const override;

@@ -50,7 +50,8 @@ private:
 ///
 /// Ownership of the physical parameters: copies of a material share them, and no material ever deletes them. Whoever
 /// adds them to a material deletes them, once, after the last material that shares them; getPhysicalParameters() is
-/// the way to them. GeometryFile does so for those that it made.
+/// the way to them. A GeometryFile deletes those that it made, when it goes or loads anew: a copy of one of its
+/// materials that outlives it must be given parameters of its own with addPhysicalParameters().
 class QUARN_EXPORT Material {
 public:
     /// Each class has the type that bears its name. Value 21 belongs to none and stays free.
@@ -78,6 +79,9 @@ public:
         MagneticSampled = 20,
         ElectricSurfaceResistance = 22
     };
+
+    /// A material of no class of the library: its type is 21, and a geometry file cannot carry it.
+    explicit Material(const QString& name) : Material(name, static_cast<MaterialType>(21)) {}
 
     virtual ~Material();
 

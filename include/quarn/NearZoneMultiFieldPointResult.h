@@ -42,6 +42,12 @@ public:
         bool collectTotalB() const { return collects(5); }
         bool collectJ() const { return collects(6); }
 
+        friend bool operator==(const Header& a, const Header& b) {
+            return std::tie(a.m_version, a.m_x, a.m_y, a.m_z, a.m_groups) ==
+                   std::tie(b.m_version, b.m_x, b.m_y, b.m_z, b.m_groups);
+        }
+        friend bool operator!=(const Header& a, const Header& b) { return !(a == b); }
+
     private:
         friend class NearZoneMultiFieldPointResult;
 

@@ -12,7 +12,7 @@ namespace quarn {
 class DelimManager;
 
 /// A request for a thermal calculation after the run: how much the absorbed power raises the temperature in a region of
-/// the grid, until a steady state or for a number of timesteps. Temperatures are in K, powers in W, times in s.
+/// the grid, until a steady state or for a number of timesteps. Numbers are in the engine's units.
 class QUARN_EXPORT TemperatureRiseRequest {
 public:
     enum Plane : std::int32_t { XY = 0, YZ = 1, ZX = 2 };

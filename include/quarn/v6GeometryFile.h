@@ -39,8 +39,8 @@ public:
     /// zero or the default of the class.
     ///
     /// False when the version is neither 3 nor any with the minor number 19, when the mesh is undefined, when a number
-    /// cannot be read, or when the grid refuses (Grid::initialize). `errors` then says which, and grid, materials and
-    /// maps are as they were.
+    /// cannot be read, when the axes have more than 2^22 cells together, or when the grid refuses (Grid::initialize).
+    /// `errors` then says which, and grid, materials and maps are as they were.
     bool load(const QString& path, QTextStream& stream, Grid* grid, QStringList& errors);
     bool loadFromStream(QTextStream& stream, Grid* grid, QStringList& errors);
 

@@ -1,6 +1,7 @@
 #include "quarn/DataFileReader.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "blocktext/OwnedStream.h"
 #include "quarn/BinaryFile.h"
@@ -30,7 +31,8 @@ long DataFileReader::bytesLeft() {
     const long position = tell();
     if (position < 0 || !stream::seek(m_file, 0, SEEK_END)) return 0;
     const long end = tell();
-    return seek(position) ? std::max(end - position, 0L) : 0;
+    constexpr long endless = std::numeric_limits<long>::max();  // what a directory says, which opens like a file
+    return seek(position) && end != endless ? std::max(end - position, 0L) : 0;
 }
 
 bool DataFileReader::seek(long offset) { return stream::seek(m_file, offset, SEEK_SET); }

@@ -64,7 +64,10 @@ struct MaterialText<ElectricAnisotropic> {
         return std::tuple(tensorLines("conductivity"_key, &M::m_conductivity),
                           tensorLines("permittivity"_key, &M::m_relativePermittivity));
     }
-    static M blank(const QString& label) { return {label, {}, {}}; }
+    static M blank(const QString& label) {
+        constexpr float zero[3][3] = {};
+        return {label, zero, zero};
+    }
 };
 
 template <>

@@ -8,7 +8,7 @@ namespace {
 
 std::array<float, 3> perAxis(const float* values) { return {values[0], values[1], values[2]}; }
 
-std::array<std::array<float, 3>, 3> tensor(const float (&rows)[3][3]) {
+std::array<std::array<float, 3>, 3> tensor(const float (*rows)[3]) {
     return {perAxis(rows[0]), perAxis(rows[1]), perAxis(rows[2])};
 }
 
@@ -45,13 +45,18 @@ bool ElectricNormal::operator==(const Material& other) const {
                    &ElectricNormal::m_conductivityQuadraticTempCoef);
 }
 
-ElectricSampled::ElectricSampled(const QString& name, const std::vector<Parameters>& parameters)
-    : Material(name, Material::ElectricSampled), m_parameters(parameters) {}
+ElectricSampled::ElectricSampled(const QString& name, const std::vector<Parameters>& parameters,
+                                 bool useSurfaceConductivity, bool useLossTangent, bool useComplex)
+    : Material(name, Material::ElectricSampled),
+      m_parameters(parameters),
+      m_useSurfaceConductivity(useSurfaceConductivity),
+      m_useLossTangent(useLossTangent),
+      m_useComplex(useComplex) {}
 
 bool ElectricSampled::operator==(const Material& other) const { return isEqual(*this, other); }
 
-ElectricAnisotropic::ElectricAnisotropic(const QString& name, const float (&conductivity)[3][3],
-                                         const float (&permittivity)[3][3])
+ElectricAnisotropic::ElectricAnisotropic(const QString& name, const float (*conductivity)[3],
+                                         const float (*permittivity)[3])
     : Material(name, Material::ElectricAnisotropic),
       m_conductivity(tensor(conductivity)),
       m_relativePermittivity(tensor(permittivity)) {}

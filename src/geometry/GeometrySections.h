@@ -29,6 +29,9 @@ struct GeometryContents {
     std::array<GridAxis, 3> gridAxes;
 };
 
+/// The numbers in a file count the built-in materials, whose blocks are not read: they come first.
+void addBuiltInMaterials(GeometryContents& contents);
+
 bool writeMaterials(DelimManager& delim, const std::vector<Material*>& electric,
                     const std::vector<Material*>& magnetic);
 bool readMaterials(DelimManager& delim, GeometryContents& contents);

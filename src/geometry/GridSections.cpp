@@ -15,6 +15,11 @@ namespace {
 namespace key {
 constexpr auto GridDefinition = "GridDefinition"_key;
 constexpr auto GridOriginInMeters = "GridOriginInMeters"_key;
+constexpr auto BaseCellSize = "BaseCellSize"_key;
+constexpr auto TargetSizeOfGridInMeters = "TargetSizeOfGridInMeters"_key;
+constexpr auto OffsetX = "OffsetX"_key;
+constexpr auto OffsetY = "OffsetY"_key;
+constexpr auto OffsetZ = "OffsetZ"_key;
 constexpr auto Deltas = "Deltas"_key;
 }  // namespace key
 
@@ -71,6 +76,14 @@ bool readRuns(DelimManager& delim, Grid::Runs& runs) {
     return isRead;
 }
 
+// Reads over the words behind a key that says nothing that the grid needs.
+auto onWords(QLatin1String key, int count) {
+    return onWord(key, [count](QTextStream& in) {
+        QString word;
+        for (int i = 0; i < count; ++i) readWord(in, word);
+    });
+}
+
 }  // namespace
 
 void writeGridDefinition(DelimManager& delim, const Grid& grid) {
@@ -79,15 +92,23 @@ void writeGridDefinition(DelimManager& delim, const Grid& grid) {
     for (const AxisText& axis : axes) putLine(delim, axis.numberOfCells, (grid.*axis.getNumberOfCells)());
 }
 
-// The other keys that files have here, such as "BaseCellSize" and "OffsetX", say nothing that the grid needs.
 bool readGridDefinition(DelimManager& delim, GeometryContents& contents) {
     auto& [x, y, z] = contents.gridAxes;
+    const auto readUnused = [](QTextStream& in) {
+        float width = 0.0F, depth = 0.0F, height = 0.0F;
+        return readAll(in, width, depth, height);
+    };
     const auto readOrigin = [&x = x, &y = y, &z = z](QTextStream& in) {
         return readAll(in, x.origin, y.origin, z.origin);
     };
     return walkBlock(delim,
                      Unknown::DropLine,
                      onWord(key::GridOriginInMeters, readOrigin),
+                     onWord(key::BaseCellSize, readUnused),
+                     onWords(key::TargetSizeOfGridInMeters, 3),
+                     onWords(key::OffsetX, 1),
+                     onWords(key::OffsetY, 1),
+                     onWords(key::OffsetZ, 1),
                      onCount(axes[0].numberOfCells, x.cells),
                      onCount(axes[1].numberOfCells, y.cells),
                      onCount(axes[2].numberOfCells, z.cells));

@@ -137,8 +137,12 @@ bool MagneticNonlinear::operator==(const Material& other) const {
                    &MagneticNonlinear::m_b2Dot);
 }
 
-MagneticSampled::MagneticSampled(const QString& name, const std::vector<Parameters>& parameters)
-    : Material(name, Material::MagneticSampled), m_parameters(parameters) {}
+MagneticSampled::MagneticSampled(const QString& name, const std::vector<Parameters>& parameters, bool useLossTangent,
+                                 bool useComplex)
+    : Material(name, Material::MagneticSampled),
+      m_parameters(parameters),
+      m_useLossTangent(useLossTangent),
+      m_useComplex(useComplex) {}
 
 bool MagneticSampled::operator==(const Material& other) const { return isEqual(*this, other); }
 

@@ -42,13 +42,13 @@ bool PhysicalParameters::streamIn(DelimManager& delim) {
 }
 
 bool PhysicalParameters::streamOut(DelimManager& delim, const QString& label) const {
-    const WrittenBlock block(delim, key::PhysicalParameters, label);
+    WrittenBlock block(delim, key::PhysicalParameters, label);
     putLine(delim, key::density, m_density);
     putLine(delim, key::heatCapacity, m_heatCapacity);
     putLine(delim, key::thermalConductivity, m_thermalConductivity);
     putLine(delim, key::perfussionByBlood, m_perfussionByBlood);
     putLine(delim, key::metabolicHeat, m_metabolicHeat);
-    return isOk(delim);
+    return block.end();
 }
 
 bool operator==(const PhysicalParameters& a, const PhysicalParameters& b) {

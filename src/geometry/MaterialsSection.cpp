@@ -43,14 +43,6 @@ bool readMaterial(DelimManager& delim, const QString& label, Materials& material
     return isRead;
 }
 
-// The numbers in the file count the built-in materials, whose blocks are not read.
-void addBuiltInMaterials(GeometryContents& contents) {
-    contents.electricMaterials.push_back(std::make_unique<ElectricFreeSpace>("ElectricFreeSpace"));
-    contents.electricMaterials.push_back(std::make_unique<ElectricPerfectConductor>("ElectricPerfectConductor"));
-    contents.magneticMaterials.push_back(std::make_unique<MagneticFreeSpace>("MagneticFreeSpace"));
-    contents.magneticMaterials.push_back(std::make_unique<MagneticPerfectConductor>("MagneticPerfectConductor"));
-}
-
 template <class... Electric, class... Magnetic>
 bool readBlocks(DelimManager& delim, GeometryContents& contents, KindList<Electric...>, KindList<Magnetic...>) {
     return walkBlock(delim,
@@ -66,6 +58,13 @@ bool readBlocks(DelimManager& delim, GeometryContents& contents, KindList<Electr
 
 }  // namespace
 
+void addBuiltInMaterials(GeometryContents& contents) {
+    contents.electricMaterials.push_back(std::make_unique<ElectricFreeSpace>("ElectricFreeSpace"));
+    contents.electricMaterials.push_back(std::make_unique<ElectricPerfectConductor>("ElectricPerfectConductor"));
+    contents.magneticMaterials.push_back(std::make_unique<MagneticFreeSpace>("MagneticFreeSpace"));
+    contents.magneticMaterials.push_back(std::make_unique<MagneticPerfectConductor>("MagneticPerfectConductor"));
+}
+
 bool writeMaterials(DelimManager& delim, const std::vector<Material*>& electric,
                     const std::vector<Material*>& magnetic) {
     const WrittenBlock block(delim, key::materials);
@@ -74,7 +73,6 @@ bool writeMaterials(DelimManager& delim, const std::vector<Material*>& electric,
 
 // A block of a built-in material is skipped as one that is not known, and so are blocks of kinds that are no more.
 bool readMaterials(DelimManager& delim, GeometryContents& contents) {
-    if (contents.electricMaterials.empty()) addBuiltInMaterials(contents);
     return readBlocks(delim, contents, ElectricMaterials(), MagneticMaterials());
 }
 

@@ -74,9 +74,13 @@ bool readFileStart(QTextStream& in, QStringList& errors) {
     return true;
 }
 
+// A file that claims more cells than any grid has must not cost the memory for them.
 bool initialize(Grid& grid, const GeometryContents& contents, QStringList& errors) {
+    constexpr std::uint64_t mostCells = 1U << 22;
     const auto& [x, y, z] = contents.gridAxes;
-    if (grid.initialize(x.cells, y.cells, z.cells, x.origin, y.origin, z.origin, x.runs, y.runs, z.runs, true)) {
+    const std::uint64_t cells = std::uint64_t{x.cells} + y.cells + z.cells;
+    if (cells <= mostCells &&
+        grid.initialize(x.cells, y.cells, z.cells, x.origin, y.origin, z.origin, x.runs, y.runs, z.runs, true)) {
         return true;
     }
     errors << refusedGrid;
@@ -122,6 +126,7 @@ bool v6GeometryFile::load(const QString& path, QTextStream& stream, Grid* grid, 
     WholeText text(stream);
     if (!readFileStart(text.stream(), errors)) return false;
     GeometryContents contents;
+    addBuiltInMaterials(contents);
     DelimManager delim(text.stream(), path);
     if (!readBlocks(delim, contents, errors)) return false;
     if (grid && !initialize(*grid, contents, errors)) return false;

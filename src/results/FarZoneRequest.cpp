@@ -41,7 +41,8 @@ bool FarZoneRequest::StreamIn(DelimManager& delim) {
               onWord(key::Angle,
                      [this](QTextStream& in) {
                          Angle angle;
-                         if (readValue(in, angle.theta) && readValue(in, angle.phi)) m_angles.push_back(angle);
+                         readAll(in, angle.theta, angle.phi);
+                         m_angles.push_back(angle);
                      }),
               onText(key::OutputFileName, m_outputFileName));
     return isOk(delim);

@@ -163,7 +163,7 @@ bool FieldsOnSSFarZoneBox::readFace(DataFileReader& reader, FarZoneBox::Face fac
 }
 
 bool FieldsOnSSFarZoneBox::setupImageFields(const Grid& grid) const {
-    if (!m_box.useImage()) return true;
+    if (!m_box.isValid() || !m_box.useImage()) return true;
     if (!m_isComplete || !isIn(grid)) return false;
     const FarZoneBox::Face face = m_box.getImageFace();
     const auto [lower, upper, center] = spansOf(m_box)[face % numAxes];

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 
@@ -25,8 +26,11 @@ FileReplacement::FileReplacement(const QString& target) : m_target(resolveLongPa
     const QFileInfo earlier(m_target);
     if (earlier.exists() && !earlier.isFile()) return;
     if (earlier.exists() && earlier.isSymLink()) m_target = earlier.canonicalFilePath();
+    // No longer than the target where that has a name of some length: paths may be as long as they can be.
+    constexpr int lengthOfEnding = 5;
+    const int spare = std::min(QFileInfo(m_target).fileName().size() - 1, lengthOfEnding);
     for (int i = 0; m_path == m_target || QFileInfo::exists(m_path); ++i) {
-        m_path = m_target + QLatin1String(".new") + QString::number(i);
+        m_path = m_target.chopped(spare) + QLatin1String(".new") + QString::number(i);
     }
 }
 

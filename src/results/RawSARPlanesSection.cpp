@@ -37,7 +37,7 @@ bool readRawSARPlanes(DelimManager& delim, std::vector<SARPlane*>& list) {
     const bool onlyPlanes = walkBlock(delim, Unknown::Stop, onWord(key::Plane, [&](QTextStream& in) {
                                           QString name;
                                           unsigned index = 0;
-                                          if (!readAll(in, name, index)) return;
+                                          readAll(in, name, index);
                                           auto plane = std::make_unique<SARPlane>(
                                               valueOf(planeNames, QStringView(name), SARPlane::XY), index);
                                           list.push_back(plane.get());

@@ -74,7 +74,7 @@ SARAveragingRequest::SARAveragingRequest(bool compute1gAverage, bool compute10gA
 
 // A plane is called by its normal here.
 bool SARAveragingRequest::streamOut(DelimManager& delim) const {
-    const WrittenBlock block(delim, key::SARAveraging);
+    WrittenBlock block(delim, key::SARAveraging);
     putFlag(delim, key::average_one_gram, m_compute1gAverage);
     putFlag(delim, key::average_ten_grams, m_compute10gAverage);
     putFlag(delim, key::automatic_subregion, m_useAutomaticSubregion);
@@ -89,7 +89,7 @@ bool SARAveragingRequest::streamOut(DelimManager& delim) const {
     putFlag(delim, key::outside_region_treated_as_air, m_treatDataOutsideAsAir);
     writeMaterials(delim, m_materialsToUse);
     putLine(delim, key::outputAveragedFileName, m_outputAveragedFileName);
-    return isOk(delim);
+    return block.end();
 }
 
 SARAveragingRequest::SARAveragingRequest(DelimManager& delim) : m_outputAveragedFileName(QStringLiteral("project")) {

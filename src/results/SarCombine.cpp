@@ -29,7 +29,7 @@ public:
     Combination(const QString& output, QString& error, QString& warning)
         : m_output(output), m_error(error), m_warning(warning) {}
 
-    bool run(const QStringList& names) { return inspect(names) && checkParts() && write(); }
+    bool run(const QStringList& names) { return inspect(names) && countRecords() && write(); }
 
 private:
     // Every partial file that exists, all of one plane.
@@ -48,13 +48,14 @@ private:
         return true;
     }
 
-    bool checkParts() {
+    // More records than one file can have are most likely those that a damaged part claims.
+    bool countRecords() {
         std::int64_t total = 0;
-        for (const PartialFile& part : m_parts) {
-            if (!part.complete) return corrupt(part.name);
-            total += part.numRecords;
-        }
-        if (m_parts.empty() || total > std::numeric_limits<int>::max()) return creationFailed();
+        for (const PartialFile& part : m_parts) total += part.numRecords;
+        const bool fits = total <= std::numeric_limits<int>::max();
+        const auto damaged = std::find_if(m_parts.begin(), m_parts.end(), [](auto& part) { return !part.complete; });
+        if (!fits && damaged != m_parts.end()) return corrupt(damaged->name);
+        if (!fits || m_parts.empty()) return creationFailed();
         m_numRecords = static_cast<int>(total);
         return true;
     }

@@ -67,7 +67,7 @@ const std::array<TemperatureRiseRequest::Medium, 4> TemperatureRiseRequest::medi
 }};
 
 bool TemperatureRiseRequest::streamOut(DelimManager& delim) const {
-    const WrittenBlock block(delim, key::TemperatureRiseRequest);
+    WrittenBlock block(delim, key::TemperatureRiseRequest);
     for (const Medium& medium : media) (this->*medium.parameters).streamOut(delim, medium.label);
     putFlag(delim, key::load_whole_space, m_loadWholeSpace);
     putFlag(delim, key::keep_initial_temperatures, m_keepNonSARTemperatureFiles);
@@ -86,7 +86,7 @@ bool TemperatureRiseRequest::streamOut(DelimManager& delim) const {
     putLine(delim, key::requested_delta_time, m_requestedDeltaTime);
     putLine(delim, key::maximum_number_of_timesteps, m_maximumNumberOfTimesteps);
     putBounds(delim, m_lowerBound, m_upperBound);
-    return isOk(delim);
+    return block.end();
 }
 
 TemperatureRiseRequest::TemperatureRiseRequest(DelimManager& delim) {

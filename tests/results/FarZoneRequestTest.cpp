@@ -65,7 +65,7 @@ const Reading readings[] = {
     {"lines_in_any_order", "Angle 1 2;OutputFileName  a b.fz ;Angle 3e-1 -4;", {{1, 2}, {0.3F, -4}}, "a b.fz"},
     {"unknown_words_one_by_one", "Colour Angle 1 2;Angle 5 6 7;angle 8 9;", {{1, 2}, {5, 6}}, ""},
     {"inner_blocks_as_words", "Angle 1 2;Angle{OutputFileName x;}Angle 3 4;", {{1, 2}, {3, 4}}, "x"},
-    {"up_to_a_broken_angle", "Angle 1 2;Angle 3 x;Angle 5 6;", {{1, 2}}, ""},
+    {"up_to_a_broken_angle", "Angle 1 2;Angle 3 x;Angle 5 6;", {{1, 2}, {3, 0}}, ""},
 };
 INSTANTIATE_TEST_SUITE_P(rows, FarZoneRequestReads, testing::ValuesIn(readings), rowName<Reading>);
 
