@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "MemoryBound.h"
 #include "quarn/DelimManager.h"
 
 namespace {
@@ -65,6 +66,7 @@ Outcome perform(quarn::DelimManager& delim, std::uint8_t operation) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const fuzz::MemoryBound bound(size);
     constexpr std::size_t longestScript = 16;
     const std::size_t operations = std::min(size / 4, longestScript);
     const auto text =

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "MemoryBound.h"
 #include "quarn/BoundaryConditions.h"
 #include "quarn/FieldsOnSSFarZoneBox.h"
 #include "quarn/Grid.h"
@@ -35,6 +36,7 @@ quarn::FarZoneBox boxIn(const quarn::Grid& grid, bool hasPlane) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const fuzz::MemoryBound bound(size);
     quarn::Grid grid;
     require(grid.initialize(11, 11, 11, 0, 0, 0, {{0, 0.01F}}, {{0, 0.01F}, {5, 0.02F}}, {{0, 0.01F}}, true));
     QString problem;

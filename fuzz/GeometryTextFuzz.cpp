@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "MemoryBound.h"
 #include "quarn/quarn.h"
 
 namespace {
@@ -34,6 +35,7 @@ QString saved(const quarn::v6GeometryFile& file, const quarn::Grid& grid) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const fuzz::MemoryBound bound(size);
     const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size));
     QTextStream input(bytes);
     QStringList errors;

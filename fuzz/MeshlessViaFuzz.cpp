@@ -6,9 +6,11 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "MemoryBound.h"
 #include "quarn/MeshlessVia.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const fuzz::MemoryBound bound(size);
     const std::string bytes(reinterpret_cast<const char*>(data), size);
     std::istringstream input(bytes);
     std::vector<quarn::MeshlessVia> vias(1);

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "MemoryBound.h"
 #include "quarn/NSMACutPlane.h"
 
 namespace {
@@ -26,6 +27,7 @@ void checkSamples(const quarn::NSMACutPlane& cut) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const fuzz::MemoryBound bound(size);
     QTextStream input(QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size)));
     const int gainMode = static_cast<int>(size % 4);
     while (!input.atEnd()) {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "MemoryBound.h"
 #include "quarn/BoundaryConditions.h"
 #include "quarn/v6ProjectFile.h"
 
@@ -41,6 +42,7 @@ void require(bool holds) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const fuzz::MemoryBound bound(size);
     const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size));
     QTextStream device(bytes);
     device.setCodec("UTF-8");

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "FuzzFiles.h"
+#include "MemoryBound.h"
 #include "quarn/quarn.h"
 
 namespace {
@@ -70,6 +71,7 @@ constexpr void (*checks[])(const QByteArray& bytes){
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const fuzz::MemoryBound bound(size);
     if (size == 0) return 0;
     const QByteArray bytes(reinterpret_cast<const char*>(data) + 1, static_cast<int>(size) - 1);
     fuzz::put("in", bytes);

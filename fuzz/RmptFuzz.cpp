@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "FuzzFiles.h"
+#include "MemoryBound.h"
 #include "quarn/MultiPointResultDeleter.h"
 #include "quarn/MultiPointResultReader.h"
 
@@ -50,6 +51,7 @@ void readSteady(Reader& reader, Result::SteadyGroup group, const QByteArray& fil
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const fuzz::MemoryBound bound(size);
     fuzz::Pieces pieces(data, size);
     fuzz::put("b_info.bin", pieces.next());
     fuzz::put("b_geom.bin", pieces.next());

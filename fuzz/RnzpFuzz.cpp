@@ -4,12 +4,14 @@
 #include <memory>
 
 #include "FuzzFiles.h"
+#include "MemoryBound.h"
 #include "quarn/NearZoneMultiFieldPointResult.h"
 
 using fuzz::require;
 using quarn::NearZoneMultiFieldPointResult;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const fuzz::MemoryBound bound(size);
     using Stream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
     if (size == 0) return 0;
     QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));

@@ -2,6 +2,7 @@
 // fails says so and changes no file.
 
 #include "FuzzFiles.h"
+#include "MemoryBound.h"
 #include "quarn/SarResult.h"
 
 namespace {
@@ -30,6 +31,7 @@ void readAll(const char* name) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const fuzz::MemoryBound bound(size);
     fuzz::Pieces pieces(data, size);
     const QByteArray first = pieces.next();
     fuzz::put("a", first);

@@ -3,6 +3,7 @@
 build_packages=(cmake g++ ninja-build qtbase5-dev)
 test_packages=("${build_packages[@]}" libbenchmark-dev libgmock-dev libgtest-dev)
 fuzz_packages=("${build_packages[@]}" clang libclang-rt-14-dev llvm)  # llvm: names and lines in the findings
+lint_packages=(clang-tidy cppcheck)
 
 # need_packages NAME...: installs those that are missing; silent when none is.
 need_packages() {

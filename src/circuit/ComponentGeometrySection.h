@@ -9,7 +9,7 @@ namespace quarn {
 
 class DelimManager;
 
-void writePoint(DelimManager& delim, QLatin1String block, const tavrix::Cartesian3D& point);
+void writePoint(DelimManager& delim, QLatin1String name, const tavrix::Cartesian3D& point);
 
 /// Reads what follows the open line; coordinates that the block does not give are zero.
 tavrix::Cartesian3D readPoint(DelimManager& delim);

@@ -102,6 +102,7 @@ std::unique_ptr<WaveGuidePortManager> readWaveGuidePorts(DelimManager& delim) {
     std::vector<std::unique_ptr<WaveGuidePort>> ports;
     walkBlock(delim, Unknown::DropLine, onBlock(key::PortData, [&] { ports.push_back(readPort(delim)); }));
     std::vector<WaveGuidePort*> pointers;
+    pointers.reserve(ports.size());
     for (const auto& port : ports) pointers.push_back(port.get());
     auto manager = std::make_unique<WaveGuidePortManager>(pointers);
     for (auto& port : ports) static_cast<void>(port.release());

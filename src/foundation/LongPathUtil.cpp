@@ -42,7 +42,7 @@ QString toLongPathText(QString path, bool addPrefix) {
 
 QString resolveLongPath(const QString& path, bool addPrefix) {
     if (!supportsLongPaths()) return path;
-    const QString absolute = absolutePath(withoutLongPathPrefix(path));
+    QString absolute = absolutePath(withoutLongPathPrefix(path));
 #ifdef Q_OS_WIN
     return toLongPathText(absolute, addPrefix);
 #else

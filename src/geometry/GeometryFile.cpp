@@ -41,6 +41,7 @@ Material* copied(const Material* material, std::vector<std::unique_ptr<PhysicalP
 template <class T>
 std::vector<T*> released(std::vector<std::unique_ptr<T>>& objects) {
     std::vector<T*> result;
+    result.reserve(objects.size());
     for (auto& object : objects) result.push_back(object.release());
     return result;
 }

@@ -27,8 +27,8 @@ bool readMultiPointFieldRequest(DelimManager& delim, MultiPointFieldRequest& req
 
 /// Without planes nothing is written. The caller owns the planes that a reader appends; it stops at the first line that
 /// is no plane and keeps those before.
-bool writeRawSARPlanes(DelimManager& delim, const std::vector<SARPlane*>& planes);
-bool readRawSARPlanes(DelimManager& delim, std::vector<SARPlane*>& planes);
+bool writeRawSARPlanes(DelimManager& delim, const std::vector<SARPlane*>& list);
+bool readRawSARPlanes(DelimManager& delim, std::vector<SARPlane*>& list);
 
 /// Without requests nothing is written. The reader appends.
 bool writeFarZoneRequests(DelimManager& delim, const std::vector<FarZoneRequest>& steadyState,
