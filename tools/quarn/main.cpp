@@ -18,13 +18,13 @@ struct Subcommand {
 };
 
 constexpr Subcommand subcommands[] = {
-    {"check", "Checks project files and names each line that would be lost", runCheck},
+    {"check", "Checks project and geometry files and names each line that would be lost", runCheck},
     {"show", "Says what files are and what they hold", runShow},
     {"rewrite", "Loads a file and saves it in its canonical form", runRewrite},
     {"export", "Writes what a result file holds as CSV", runExport},
     {"sar", "Joins partial files of a SAR plane", runSar},
     {"farzone", "Computes far fields from the fields on a far-zone box", runFarZone},
-    {"demo", "Builds, saves and reads back example projects", runDemo},
+    {"demo", "Takes example runs through the whole path, one to its far field", runDemo},
 };
 
 void printHelp() {
