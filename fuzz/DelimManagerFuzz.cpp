@@ -4,9 +4,9 @@
 #include <QTextStream>
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 
 #include "MemoryBound.h"
+#include "Require.h"
 #include "quarn/DelimManager.h"
 
 namespace {
@@ -78,7 +78,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     quarn::DelimManager fromString(overString, QString());
     quarn::DelimManager fromDevice(overDevice, QString());
     for (std::size_t i = 0; i < operations; ++i) {
-        if (!(perform(fromString, data[i]) == perform(fromDevice, data[i]))) std::abort();
+        fuzz::require(perform(fromString, data[i]) == perform(fromDevice, data[i]));
     }
     return 0;
 }

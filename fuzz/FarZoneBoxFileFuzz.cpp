@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 
 #include "MemoryBound.h"
+#include "Require.h"
 #include "quarn/BoundaryConditions.h"
 #include "quarn/FieldsOnSSFarZoneBox.h"
 #include "quarn/Grid.h"
@@ -15,9 +15,7 @@
 
 namespace {
 
-void require(bool holds) {
-    if (!holds) std::abort();
-}
+using fuzz::require;
 
 QString write(const std::uint8_t* data, std::size_t size) {
     static const QTemporaryDir folder;

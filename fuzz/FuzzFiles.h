@@ -8,14 +8,11 @@
 #include <QTemporaryDir>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
+
+#include "Require.h"
 
 /// What harnesses of file formats share: the files of one input, in one temporary folder.
 namespace fuzz {
-
-inline void require(bool holds) {
-    if (!holds) std::abort();
-}
 
 inline const QTemporaryDir& folder() {
     static const QTemporaryDir result;

@@ -1,17 +1,20 @@
-// Any bytes as a geometry file: loading, copying and saving end, and leave nothing behind; and what was saved is loaded
-// and saved as it is.
+// Any bytes as a geometry file: loading, copying and saving end, and leave nothing behind. A stream over a device gives
+// what one over a string gives, and what was saved is loaded and saved as it is.
 
 #include <QStringList>
 #include <QTextStream>
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 
 #include "MemoryBound.h"
+#include "Require.h"
+#include "TextStreams.h"
 #include "quarn/quarn.h"
 
 namespace {
+
+using fuzz::require;
 
 // Large grids are legal and would take most of the time.
 class SmallGrid : public quarn::Grid {
@@ -25,26 +28,39 @@ public:
     }
 };
 
-QString saved(const quarn::v6GeometryFile& file, const quarn::Grid& grid) {
-    QString text;
-    QTextStream stream(&text, QIODevice::WriteOnly);
-    if (!file.saveToStream(grid, stream)) std::abort();
-    return text;
-}
+struct Geometry {
+    explicit Geometry(QTextStream& input) : isLoaded(file.loadFromStream(input, &grid, errors)) {
+        require(errors.size() == (isLoaded ? 0 : 1));
+    }
+
+    QString saved() const {
+        const quarn::v6GeometryFile copy(file);
+        QString text;
+        QTextStream stream(&text, QIODevice::WriteOnly);
+        require(copy.saveToStream(grid, stream));
+        return text;
+    }
+
+    quarn::v6GeometryFile file;
+    SmallGrid grid;
+    QStringList errors;
+    bool isLoaded;
+};
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const fuzz::MemoryBound bound(size);
-    const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size));
-    QTextStream input(bytes);
-    QStringList errors;
-    quarn::v6GeometryFile file;
-    SmallGrid grid;
-    if (!file.loadFromStream(input, &grid, errors)) return errors.size() == 1 ? 0 : (std::abort(), 1);
-    const quarn::v6GeometryFile copy(file);
-    QString text = saved(copy, grid);
-    QTextStream again(&text, QIODevice::ReadOnly);
-    if (!file.loadFromStream(again, &grid, errors) || saved(file, grid) != text) std::abort();
+    const QByteArray bytes = fuzz::bytesOf(data, size);
+    fuzz::TwoStreams streams(bytes);
+    const Geometry geometry(streams.overDevice), fromString(streams.overString);
+    if (!geometry.isLoaded) return 0;
+    QString saved = geometry.saved();
+    if (!fuzz::endsInsideCharacter(bytes)) require(fromString.isLoaded && fromString.saved() == saved);
+    if (fuzz::hasMarkInValue(saved)) return 0;
+
+    QTextStream again(&saved, QIODevice::ReadOnly);
+    const Geometry reloaded(again);
+    require(reloaded.isLoaded && reloaded.saved() == saved);
     return 0;
 }

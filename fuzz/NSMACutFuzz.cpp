@@ -1,19 +1,21 @@
-// Any bytes as antenna pattern cuts, one after the other: reading ends, and what was read can be looked up.
+// Any bytes as antenna pattern cuts, one after the other: reading ends, a stream over a device gives what one over a
+// string gives, and what was read can be looked up.
 
 #include <QTextStream>
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
+#include <cstring>
+#include <vector>
 
 #include "MemoryBound.h"
+#include "Require.h"
+#include "TextStreams.h"
 #include "quarn/NSMACutPlane.h"
 
 namespace {
 
-void require(bool holds) {
-    if (!holds) std::abort();
-}
+using fuzz::require;
 
 void checkSamples(const quarn::NSMACutPlane& cut) {
     require(static_cast<std::int64_t>(cut.GetSamples().size()) <= std::max(cut.GetNumberOfPoints(), 0));
@@ -24,17 +26,38 @@ void checkSamples(const quarn::NSMACutPlane& cut) {
     }
 }
 
+std::vector<quarn::NSMACutPlane> cutsIn(QTextStream& input, int gainMode) {
+    std::vector<quarn::NSMACutPlane> cuts;
+    while (!input.atEnd()) cuts.emplace_back().StreamIn(input, 2.15F, gainMode);
+    return cuts;
+}
+
+bool sameBytes(double a, double b) { return std::memcmp(&a, &b, sizeof a) == 0; }
+
+bool sameSample(const quarn::NSMACutPlane::Samples::value_type& a, const quarn::NSMACutPlane::Samples::value_type& b) {
+    return a.first == b.first && sameBytes(a.second.first, b.second.first) &&
+           sameBytes(a.second.second, b.second.second);
+}
+
+bool sameCut(const quarn::NSMACutPlane& a, const quarn::NSMACutPlane& b) {
+    const auto &ours = a.GetSamples(), &theirs = b.GetSamples();
+    return a.GetPatternCut() == b.GetPatternCut() &&
+           std::equal(ours.begin(), ours.end(), theirs.begin(), theirs.end(), sameSample);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const fuzz::MemoryBound bound(size);
-    QTextStream input(QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size)));
+    const QByteArray bytes = fuzz::bytesOf(data, size);
     const int gainMode = static_cast<int>(size % 4);
-    while (!input.atEnd()) {
-        quarn::NSMACutPlane cut;
-        cut.StreamIn(input, 2.15F, gainMode);
+    fuzz::TwoStreams streams(bytes);
+    const auto cuts = cutsIn(streams.overDevice, gainMode), fromString = cutsIn(streams.overString, gainMode);
+    for (const auto& cut : cuts) {
         checkSamples(cut);
         cut.IsOmni();
     }
+    require(fuzz::endsInsideCharacter(bytes) ||
+            std::equal(cuts.begin(), cuts.end(), fromString.begin(), fromString.end(), sameCut));
     return 0;
 }
