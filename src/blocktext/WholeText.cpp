@@ -1,11 +1,17 @@
 #include "blocktext/WholeText.h"
 
 #include <QIODevice>
+#include <QTextCodec>
 
 namespace quarn::blocktext {
 
 namespace {
 constexpr qint64 charactersInMemory = qint64(1) << 28;
+constexpr int mibOfUtf8 = 106;
+}  // namespace
+
+void decodeAsUtf8(QTextStream& stream) {
+    if (!stream.codec() || stream.codec()->mibEnum() != mibOfUtf8) stream.setCodec("UTF-8");
 }
 
 WholeText::WholeText(QTextStream& source) : m_source(source) {
@@ -16,9 +22,11 @@ WholeText::WholeText(QTextStream& source) : m_source(source) {
     }
     const QIODevice* device = source.device();
     if (!device) return;
-    const qint64 start = device->isSequential() ? 0 : source.pos();
+    // Asked for only where it is needed: a stream rereads what it has to tell where it stands.
+    const bool mayStay = !device->isSequential() && device->size() > charactersInMemory;
+    const qint64 start = mayStay ? source.pos() : 0;
     m_text = source.read(charactersInMemory);
-    m_onDevice = !source.atEnd() && !device->isSequential() && source.seek(start);
+    m_onDevice = mayStay && !source.atEnd() && source.seek(start);
     if (m_onDevice) m_text.clear();
     m_stream.setString(&m_text, QIODevice::ReadOnly);
 }

@@ -5,6 +5,10 @@
 
 namespace quarn::blocktext {
 
+/// Sets the codec of a stream that has been read from, unless it is that already: a stream rereads what it has when the
+/// codec is set, and where that is damaged may go astray.
+void decodeAsUtf8(QTextStream& stream);
+
 /// What is left of a text stream as one string in memory, under a stream of its own with the default locale and number
 /// settings. A string stream is walked where it is, and its position follows; a device stream is read to its end. A
 /// text above 2^28 characters stays on its device where that can be rewound, and is cut there where it cannot.

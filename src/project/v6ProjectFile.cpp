@@ -90,7 +90,7 @@ bool v6ProjectFile::acceptsVersionOf(QTextStream& stream, QStringList& errors) {
 
 bool v6ProjectFile::loadFromStream(QTextStream& stream, QStringList& errors) {
     if (!acceptsVersionOf(stream, errors)) return false;
-    stream.setCodec("UTF-8");
+    blocktext::decodeAsUtf8(stream);
     loadBlocks(stream, QString());
     return true;
 }

@@ -3,7 +3,6 @@
 #include <QTemporaryDir>
 #include <QTextCodec>
 #include <clocale>
-#include <random>
 #include <stdexcept>
 
 #include "TestSupport.h"
@@ -265,24 +264,13 @@ TEST(ProjectText, members_that_a_save_does_not_show) {
     EXPECT_EQ(*other.getTdAfsTerminationCriteria(), TdAfsTerminationCriteria());
 }
 
-TEST(ProjectText, damaged_files_are_loaded_as_far_as_they_go) {
-    for (int length = 0; length < golden.size(); ++length) {
-        OwningProject project;
-        load(project, golden.left(length));
-    }
-    std::mt19937 random(1);
-    const auto upTo = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
-    for (int round = 0; round < 500; ++round) {
-        QByteArray bytes = golden.mid(10).toUtf8();
-        for (int i = upTo(20); i >= 0; --i) bytes[upTo(bytes.size())] = static_cast<char>(upTo(256));
-        for (int i = upTo(4); i >= 0; --i) {  // moves a piece of the file to another place
-            const int at = upTo(bytes.size()), length = upTo(200);
-            const QByteArray piece = bytes.mid(at, length);
-            bytes.remove(at, length).insert(upTo(bytes.size()), piece);
-        }
-        OwningProject project;
-        load(project, "Version 8\n" + QString::fromUtf8(bytes));
-    }
+TEST(ProjectText, damaged_first_line_hides_nothing_behind_it) {
+    QTextStream stream("\xEC\x83\n" + expanded("FDTDProject{ Units{ Display{ Name km; } } } ").toUtf8());
+    stream.setCodec("UTF-8");
+    QStringList errors;
+    OwningProject project;
+    EXPECT_TRUE(project.loadFromStream(stream, errors));
+    EXPECT_EQ(project.getDisplayUnits().first, "km");
 }
 
 TEST(ProjectText, stream_in_error_is_reset_and_not_read) {
