@@ -23,6 +23,7 @@
 #include <tuple>
 #include <type_traits>
 
+#include "foundation/FileReplacement.h"
 #include "quarn/LongPathUtil.h"
 
 namespace quarn {
@@ -162,12 +163,13 @@ void MeshlessVia::read_binary_stream(std::vector<MeshlessVia>& vias, std::istrea
 }
 
 void MeshlessVia::write_binary(const std::vector<MeshlessVia>& vias, const std::string& path) {
-    std::ofstream file(resolveLongPath(path, true), std::ios::binary | std::ios::trunc);
+    FileReplacement replacement(resolveLongPath(path, true));
+    std::ofstream file(replacement.path(), std::ios::binary | std::ios::trunc);
     if (file) {
         write_binary_stream(vias, file);
         file.close();
     }
-    if (!file) throw std::runtime_error("Unable to write <" + path + ">");
+    if (!file || !replacement.takePlace()) throw std::runtime_error("Unable to write <" + path + ">");
 }
 
 void MeshlessVia::write_binary_stream(const std::vector<MeshlessVia>& vias, std::ostream& stream) {

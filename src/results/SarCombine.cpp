@@ -7,9 +7,9 @@
 #include <limits>
 #include <vector>
 
+#include "foundation/FileReplacement.h"
 #include "quarn/LongPathUtil.h"
 #include "quarn/SarResult.h"
-#include "results/FileReplacement.h"
 
 namespace quarn {
 
@@ -61,10 +61,10 @@ private:
     }
 
     bool write() {
-        FileReplacement file(m_output);
+        FileReplacement file(toSystemPath(resolveLongPath(m_output, true)));
         SarResultWriter writer;
         const PartialFile& first = m_parts.front();
-        if (!writer.beginResultWriting(file.path(), first.plane, first.planeIndex, m_numRecords)) {
+        if (!writer.beginResultWriting(toQtPath(file.path()), first.plane, first.planeIndex, m_numRecords)) {
             return creationFailed();
         }
         const auto copy = [&](const PartialFile& part) { return copyRecords(part, writer); };

@@ -1,9 +1,11 @@
-// Writers of every format on a disk that is full and in a folder that is not there: each says that it failed.
+// Writers of every format on a disk that is full and in folders that are not there, closed, or do not let a file be
+// replaced: each says that it failed, and those that choose how to write leave an earlier file as it was.
 
 #include <gtest/gtest.h>
 
 #include <memory>
 
+#include "Faults.h"
 #include "TestSupport.h"
 #include "project/GoldenProject.h"
 #include "quarn/quarn.h"
@@ -46,6 +48,22 @@ bool writesSarPlane(const QString& path) {
     return writer.endResultWriting() && isWritten;
 }
 
+// Made before anything stands in the way, where everybody can read it.
+const QString& sarPart() {
+    static const ResultFolder folder;
+    static const QString path = folder.path("part");
+    if (!QFile::exists(path)) {
+        EXPECT_EQ(chmod(folder.path("").toLocal8Bit(), 0755), 0);
+        EXPECT_TRUE(writesSarPlane(path));
+    }
+    return path;
+}
+
+bool combinesSarPlanes(const QString& path) {
+    QString error, warning;
+    return SarResult::combineFiles({sarPart()}, path, error, warning);
+}
+
 bool writesRecords(const QString& path) {
     DataFileWriter writer;
     bool isWritten = writer.open(path, "wb");
@@ -77,24 +95,98 @@ void PrintTo(const Writer& writer, std::ostream* out) { *out << writer.name; }
 const Writer writers[] = {
     {"project", writesProject},
     {"geometry", writesGeometry},
-    {"vias", writesVias},
     {"sar_plane", writesSarPlane},
     {"records", writesRecords},
     {"near_zone_point", writesNearZonePoint},
     {"multi_point_set", writesMultiPointSet},
 };
 
-class FailingWriter : public testing::TestWithParam<Writer> {};
+// Those that choose how to write.
+const Writer replacingWriters[] = {
+    {"vias", writesVias},
+    {"sar_combination", combinesSarPlanes},
+};
 
-TEST_P(FailingWriter, reports_it) {
-    const ResultFolder folder;
-    EXPECT_TRUE(GetParam().writes(folder.path("out"))) << "with nothing in its way";
-    EXPECT_FALSE(GetParam().writes(folder.path("no/such/folder/out")));
-    for (const char* file : {"full", "full_info.bin"}) QFile::link("/dev/full", folder.path(file));
-    EXPECT_FALSE(GetParam().writes(folder.path("full")));
+class FailingWriter : public testing::TestWithParam<Writer> {
+protected:
+    void SetUp() override {
+        sarPart();
+        ASSERT_EQ(chmod(m_folder.path("").toLocal8Bit(), 0755), 0);
+    }
+
+    bool writes(const char* name) const { return GetParam().writes(m_folder.path(name)); }
+
+    template <class Fault>
+    bool writesWith(const char* name) const {
+        const Fault fault;
+        return writes(name);
+    }
+
+    void setPermissions(const char* name, mode_t permissions) const {
+        EXPECT_EQ(chmod(m_folder.path(name).toLocal8Bit(), permissions), 0);
+    }
+
+    // Everybody may write to the file.
+    void putEarlier(const char* folder, mode_t permissions) const {
+        EXPECT_TRUE(QDir(m_folder.path("")).mkdir(folder));
+        m_folder.put(QString(folder) + "/out", "earlier");
+        setPermissions(folder, permissions);
+        setPermissions(QByteArray(folder) + "/out", 0666);
+    }
+
+    ResultFolder m_folder;
+};
+
+class ReplacingWriter : public FailingWriter {};
+
+TEST_P(FailingWriter, with_nothing_in_its_way_writes) { EXPECT_TRUE(writes("out")); }
+
+TEST_P(FailingWriter, without_a_folder_reports_it) { EXPECT_FALSE(writes("no/such/folder/out")); }
+
+TEST_P(FailingWriter, on_a_full_disk_reports_it) {
+    EXPECT_FALSE(writesWith<FullDisk>("out"));
+    for (const char* file : {"device", "device_info.bin"}) QFile::link("/dev/full", m_folder.path(file));
+    EXPECT_FALSE(writes("device"));
+}
+
+TEST_P(FailingWriter, in_a_closed_folder_reports_it) {
+    putEarlier("closed", 0555);
+    EXPECT_FALSE(writesWith<WithoutPrivileges>("closed/new"));
+    setPermissions("closed", 0755);
+}
+
+TEST_P(ReplacingWriter, keeps_an_earlier_file_that_it_has_no_room_or_no_permission_to_replace) {
+    putEarlier("closed", 0555);
+    EXPECT_FALSE(writesWith<WithoutPrivileges>("closed/out"));
+    EXPECT_EQ(m_folder.bytes("closed/out"), "earlier");
+    setPermissions("closed", 0755);
+    EXPECT_FALSE(writesWith<FullDisk>("closed/out"));
+    EXPECT_EQ(m_folder.bytes("closed/out"), "earlier");
+    EXPECT_EQ(QDir(m_folder.path("closed")).entryList(QDir::Files), QStringList("out"));
+}
+
+// In a folder of everybody's, what belongs to somebody else cannot be renamed over.
+TEST_P(ReplacingWriter, that_cannot_rename_keeps_an_earlier_file) {
+    if (geteuid() != 0) GTEST_SKIP() << "takes two users";
+    putEarlier("everybody", 01777);
+    EXPECT_TRUE(writesWith<WithoutPrivileges>("everybody/new"));
+    EXPECT_FALSE(writesWith<WithoutPrivileges>("everybody/out"));
+    EXPECT_EQ(m_folder.bytes("everybody/out"), "earlier");
+    EXPECT_EQ(QDir(m_folder.path("everybody")).entryList(QDir::Files), (QStringList{"new", "out"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(, FailingWriter, testing::ValuesIn(writers), rowName<Writer>);
+INSTANTIATE_TEST_SUITE_P(Replacing, FailingWriter, testing::ValuesIn(replacingWriters), rowName<Writer>);
+INSTANTIATE_TEST_SUITE_P(, ReplacingWriter, testing::ValuesIn(replacingWriters), rowName<Writer>);
+
+TEST(WriterOfASet, whose_folder_vanishes_reports_it_at_the_next_file) {
+    const ResultFolder folder;
+    MultiPointResultWriter writer(true, false, false, false, false, false, false, false, false, false, false);
+    ASSERT_TRUE(writer.beginResultWriting(folder.path("set"), GridIndexBoxes(std::vector<ivec3>{{1, 2, 3}})));
+    ASSERT_TRUE(QDir(folder.path("")).removeRecursively());
+    writer.beginTimestep(0);
+    EXPECT_FALSE(writer.beginTransientScatteredE());
+}
 
 }  // namespace
 }  // namespace quarn::test

@@ -3,6 +3,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "Faults.h"
 #include "quarn/Version.h"
 #include "tool/ToolFixture.h"
 
@@ -168,6 +169,18 @@ const UnusableRow unusableRows[] = {
      "This project file version is unsupported."},
 };
 INSTANTIATE_TEST_SUITE_P(, ToolRefusing, testing::ValuesIn(unusableRows), rowName<UnusableRow>);
+
+TEST_F(Tool, rewrite_on_a_full_disk_fails_and_an_earlier_output_stays) {
+    write("in", clean.toUtf8());
+    write("out", "earlier");
+    const ToolResult result = [this] {
+        const FullDisk disk;
+        return run({"rewrite", "in", "out"});
+    }();
+    EXPECT_THAT(result.err, HasSubstr("quarn: out: "));
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(read("out"), "earlier");
+}
 
 TEST_F(Tool, rewrite_that_cannot_save_says_why_and_leaves_no_output) {
     write("in", "Version 8\nbegin_<FDTDProject> \nend_<FDTDProject>\n");

@@ -1,5 +1,7 @@
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 #include <cmath>
 
 #include "CommandLine.h"
@@ -86,10 +88,15 @@ FarZoneBox boxOf(const ProjectFile& project, const QString& path, const Grid& gr
 }
 
 void writeRecords(const QString& path, const FarZoneRecords& records) {
+    const QTemporaryDir folder;
+    QFile made(folder.filePath(QStringLiteral("records")));
     DataFileWriter writer;
-    bool isWritten = writer.open(path, QStringLiteral("wb"));
+    bool isWritten = writer.open(made.fileName(), QStringLiteral("wb"));
     for (const auto& record : records) isWritten = isWritten && FarZoneSSFieldFile::writeRecord(writer, record);
-    if (!writer.close() || !isWritten) throw FileProblem(path, QStringLiteral("cannot be written"));
+    if (!writer.close() || !isWritten || !made.open(QIODevice::ReadOnly)) {
+        throw FileProblem(made.fileName(), QStringLiteral("cannot be written"));
+    }
+    writeFile(path, made.readAll());
 }
 
 void writeCsv(const QString& path, const FarZoneRecords& records, const RadiatedPower& power) {

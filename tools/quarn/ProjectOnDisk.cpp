@@ -29,7 +29,9 @@ QByteArray savedBytes(v6ProjectFile& project) {
 
 void writeFile(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
-    const bool saved = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    // A commit does not look whether what is still in the buffer could be written.
+    const bool saved =
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
     if (!saved) throw FileProblem(path, file.errorString());
 }
 

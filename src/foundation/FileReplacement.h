@@ -1,15 +1,21 @@
 #pragma once
 
-#include <QString>
+#include <filesystem>
+
+class QString;
 
 namespace quarn {
+
+/// Between the names of files in Qt and those of the system.
+std::filesystem::path toSystemPath(const QString& path);
+QString toQtPath(const std::filesystem::path& path);
 
 /// A file that is made beside the one it is to replace and takes its place once it is complete; until then, and for
 /// good if it never is, the earlier file stays as it was. What cannot be replaced, such as a device, is itself the file
 /// to write to.
 class FileReplacement {
 public:
-    explicit FileReplacement(const QString& target);
+    explicit FileReplacement(std::filesystem::path target);
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
 
@@ -17,7 +23,7 @@ public:
     ~FileReplacement();
 
     /// Of the file to write. There is none yet, unless it is the target itself.
-    const QString& path() const { return m_path; }
+    const std::filesystem::path& path() const { return m_path; }
 
     /// To be called when the file is closed. It gets the permissions of the one that it replaces.
     bool takePlace();
@@ -25,8 +31,8 @@ public:
 private:
     bool isBeside() const { return m_path != m_target; }
 
-    QString m_target;
-    QString m_path;
+    std::filesystem::path m_target;
+    std::filesystem::path m_path;
 };
 
 }  // namespace quarn

@@ -1,0 +1,51 @@
+#pragma once
+
+// What goes wrong outside the library, for as long as an object lives. Nothing may be printed meanwhile.
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+
+namespace quarn::test {
+
+/// Files can be no longer than 8 bytes, also those of processes that are started.
+class FullDisk {
+public:
+    FullDisk() {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit small{8, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit m_before{};
+};
+
+/// The administrator, for whom permissions mean nothing, is somebody else.
+class WithoutPrivileges {
+public:
+    WithoutPrivileges() {
+        if (m_before == 0 && seteuid(nobody) != 0) std::abort();
+    }
+    ~WithoutPrivileges() {
+        if (m_before == 0 && seteuid(m_before) != 0) std::abort();
+    }
+    WithoutPrivileges(const WithoutPrivileges&) = delete;
+    WithoutPrivileges& operator=(const WithoutPrivileges&) = delete;
+
+private:
+    static constexpr uid_t nobody = 65534;
+    uid_t m_before = geteuid();
+};
+
+}  // namespace quarn::test
