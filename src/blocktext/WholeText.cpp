@@ -6,7 +6,6 @@
 namespace quarn::blocktext {
 
 namespace {
-constexpr qint64 charactersInMemory = qint64(1) << 28;
 constexpr int mibOfUtf8 = 106;
 }  // namespace
 
@@ -14,7 +13,7 @@ void decodeAsUtf8(QTextStream& stream) {
     if (!stream.codec() || stream.codec()->mibEnum() != mibOfUtf8) stream.setCodec("UTF-8");
 }
 
-WholeText::WholeText(QTextStream& source) : m_source(source) {
+WholeText::WholeText(QTextStream& source, qint64 mostInMemory) : m_source(source) {
     if (source.string()) {
         m_stream.setString(source.string(), QIODevice::ReadOnly);
         m_stream.seek(source.pos());
@@ -23,9 +22,9 @@ WholeText::WholeText(QTextStream& source) : m_source(source) {
     const QIODevice* device = source.device();
     if (!device) return;
     // Asked for only where it is needed: a stream rereads what it has to tell where it stands.
-    const bool mayStay = !device->isSequential() && device->size() > charactersInMemory;
+    const bool mayStay = !device->isSequential() && device->size() > mostInMemory;
     const qint64 start = mayStay ? source.pos() : 0;
-    m_text = source.read(charactersInMemory);
+    m_text = source.read(mostInMemory);
     m_onDevice = mayStay && !source.atEnd() && source.seek(start);
     if (m_onDevice) m_text.clear();
     m_stream.setString(&m_text, QIODevice::ReadOnly);

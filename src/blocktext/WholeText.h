@@ -11,10 +11,11 @@ void decodeAsUtf8(QTextStream& stream);
 
 /// What is left of a text stream as one string in memory, under a stream of its own with the default locale and number
 /// settings. A string stream is walked where it is, and its position follows; a device stream is read to its end. A
-/// text above 2^28 characters stays on its device where that can be rewound, and is cut there where it cannot.
+/// text of more characters than `mostInMemory` stays on its device where that can be rewound, and is cut there where it
+/// cannot.
 class WholeText {
 public:
-    explicit WholeText(QTextStream& source);
+    explicit WholeText(QTextStream& source, qint64 mostInMemory = qint64(1) << 28);
     ~WholeText();
     WholeText(const WholeText&) = delete;
     WholeText& operator=(const WholeText&) = delete;

@@ -366,6 +366,8 @@ TEST(TemperatureRise, names_files_and_leaves_out_what_has_no_name) {
                                                    0);
         project.setTemperatureRiseRequest(request);
         EXPECT_EQ(request->getTemperatureDifferenceFileNameExtensionPrefix(), prefix);
+        EXPECT_EQ(request->getTemperatureDifferenceFileNameExtension(), ".trise");
+        EXPECT_EQ(request->getTemperatureStatisticsFileNameExtension(), ".temperature.statistics");
         EXPECT_EQ(requestsOf(project).contains("plane_type"), plane < 3);
         EXPECT_FALSE(requestsOf(project).contains("steady_state_type"));
         EXPECT_FALSE(requestsOf(project).contains("filename"));

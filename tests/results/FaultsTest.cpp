@@ -188,5 +188,21 @@ TEST(WriterOfASet, whose_folder_vanishes_reports_it_at_the_next_file) {
     EXPECT_FALSE(writer.beginTransientScatteredE());
 }
 
+TEST(WriterOfASet, reports_it_when_the_disk_fills_up) {
+    const ResultFolder folder;
+    MultiPointResultWriter writer(false, true, false, false, false, false, false, false, true, false, false);
+    ASSERT_TRUE(writer.beginResultWriting(folder.path("set"), GridIndexBoxes(std::vector<ivec3>{{1, 2, 3}})));
+    std::vector<bool> done;
+    {
+        const FullDisk disk;  // with room for two times and two frequencies
+        done = {writer.beginTimestep(1), writer.beginTimestep(2), writer.beginTransientTotalE()};
+        for (int i = 0; i < 3; ++i) writer.writeTransient(1, 2, 3);
+        done.push_back(writer.endTransient());
+        done.insert(done.end(), {writer.beginTimestep(3), writer.beginFrequency(1), writer.beginFrequency(2)});
+        done.push_back(writer.beginFrequency(3));
+    }
+    EXPECT_EQ(done, (std::vector<bool>{true, true, true, false, false, true, true, false}));
+}
+
 }  // namespace
 }  // namespace quarn::test

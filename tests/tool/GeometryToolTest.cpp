@@ -61,6 +61,7 @@ struct GeometryCheck {
     const char* name;
     Replacements replacements;
     std::string out;
+    friend void PrintTo(const GeometryCheck& row, std::ostream* out) { *out << row.name; }
 };
 
 class GeometryChecks : public GeometryTool, public testing::WithParamInterface<GeometryCheck> {};
