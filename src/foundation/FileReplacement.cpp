@@ -13,8 +13,15 @@ namespace {
 
 using Name = fs::path::string_type;
 
-constexpr bool isInsideCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
-constexpr bool isInsideCharacter(wchar_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
+// In UTF-8 or, where names are wide, UTF-16.
+template <class Unit>
+constexpr bool isInsideCharacter(Unit unit) {
+    if constexpr (sizeof(Unit) == 1) {
+        return (static_cast<unsigned char>(unit) & 0xC0U) == 0x80U;
+    } else {
+        return unit >= 0xDC00 && unit <= 0xDFFF;
+    }
+}
 
 // Of a file beside the target, no longer than its name where that has some length: paths may be as long as they can be.
 Name startOfNameBeside(const fs::path& target) {
