@@ -22,7 +22,7 @@ public:
     MemoryBound& operator=(const MemoryBound&) = delete;
 
 private:
-    static constexpr std::ptrdiff_t fixedPart = 96 << 20;
+    static constexpr std::ptrdiff_t fixedPart = 32 << 20;
     static constexpr std::ptrdiff_t perByte = 300;
     static constexpr std::ptrdiff_t unlimited = PTRDIFF_MAX;
 

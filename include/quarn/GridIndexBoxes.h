@@ -33,8 +33,8 @@ public:
     /// The cells of the boxes without the exclusions, and the spare points as they are. Boxes may overlap; an exclusion
     /// counts for each box in which it lies. Boxes that are excluded completely are dropped. With n boxes and
     /// exclusions the cost is of order n log^3 n at worst, besides the exceptions that come of it. Throws a
-    /// std::runtime_error if boxes overlap so much that exclusions had to be stored more than 2^24 times beyond once
-    /// for each.
+    /// std::runtime_error if boxes overlap so much that exclusions had to be stored more than 2^20 times and more than
+    /// 256 times for each box and exclusion.
     GridIndexBoxes(std::vector<Box> boxes, const std::set<ivec3>& exclusions, std::vector<ivec3> sparePoints);
 
     const std::vector<Box>& getBoxes() const { return m_boxes; }

@@ -23,7 +23,8 @@ class GridIndexBoxes;
 ///     endResultWriting
 ///
 /// Points come in the order of their numbers in the index boxes. What begins before the last of its kind was ended
-/// replaces it. Each operation is false when a file could not be opened or written.
+/// replaces it. Each operation is false when a file could not be opened or written; what a file
+/// loses that is not ended by itself is told by the next begin.
 class QUARN_EXPORT MultiPointResultWriter : public MultiPointResult {
 public:
     using MultiPointResult::MultiPointResult;
@@ -92,10 +93,12 @@ private:
     bool openFiles(Group group, const Files& files, int index);
     bool areOpen(std::size_t count) const;
     bool closeComponents(std::size_t count);
+    void abandonComponents();
 
     DataFileWriter m_timesteps;
     DataFileWriter m_frequencies;
     std::array<DataFileWriter, 6> m_components;  ///< in the order of Component or of Part
+    bool m_nothingLost = true;
     int m_timestep = -1;
     int m_frequency = -1;
 };

@@ -31,16 +31,15 @@ QStringView nameInBrackets(QStringView line) {
 // Only the CR of a CR LF is escaped, and the LF still breaks the line: the format is lopsided here.
 QString escaped(QString description) { return description.replace(QLatin1String("\r\n"), QLatin1String("\\r\n")); }
 
-QString unescaped(QString description) {
-    for (int at = description.indexOf(u'\\'); at >= 0; at = description.indexOf(u'\\', at)) {
-        const QChar next = at + 1 < description.size() ? description[at + 1] : QChar();
-        if (next == u'r' || next == u'n') {
-            description.replace(at, 2, next == u'r' ? u'\r' : u'\n');
-        } else {
-            ++at;
-        }
+QString unescaped(QStringView description) {
+    QString text;
+    for (qsizetype i = 0; i < description.size(); ++i) {
+        const QChar next = description[i] == u'\\' && i + 1 < description.size() ? description[i + 1] : QChar();
+        const bool isEscape = next == u'r' || next == u'n';
+        text += isEscape ? QChar(next == u'r' ? u'\r' : u'\n') : description[i];
+        if (isEscape) ++i;
     }
-    return description;
+    return text;
 }
 
 }  // namespace
@@ -187,7 +186,7 @@ bool DelimManager::readDescriptionAfterOpenLine(QString& description) {
         return m_stream->status() == QTextStream::Ok;
     }
     const QStringView text = line.mid(descriptionMark.size()).trimmed();
-    description = unescaped(text.mid(qMin(text.size(), qsizetype(descriptionMark.size()))).toString());
+    description = unescaped(text.mid(qMin(text.size(), qsizetype(descriptionMark.size()))));
     return true;
 }
 

@@ -2,6 +2,8 @@
 
 #include <QFile>
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <string>
 #include <system_error>
 
@@ -32,6 +34,27 @@ Name startOfNameBeside(const fs::path& target) {
     return name.substr(0, length);
 }
 
+std::FILE* open(const fs::path& path, const char* mode) {
+#ifdef Q_OS_WIN
+    return _wfopen(path.c_str(), fs::path(mode).c_str());
+#else
+    return std::fopen(path.c_str(), mode);
+#endif
+}
+
+bool opens(const fs::path& path, const char* mode) {
+    std::FILE* const file = open(path, mode);
+    return file && std::fclose(file) == 0;
+}
+
+bool isWritableFile(const fs::path& path) {
+    std::error_code failure;
+    return fs::is_regular_file(path, failure) && opens(path, "r+b");
+}
+
+// By this call: false with EEXIST when the file was there, even as a link to nothing.
+bool isMade(const fs::path& path) { return opens(path, "wbx"); }
+
 }  // namespace
 
 fs::path toSystemPath(const QString& path) {
@@ -52,15 +75,14 @@ QString toQtPath(const fs::path& path) {
 
 FileReplacement::FileReplacement(fs::path target) : m_target(std::move(target)), m_path(m_target) {
     std::error_code failure;
-    const bool hasEarlier = fs::exists(m_target, failure);
-    if (!m_target.has_filename() || (hasEarlier && !fs::is_regular_file(m_target, failure))) return;
-    if (hasEarlier && fs::is_symlink(m_target, failure)) {
+    if (fs::is_symlink(m_target, failure)) {
         const fs::path linked = fs::canonical(m_target, failure);
         if (failure) return;
         m_target = m_path = linked;
     }
+    if (!m_target.has_filename() || (fs::exists(m_target, failure) && !isWritableFile(m_target))) return;
     const Name start = startOfNameBeside(m_target);
-    for (int i = 0; m_path == m_target || fs::exists(m_path, failure); ++i) {
+    for (int i = 0; m_path == m_target || (!isMade(m_path) && errno == EEXIST); ++i) {
         m_path.replace_filename(fs::path(start) += ".new" + std::to_string(i));
     }
 }

@@ -11,8 +11,8 @@ std::filesystem::path toSystemPath(const QString& path);
 QString toQtPath(const std::filesystem::path& path);
 
 /// A file that is made beside the one it is to replace and takes its place once it is complete; until then, and for
-/// good if it never is, the earlier file stays as it was. What cannot be replaced, such as a device, is itself the file
-/// to write to.
+/// good if it never is, the earlier file stays as it was. What cannot be replaced is itself the file to write to: a
+/// device, a link to nothing, and a file that may not be written, where opening fails then.
 class FileReplacement {
 public:
     explicit FileReplacement(std::filesystem::path target);
@@ -22,7 +22,7 @@ public:
     /// Removes what did not take its place.
     ~FileReplacement();
 
-    /// Of the file to write. There is none yet, unless it is the target itself.
+    /// Of the file to write. It is there and empty, unless it is the target itself or could not be made.
     const std::filesystem::path& path() const { return m_path; }
 
     /// To be called when the file is closed. It gets the permissions of the one that it replaces.

@@ -13,14 +13,19 @@ namespace {
 
 constexpr std::uint64_t largestInt = std::numeric_limits<std::int32_t>::max();
 
-// Boxes that do not overlap need each exclusion once. A file of a few hundred kilobytes can demand gigabytes otherwise.
-constexpr std::size_t mostRepeatedExclusions = std::size_t{1} << 24;
+// Boxes that do not overlap need each exclusion once; others may need it for each box, which in a file of a few hundred
+// kilobytes can come to gigabytes.
+std::size_t mostStored(std::size_t numBoxes, std::size_t numExclusions) {
+    constexpr std::size_t always = std::size_t{1} << 20;
+    constexpr std::size_t forEach = 256;
+    return std::max(always, forEach * (numBoxes + numExclusions));
+}
 
 }  // namespace
 
 void GridIndexBoxes::setupBoxExclusions(const std::vector<ivec3>& exclusions) {
     const std::vector<BoxAndCell> pairs =
-        findCellsInBoxes(m_boxes, exclusions, exclusions.size() + mostRepeatedExclusions);
+        findCellsInBoxes(m_boxes, exclusions, mostStored(m_boxes.size(), exclusions.size()));
     const std::vector<Box> boxes = std::move(m_boxes);
     m_boxes.clear();
     auto pair = pairs.begin();

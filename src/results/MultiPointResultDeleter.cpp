@@ -1,6 +1,8 @@
 #include "quarn/MultiPointResultDeleter.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <algorithm>
 #include <climits>
 
@@ -13,13 +15,40 @@ namespace {
 
 bool removeFile(const QString& path) { return QFile::remove(resolveLongPath(path, true)); }
 
+/// The files of a result that are there. A list may claim more indices than can be tried one by one.
+class ComponentFiles {
+public:
+    explicit ComponentFiles(const QString& baseFileName)
+        : m_folder(baseFileName.chopped(QFileInfo(baseFileName).fileName().size())),
+          m_names(QDir(resolveLongPath(m_folder.isEmpty() ? QStringLiteral(".") : m_folder, true))
+                      .entryList(QDir::Files | QDir::System | QDir::Hidden, QDir::Unsorted)) {}
+
+    /// Those that are named as the given one, whose index is 0, up to and without `numIndices`.
+    void remove(const QString& first, int numIndices) const {
+        const int at = first.lastIndexOf(u'0') - m_folder.size();
+        const QString before = first.mid(m_folder.size(), at), behind = first.mid(m_folder.size() + at + 1);
+        for (const QString& name : m_names) {
+            if (!name.startsWith(before) || !name.endsWith(behind)) continue;
+            const QString index = name.mid(at, name.size() - before.size() - behind.size());
+            const unsigned number = index.toUInt();
+            const bool isListed = number < static_cast<unsigned>(numIndices) && index == QString::number(number);
+            if (isListed) removeFile(m_folder + name);
+        }
+    }
+
+private:
+    QString m_folder;
+    QStringList m_names;
+};
+
 template <class Groups, class Components>
-void removeComponents(const MultiPointResult& result, const Groups& groups, const Components& components,
-                      int numIndices) {
+void removeComponents(const MultiPointResult& result, const QString& baseFileName, const Groups& groups,
+                      const Components& components, int numIndices) {
+    const ComponentFiles files(baseFileName);
     for (const auto group : groups) {
         if (!result.collects(group)) continue;
-        for (int index = 0; index < numIndices; ++index) {
-            for (const auto component : components) removeFile(result.getComponentFileName(group, component, index));
+        for (const auto component : components) {
+            files.remove(result.getComponentFileName(group, component, 0), numIndices);
         }
     }
 }
@@ -37,9 +66,9 @@ bool MultiPointResultDeleter::deleteResult(const QString& baseFileName) {
     setBaseFileName(baseFileName);
     if (!readInfo()) return false;
     removeFile(getGeometryFileName());
-    removeComponents(*this, transientGroups, components, numIndices(getTimestepsFileName()));
+    removeComponents(*this, baseFileName, transientGroups, components, numIndices(getTimestepsFileName()));
     removeFile(getTimestepsFileName());
-    removeComponents(*this, steadyGroups, parts, numIndices(getFrequenciesFileName()));
+    removeComponents(*this, baseFileName, steadyGroups, parts, numIndices(getFrequenciesFileName()));
     removeFile(getFrequenciesFileName());
     return removeFile(getInfoFileName());
 }

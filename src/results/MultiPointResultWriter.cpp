@@ -1,6 +1,7 @@
 #include "quarn/MultiPointResultWriter.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "quarn/GridIndexBoxes.h"
 
@@ -15,7 +16,8 @@ constexpr int bytesOfTime = 4;
 template <class Group, class Files>
 bool MultiPointResultWriter::openFiles(Group group, const Files& files, int index) {
     if (!collects(group)) return false;
-    closeComponents(parts.size());
+    abandonComponents();
+    if (!std::exchange(m_nothingLost, true)) return false;
     return std::all_of(files.begin(), files.end(), [&](auto file) {
         return openForWriting(m_components[file], getComponentFileName(group, file, index));
     });
@@ -27,7 +29,9 @@ bool MultiPointResultWriter::beginResultWriting(const QString& baseFileName, con
     setNumberOfPoints(boxes.getNumPoints());
     m_timestep = -1;
     m_frequency = -1;
-    if (!writeInfo() || !writeGeometry(boxes) || !openForWriting(m_timesteps, getTimestepsFileName())) return false;
+    if (!std::exchange(m_nothingLost, true) || !writeInfo() || !writeGeometry(boxes) ||
+        !openForWriting(m_timesteps, getTimestepsFileName()))
+        return false;
     if (openForWriting(m_frequencies, getFrequenciesFileName())) return true;
     m_timesteps.close();
     return false;
@@ -67,7 +71,7 @@ bool MultiPointResultWriter::writeTransient(float x, float y, float z) {
 bool MultiPointResultWriter::endTransient() { return closeComponents(components.size()); }
 
 bool MultiPointResultWriter::endTimestep() {
-    closeComponents(components.size());
+    abandonComponents();
     return true;
 }
 
@@ -95,12 +99,12 @@ bool MultiPointResultWriter::writeSteady(const std::complex<float>& x, const std
 bool MultiPointResultWriter::endSteady() { return closeComponents(parts.size()); }
 
 bool MultiPointResultWriter::endFrequency() {
-    closeComponents(parts.size());
+    abandonComponents();
     return true;
 }
 
 bool MultiPointResultWriter::endResultWriting() {
-    closeComponents(parts.size());
+    abandonComponents();
     m_timesteps.close();
     m_frequencies.close();
     return true;
@@ -116,6 +120,13 @@ bool MultiPointResultWriter::closeComponents(std::size_t count) {
     bool complete = true;
     for (std::size_t i = 0; i < count; ++i) complete &= m_components[i].close();
     return complete;
+}
+
+/// What they lost is told where the next files are begun.
+void MultiPointResultWriter::abandonComponents() {
+    for (DataFileWriter& file : m_components) {
+        if (file.isOpen()) m_nothingLost &= file.close();
+    }
 }
 
 }  // namespace quarn

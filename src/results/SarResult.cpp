@@ -66,7 +66,7 @@ constexpr std::int64_t storedSize =
 
 bool SarResultWriter::beginResultWriting(const QString& fileName, SARPlane::Plane plane, int planeIndex,
                                          int numRecords) {
-    m_writer.close();
+    if (m_writer.isOpen() && !m_writer.close()) return false;
     const PlaneKind* kind = findKind(&PlaneKind::plane, plane);
     if (!kind || numRecords < 0 || !m_writer.open(fileName, QStringLiteral("wb"))) return false;
     const Start start{kind->code, planeIndex, numRecords};

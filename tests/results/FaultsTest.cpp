@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFileInfo>
 #include <memory>
 
 #include "Faults.h"
@@ -165,6 +166,19 @@ TEST_P(ReplacingWriter, keeps_an_earlier_file_that_it_has_no_room_or_no_permissi
     EXPECT_EQ(QDir(m_folder.path("closed")).entryList(QDir::Files), QStringList("out"));
 }
 
+TEST_P(ReplacingWriter, does_not_write_to_what_is_protected_nor_through_what_is_planted) {
+    putEarlier("open", 0777);
+    setPermissions("open/out", 0444);
+    EXPECT_FALSE(writesWith<WithoutPrivileges>("open/out"));
+    EXPECT_EQ(m_folder.bytes("open/out"), "earlier");
+    QFile::link(m_folder.path("elsewhere"), m_folder.path("target.new0"));
+    m_folder.put("target.new1", "somebody's");
+    EXPECT_TRUE(writes("target.file"));
+    EXPECT_FALSE(m_folder.has("elsewhere"));
+    EXPECT_EQ(m_folder.bytes("target.new1"), "somebody's");
+    EXPECT_FALSE(QFileInfo(m_folder.path("target.file")).isSymLink());
+}
+
 // In a folder of everybody's, what belongs to somebody else cannot be renamed over.
 TEST_P(ReplacingWriter, that_cannot_rename_keeps_an_earlier_file) {
     if (geteuid() != 0) GTEST_SKIP() << "takes two users";
@@ -200,8 +214,11 @@ TEST(WriterOfASet, reports_it_when_the_disk_fills_up) {
         done.push_back(writer.endTransient());
         done.insert(done.end(), {writer.beginTimestep(3), writer.beginFrequency(1), writer.beginFrequency(2)});
         done.push_back(writer.beginFrequency(3));
+        writer.beginTransientTotalE();
+        for (int i = 0; i < 3; ++i) writer.writeTransient(1, 2, 3);
+        done.insert(done.end(), {writer.endTimestep(), writer.beginTransientTotalE(), writer.beginTransientTotalE()});
     }
-    EXPECT_EQ(done, (std::vector<bool>{true, true, true, false, false, true, true, false}));
+    EXPECT_EQ(done, (std::vector<bool>{true, true, true, false, false, true, true, false, true, false, true}));
 }
 
 }  // namespace

@@ -273,6 +273,14 @@ TEST_F(MultiPoint, deletingTakesOneIndexMoreThanIsListed) {
     EXPECT_TRUE(MultiPointResultDeleter().deleteResult(base));
     EXPECT_EQ(folder.names(), kept + QStringList{"broken_info.bin"});
     EXPECT_FALSE(MultiPointResultDeleter().deleteResult(base)) << "it is gone";
+
+    ASSERT_TRUE(writer.beginResultWriting(base, twoPoints) && writer.endResultWriting());
+    for (const char* name : {"b_transient_Ex_total_ts000.bin", "b_transient_Ex_total_ts-1.bin"}) folder.put(name, "");
+    folder.put("b_transient_Ex_total_ts250000000.bin", "");
+    ASSERT_TRUE(QFile::resize(folder.path("b_timesteps.bin"), 1LL << 30)) << "a file with a hole";
+    EXPECT_TRUE(MultiPointResultDeleter().deleteResult(base)) << "at once, though the list has 2^28 entries";
+    EXPECT_FALSE(folder.has("b_transient_Ex_total_ts250000000.bin"));
+    EXPECT_TRUE(folder.has("b_transient_Ex_total_ts000.bin") && folder.has("b_transient_Ex_total_ts-1.bin"));
 }
 
 }  // namespace

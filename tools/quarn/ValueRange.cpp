@@ -6,7 +6,7 @@ namespace quarn::tool {
 
 QString ValueRange::text(const QString& unit) const {
     if (m_count == 0) return QStringLiteral("no values");
-    const QString nans = m_nans == 0 ? QString() : QStringLiteral("%1 NaN").arg(m_nans);
+    QString nans = m_nans == 0 ? QString() : QStringLiteral("%1 NaN").arg(m_nans);
     if (m_nans == m_count) return nans;
     const QString range =
         QStringLiteral("%1 to %2")
