@@ -1,5 +1,5 @@
-// A sample of each kind of result file, cut off at each length and with each byte of its header flipped: what must be
-// refused is, and of the records those are read that are there.
+// A sample of each kind of result file, cut off at each length, and with each byte of its header changed to every
+// other: what must be refused is, and of the records those are read that are there.
 
 #include <gtest/gtest.h>
 
@@ -147,11 +147,20 @@ TEST_P(DamagedResultFile, cutOffAtEachLength) {
     }
 }
 
-TEST_P(DamagedResultFile, eachByteOfTheHeaderFlipped) {
+TEST_P(DamagedResultFile, eachByteOfTheHeaderChanged) {
+    constexpr int allBits = 0xFF;
+    const QByteArray whole = GetParam().header + QByteArray(2 * GetParam().recordSize, '\1');
     for (int i = 0; i < GetParam().header.size(); ++i) {
-        QByteArray bytes = GetParam().header + QByteArray(2 * GetParam().recordSize, '\1');
-        bytes[i] = static_cast<char>(~bytes[i]);
-        EXPECT_EQ(read(bytes) != refused, i >= GetParam().firstFree && i <= GetParam().lastFree) << "byte " << i;
+        const bool isFree = i >= GetParam().firstFree && i <= GetParam().lastFree;
+        for (int change = 1; change <= allBits; ++change) {
+            QByteArray bytes = whole;
+            bytes[i] = static_cast<char>(bytes[i] ^ change);
+            const int count = read(bytes);
+            ASSERT_TRUE(count == refused || (count >= 0 && count < whole.size())) << "byte " << i << " by " << change;
+            if (change == allBits) {
+                EXPECT_EQ(count != refused, isFree) << "byte " << i << " flipped";
+            }
+        }
     }
 }
 
