@@ -79,6 +79,7 @@ public:
     static std::vector<MeshlessVia> load_binary(const std::string& path);
     static void read_binary(std::vector<MeshlessVia>& vias, const std::string& path);
     static void read_binary_stream(std::vector<MeshlessVia>& vias, std::istream& stream);
+
     /// Makes the file beside `path` and puts it there when it is complete. Otherwise throws a std::runtime_error, and
     /// an earlier file stays as it was.
     static void write_binary(const std::vector<MeshlessVia>& vias, const std::string& path);
