@@ -1,7 +1,5 @@
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <cmath>
 
 #include "CommandLine.h"
@@ -10,6 +8,7 @@
 #include "FarZonePattern.h"
 #include "GeometryOnDisk.h"
 #include "InputFile.h"
+#include "OutputFile.h"
 #include "PolarPlot.h"
 #include "ProgressBar.h"
 #include "ProjectOnDisk.h"
@@ -88,15 +87,12 @@ FarZoneBox boxOf(const ProjectFile& project, const QString& path, const Grid& gr
 }
 
 void writeRecords(const QString& path, const FarZoneRecords& records) {
-    const QTemporaryDir folder;
-    QFile made(folder.filePath(QStringLiteral("records")));
-    DataFileWriter writer;
-    bool isWritten = writer.open(made.fileName(), QStringLiteral("wb"));
-    for (const auto& record : records) isWritten = isWritten && FarZoneSSFieldFile::writeRecord(writer, record);
-    if (!writer.close() || !isWritten || !made.open(QIODevice::ReadOnly)) {
-        throw FileProblem(made.fileName(), QStringLiteral("cannot be written"));
-    }
-    writeFile(path, made.readAll());
+    writeFile(path, [&records](const QString& made) {
+        DataFileWriter writer;
+        bool isWritten = writer.open(made, QStringLiteral("wb"));
+        for (const auto& record : records) isWritten = isWritten && FarZoneSSFieldFile::writeRecord(writer, record);
+        return writer.close() && isWritten;
+    });
 }
 
 void writeCsv(const QString& path, const FarZoneRecords& records, const RadiatedPower& power) {
