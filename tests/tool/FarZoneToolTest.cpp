@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QStandardPaths>
 
 #include "results/FarZoneFields.h"
@@ -104,6 +105,28 @@ TEST_F(FarZoneTool, refuses_what_it_cannot_use) {
     EXPECT_THAT(farzone({"--step", "0"}).err, HasSubstr("--step needs a number from 0.1 to 90."));
     write("project", cleanWith({}));
     EXPECT_THAT(farzone({}).err, HasSubstr("quarn: project: there is no far-zone box"));
+}
+
+TEST_F(FarZoneTool, refuses_a_wave_that_the_cells_cannot_carry) {
+    writeRun(FarZoneBox::NoFace, QString(), 0.9);
+    const ToolResult result = run({"farzone", "project", "geometry", "box", "--frequency", "3e9", "--out", "results"});
+    EXPECT_EQ(
+        result.err,
+        "quarn: geometry: has a cell of 50 mm on the far-zone box, more than half the wavelength of 99.9308 mm\n");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_FALSE(QFile::exists(folder.filePath("results")));
+}
+
+TEST_F(FarZoneTool, does_not_write_where_a_project_must_not_choose) {
+    const QString request = "FarZoneRequests{ SteadyState{ OutputFileName %1; Angle 0 0; } }";
+    writeRun(FarZoneBox::NoFace, request.arg("box"), 0.9);
+    const QByteArray box = read("box");
+    EXPECT_EQ(farzone({"--out", "../" + QDir(folder.path()).dirName()}).status, 2);
+    EXPECT_EQ(farzone({"--plot", "./geometry", "--step", "90"}).status, 2);
+    EXPECT_EQ(read("box"), box);
+    EXPECT_EQ(read("geometry"), geometry);
+    writeRun(FarZoneBox::NoFace, request.arg("first\x1b.fz"), 0.9);
+    EXPECT_THAT(farzone({}).err, HasSubstr("the file name \"first\uFFFD.uan\" of a far-zone request has control"));
 }
 
 }  // namespace

@@ -111,5 +111,12 @@ TEST_F(GeometryTool, check_refuses_a_geometry_of_another_version) {
     EXPECT_EQ(result.status, 2);
 }
 
+TEST_F(GeometryTool, check_refuses_a_project_as_the_geometry) {
+    write("run", clean.toUtf8());
+    const ToolResult result = run({"check", "run", "--geometry", folder.filePath("run")});
+    EXPECT_THAT(result.err, HasSubstr("run: not a geometry file: its first line does not say so\n"));
+    EXPECT_EQ(result.status, 2);
+}
+
 }  // namespace
 }  // namespace quarn::test

@@ -83,6 +83,26 @@ TEST_F(ResultTool, exports_the_groups_of_a_multi_point_result) {
     EXPECT_EQ(partial.status, 1);
 }
 
+TEST_F(ResultTool, refuses_a_multi_point_result_without_what_its_groups_need) {
+    for (const QString ending : {"timesteps", "frequencies", "geom"}) {
+        writeSet("set");
+        QFile::remove(path("set_" + ending + ".bin"));
+        const ToolResult result = run({"export", "set_info.bin", "--group", "steady-J"});
+        EXPECT_EQ(result.err, "quarn: set_" + ending.toStdString() + ".bin: cannot be read\n");
+        EXPECT_EQ(result.status, 2);
+    }
+    write("set_info.bin", read("set_info.bin").chopped(4) + QByteArray::fromHex("ffffffff"));
+    EXPECT_EQ(run({"show", "set_info.bin"}).err, "quarn: set_info.bin: says that it has -1 points\n");
+}
+
+TEST_F(ResultTool, says_that_files_of_a_result_without_points_are_missing) {
+    writeSet("set");
+    write("set_info.bin", read("set_info.bin").chopped(4) + QByteArray(4, '\0'));
+    QFile::remove(path("set_steady_Jxi_freq0.bin"));
+    EXPECT_EQ(run({"export", "set_info.bin", "--group", "steady-J"}).status, 1);
+    EXPECT_THAT(run({"show", "set_info.bin"}).out, HasSubstr("1 of 9 component files are missing"));
+}
+
 TEST_F(ResultTool, shows_and_exports_a_near_zone_point) {
     writeNearZonePoint("point");
     write("cut", read("point") + "abc");

@@ -1,3 +1,5 @@
+#include <fcntl.h>
+
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -177,9 +179,32 @@ TEST_F(Tool, rewrite_on_a_full_disk_fails_and_an_earlier_output_stays) {
         const FullDisk disk;
         return run({"rewrite", "in", "out"});
     }();
-    EXPECT_THAT(result.err, HasSubstr("quarn: out: "));
+    EXPECT_EQ(result.err, "quarn: out: cannot be written\n");
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(read("out"), "earlier");
+}
+
+TEST_F(Tool, rewrite_writes_into_a_pipe) {
+    write("in", clean.toUtf8());
+    const QByteArray path = folder.filePath("pipe").toUtf8();
+    ASSERT_EQ(mkfifo(path.constData(), S_IRUSR | S_IWUSR), 0);
+    const int pipe = open(path.constData(), O_RDWR | O_NONBLOCK);
+    EXPECT_EQ(run({"rewrite", "in", "pipe"}).status, 0);
+    QByteArray written(2 * clean.size(), '\0');
+    written.resize(static_cast<int>(std::max<ssize_t>(::read(pipe, written.data(), written.size()), 0)));
+    close(pipe);
+    EXPECT_EQ(written, clean.toUtf8());
+}
+
+TEST_F(Tool, a_name_that_no_file_has_is_refused_in_its_own_words) {
+    write("in", clean.toUtf8());
+    const QVector<QStringList> commands = {
+        {"show", ""}, {"check", "in", "--geometry", ""}, {"rewrite", "in", ""}, {"export", ""}};
+    for (const QStringList& command : commands) {
+        const ToolResult result = run(command);
+        EXPECT_EQ(result.err, "quarn: : the file name is empty\n") << command[0].toStdString();
+        EXPECT_EQ(result.status, 2);
+    }
 }
 
 TEST_F(Tool, rewrite_that_cannot_save_says_why_and_leaves_no_output) {

@@ -17,14 +17,20 @@ namespace {
 /// Looks at files, project files together with the geometry that they run on.
 class Examiner {
 public:
-    /// The path of the geometry may be null. Throws a FileProblem.
-    explicit Examiner(const QString& geometryPath) {
-        if (!geometryPath.isNull()) m_geometry.emplace(geometryPath, readFile(geometryPath));
+    /// The path of the geometry may be null. That it is none that can be used is said when it is examined itself.
+    explicit Examiner(const QString& geometryPath) : m_geometryPath(geometryPath) {
+        if (geometryPath.isNull()) return;
+        try {
+            m_geometry.emplace(geometryPath, readFile(geometryPath));
+        } catch (const FileProblem&) {
+            m_geometry.reset();
+        }
     }
 
     Findings findingsIn(const QString& path) const {
         const QByteArray content = readFile(path);
-        if (kindOf(content) == FileKind::Geometry) return examine(LoadedGeometry(path, content));
+        const bool isGeometry = path == m_geometryPath || kindOf(content) == FileKind::Geometry;
+        if (isGeometry) return examine(LoadedGeometry(path, content));
         LoadedProject loaded(path, content);
         Findings findings = examine(loaded);
         if (m_geometry) findings.errors << misplacedComponents(loaded.project, m_geometry->grid);
@@ -32,6 +38,7 @@ public:
     }
 
 private:
+    QString m_geometryPath;
     std::optional<LoadedGeometry> m_geometry;
 };
 
@@ -67,15 +74,6 @@ int checkAsJson(const QStringList& paths, const Examiner& examiner) {
     return status;
 }
 
-/// The geometry, where it is one that can be used; that it is none is said when it is checked itself.
-Examiner examinerWith(const QString& geometryPath) {
-    try {
-        return Examiner(geometryPath);
-    } catch (const FileProblem&) {
-        return Examiner(QString());
-    }
-}
-
 }  // namespace
 
 int runCheck(const QStringList& arguments) {
@@ -99,7 +97,7 @@ int runCheck(const QStringList& arguments) {
     QStringList paths = commandLine.files();
     const QString geometryPath = commandLine.value(geometry);
     if (!geometryPath.isNull()) paths << geometryPath;
-    const Examiner examiner = examinerWith(geometryPath);
+    const Examiner examiner(geometryPath);
     return commandLine.isSet(json) ? checkAsJson(paths, examiner) : checkAsText(paths, examiner);
 }
 

@@ -5,6 +5,7 @@
 #include "DipoleDemo.h"
 #include "Findings.h"
 #include "InputFile.h"
+#include "OutputFile.h"
 #include "ProjectOnDisk.h"
 #include "Sheet.h"
 #include "Subcommands.h"

@@ -9,6 +9,7 @@
 #include "Findings.h"
 #include "GeometryOnDisk.h"
 #include "InputFile.h"
+#include "OutputFile.h"
 #include "PolarPlot.h"
 #include "ProjectOnDisk.h"
 #include "Quantity.h"
@@ -146,9 +147,9 @@ bool showDipole(const QString& projectPath, const QDir& folder) {
     const LoadedProject project(projectPath, readFile(projectPath));
     const FarZoneBox box(*project.project.getBoundaryConditions(), geometry.grid);
     const exact::WireDipole dipole = halfWaveDipole(geometry.grid);
-    if (!exact::writeBoxFields(boxPath, geometry.grid, box, dipole, static_cast<double>(frequency))) {
-        throw FileProblem(boxPath, QStringLiteral("cannot be written"));
-    }
+    writeFile(boxPath, [&](const QString& path) {
+        return exact::writeBoxFields(path, geometry.grid, box, dipole, static_cast<double>(frequency));
+    });
 
     QStringList arguments{QStringLiteral("--frequency"), QStringLiteral("1e9"), QStringLiteral("--out"), folder.path()};
     if (canPlot()) {

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <optional>
 
 #include "CommandLine.h"
 #include "Console.h"
@@ -98,7 +99,8 @@ class GroupExport {
 public:
     GroupExport(MultiPointSet& set, const SetGroup& group)
         : m_set(set), m_group(group), m_values(static_cast<std::size_t>(group.components().size())) {
-        m_set.reader.readGeometry(m_points);
+        if (m_set.reader.readGeometry(m_points)) return;
+        throw FileProblem(m_set.reader.getGeometryFileName(), QStringLiteral("cannot be read"));
     }
 
     void addHeader() {
@@ -107,12 +109,12 @@ public:
                         m_group.components());
     }
 
-    /// Returns how many points there are of which all components are known.
-    std::size_t addRows(int index) {
+    /// Returns how many points there are of which all components are known; none when files are missing.
+    std::optional<std::size_t> addRows(int index) {
         constexpr std::size_t piece = 1 << 14;
         const auto& list = m_group.isSteady() ? m_set.frequencies : m_set.times;
         m_group.choose(m_set.reader, index);
-        if (!begin()) return 0;
+        if (!begin()) return std::nullopt;
         std::size_t point = 0;
         while (const std::size_t count = read(std::min(piece, m_points.size() - point))) {
             for (std::size_t i = 0; i < count; ++i, ++point) {
@@ -182,12 +184,12 @@ int exportMultiPoint(const QString& path, const QString& groupName, const QStrin
     rows.addHeader();
     int status = ExitFine;
     for (int index = first; index < end; ++index) {
-        const std::size_t points = rows.addRows(index);
+        const auto points = rows.addRows(index);
         const int expected = set.reader.getNumberOfPoints();
-        if (points >= static_cast<std::size_t>(std::max(expected, 0))) continue;
+        if (points && *points >= static_cast<std::size_t>(expected)) continue;
         complain(QStringLiteral("%1: cut short: %2 of %3 points at index %4")
                      .arg(path)
-                     .arg(points)
+                     .arg(points.value_or(0))
                      .arg(expected)
                      .arg(index));
         status = ExitFindings;

@@ -1,7 +1,6 @@
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
+#include <algorithm>
 #include <cmath>
 
 #include "CommandLine.h"
@@ -10,6 +9,7 @@
 #include "FarZonePattern.h"
 #include "GeometryOnDisk.h"
 #include "InputFile.h"
+#include "OutputFile.h"
 #include "PolarPlot.h"
 #include "ProgressBar.h"
 #include "ProjectOnDisk.h"
@@ -37,31 +37,43 @@ double numberFrom(const CommandLine& commandLine, const QString& option, double 
         QStringLiteral("--%1 needs a number from %2 to %3.").arg(option, numberText(least), numberText(most)));
 }
 
-/// A list of directions and the name, without its ending, of the files for their fields.
+const QString defaultRecordFile = QStringLiteral("farzone.uan");
+
+/// A list of directions and the files for their fields, which differ in the ending.
 struct Pattern {
+    Pattern(const QDir& folder, const QString& recordFile, FarZoneAngles directions)
+        : name(QFileInfo(recordFile).completeBaseName()),
+          recordPath(QDir::cleanPath(folder.filePath(recordFile))),
+          csvPath(QDir::cleanPath(folder.filePath(name + QStringLiteral(".csv")))),
+          angles(std::move(directions)) {}
+
     QString name;
-    QString recordFile;
+    QString recordPath;
+    QString csvPath;
     FarZoneAngles angles;
 };
 
-Pattern patternOf(const FarZoneRequest& request) {
+Pattern patternOf(const FarZoneRequest& request, const QString& path, const QDir& folder) {
     // Only the name counts: a project from elsewhere does not choose the folder.
     const QString file = QFileInfo(request.getUANOutputFileName()).fileName();
-    const QString recordFile = file.isEmpty() ? QStringLiteral("farzone.uan") : file;
-    return {QFileInfo(recordFile).completeBaseName(), recordFile, request.getAngles()};
+    const QString shown = printable(file);
+    if (file != shown) {
+        throw FileProblem(
+            path, QStringLiteral("the file name \"%1\" of a far-zone request has control characters").arg(shown));
+    }
+    return {folder, file.isEmpty() ? defaultRecordFile : file, request.getAngles()};
 }
 
-std::vector<Pattern> patternsFor(const ProjectFile& project, const QString& path, double step) {
+std::vector<Pattern> patternsFor(const ProjectFile& project, const QString& path, const Options& options) {
     constexpr double defaultStep = 5.0;
     const auto& requests = project.getSteadyStateFarZoneRequests();
-    if (step > 0.0 || requests.empty()) {
-        const FarZoneAngles angles = sphereOf(step > 0.0 ? step : defaultStep);
-        return {{QStringLiteral("farzone"), QStringLiteral("farzone.uan"), angles}};
+    if (options.step > 0.0 || requests.empty()) {
+        return {{options.folder, defaultRecordFile, sphereOf(options.step > 0.0 ? options.step : defaultStep)}};
     }
     std::vector<Pattern> patterns;
     QStringList names;
     for (const FarZoneRequest& request : requests) {
-        patterns.push_back(patternOf(request));
+        patterns.push_back(patternOf(request, path, options.folder));
         const QString name = patterns.back().name;
         if (names.contains(name)) {
             throw FileProblem(path, QStringLiteral("two far-zone requests write to \"%1\"; use --step").arg(name));
@@ -69,6 +81,19 @@ std::vector<Pattern> patternsFor(const ProjectFile& project, const QString& path
         names << name;
     }
     return patterns;
+}
+
+/// Throws a FileProblem when an output is one of the inputs, which would be lost.
+void keepInputs(const QStringList& inputs, const std::vector<Pattern>& patterns, const QString& plot) {
+    QStringList outputs{plot};
+    for (const Pattern& pattern : patterns) outputs << pattern.recordPath << pattern.csvPath;
+    for (const QString& output : outputs) {
+        const QString place = QFileInfo(output).canonicalFilePath();
+        const bool isInput = std::any_of(inputs.begin(), inputs.end(), [&place](const QString& input) {
+            return !place.isEmpty() && place == QFileInfo(input).canonicalFilePath();
+        });
+        if (isInput) throw FileProblem(output, QStringLiteral("is an input and would be overwritten"));
+    }
 }
 
 FarZoneBox boxOf(const ProjectFile& project, const QString& path, const Grid& grid) {
@@ -87,16 +112,29 @@ FarZoneBox boxOf(const ProjectFile& project, const QString& path, const Grid& gr
     return box;
 }
 
-void writeRecords(const QString& path, const FarZoneRecords& records) {
-    const QTemporaryDir folder;
-    QFile made(folder.filePath(QStringLiteral("records")));
-    DataFileWriter writer;
-    bool isWritten = writer.open(made.fileName(), QStringLiteral("wb"));
-    for (const auto& record : records) isWritten = isWritten && FarZoneSSFieldFile::writeRecord(writer, record);
-    if (!writer.close() || !isWritten || !made.open(QIODevice::ReadOnly)) {
-        throw FileProblem(made.fileName(), QStringLiteral("cannot be written"));
+/// Throws a FileProblem when the waves turn within a cell. Such fields mean nothing, and their pattern would take more
+/// directions than anybody waits for.
+void checkCells(const FieldsOnSSFarZoneBox& fields, const QString& path, float frequency) {
+    const double waveLength = waveLengthAt(frequency);
+    for (const auto* sizes : {&fields.getXDeltas(), &fields.getYDeltas(), &fields.getZDeltas()}) {
+        for (const float size : *sizes) {
+            if (2.0 * std::abs(static_cast<double>(size)) <= waveLength) continue;
+            throw FileProblem(
+                path,
+                QStringLiteral("has a cell of %1 on the far-zone box, more than half the wavelength of %2")
+                    .arg(withPrefix(static_cast<double>(size), QStringLiteral("m")),
+                         withPrefix(waveLength, QStringLiteral("m"))));
+        }
     }
-    writeFile(path, made.readAll());
+}
+
+void writeRecords(const QString& path, const FarZoneRecords& records) {
+    writeFile(path, [&records](const QString& made) {
+        DataFileWriter writer;
+        bool isWritten = writer.open(made, QStringLiteral("wb"));
+        for (const auto& record : records) isWritten = isWritten && FarZoneSSFieldFile::writeRecord(writer, record);
+        return writer.close() && isWritten;
+    });
 }
 
 void writeCsv(const QString& path, const FarZoneRecords& records, const RadiatedPower& power) {
@@ -153,15 +191,13 @@ QString peakText(const FarZoneSSFieldFile::Record& record, const RadiatedPower& 
 }
 
 void writePattern(const Pattern& pattern, const PostProcessSSFarZoneFields& processor, const RadiatedPower& power,
-                  const QDir& folder, Sheet& sheet) {
+                  Sheet& sheet) {
     const FarZoneRecords records = fieldsIn(processor, pattern.angles);
-    const QString recordPath = QDir::cleanPath(folder.filePath(pattern.recordFile));
-    const QString csvPath = QDir::cleanPath(folder.filePath(pattern.name + QStringLiteral(".csv")));
-    writeRecords(recordPath, records);
-    writeCsv(csvPath, records, power);
+    writeRecords(pattern.recordPath, records);
+    writeCsv(pattern.csvPath, records, power);
     sheet.add(QStringLiteral("Pattern"), counted(records.size(), QStringLiteral("direction")));
-    sheet.addDetail(QStringLiteral("Records"), recordPath);
-    sheet.addDetail(QStringLiteral("Table"), csvPath);
+    sheet.addDetail(QStringLiteral("Records"), pattern.recordPath);
+    sheet.addDetail(QStringLiteral("Table"), pattern.csvPath);
 }
 
 Options optionsFrom(const CommandLine& commandLine) {
@@ -184,13 +220,15 @@ int run(const QStringList& files, const Options& options) {
     const LoadedProject project(files.at(0), readFile(files.at(0)));
     const LoadedGeometry geometry(files.at(1), readFile(files.at(1)));
     const FarZoneBox box = boxOf(project.project, files.at(0), geometry.grid);
-    const std::vector<Pattern> patterns = patternsFor(project.project, files.at(0), options.step);
+    const std::vector<Pattern> patterns = patternsFor(project.project, files.at(0), options);
+    keepInputs(files, patterns, options.plot);
     QString problem;
     const FieldsOnSSFarZoneBox fields(geometry.grid, files.at(2), box, problem);
     if (!fields.isComplete() || !fields.setupImageFields(geometry.grid)) {
         complain(problem);
         return ExitUnusable;
     }
+    checkCells(fields, files.at(1), options.frequency);
     if (!options.folder.mkpath(QStringLiteral("."))) {
         throw FileProblem(options.folder.path(), QStringLiteral("the folder cannot be made"));
     }
@@ -201,7 +239,7 @@ int run(const QStringList& files, const Options& options) {
         QStringLiteral("%1: far field at %2").arg(files.at(2), withPrefix(options.frequency, QStringLiteral("Hz"))));
     sheet.add(QStringLiteral("Radiated power"), withPrefix(power.watts, QStringLiteral("W")));
     if (power.watts > 0.0) sheet.add(QStringLiteral("Peak directivity"), peakText(power.peak, power));
-    for (const Pattern& pattern : patterns) writePattern(pattern, processor, power, options.folder, sheet);
+    for (const Pattern& pattern : patterns) writePattern(pattern, processor, power, sheet);
     if (!options.plot.isEmpty()) {
         const QString title =
             QStringLiteral("Directivity in dBi at ") + withPrefix(options.frequency, QStringLiteral("Hz"));

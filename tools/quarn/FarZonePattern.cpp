@@ -47,6 +47,8 @@ std::size_t numberOfIntervals(double wavesTimesRadius) {
 
 double toDegrees(double radians) { return radians * 180.0 / pi; }
 
+double waveLengthAt(float frequency) { return speedOfLight / static_cast<double>(frequency); }
+
 FarZoneAngles sphereOf(double stepInDegrees) {
     constexpr double tolerance = 1e-9;
     const auto steps = [&](double range) { return static_cast<int>(std::floor(range / stepInDegrees + tolerance)); };
@@ -79,7 +81,7 @@ double RadiatedPower::directivity(const FarZoneSSFieldFile::Record& record) cons
 
 RadiatedPower radiatedPower(const FieldsOnSSFarZoneBox& fields, const PostProcessSSFarZoneFields& processor,
                             const ProgressReporter& reporter) {
-    const double waveNumber = 2.0 * pi * static_cast<double>(processor.getFrequency()) / speedOfLight;
+    const double waveNumber = 2.0 * pi / waveLengthAt(processor.getFrequency());
     const std::size_t number = numberOfIntervals(waveNumber * radiusOf(fields));
     const double interval = pi / static_cast<double>(number);
     FarZoneAngles angles;

@@ -15,6 +15,9 @@ using FarZoneRecords = std::vector<FarZoneSSFieldFile::Record>;
 
 double toDegrees(double radians);
 
+/// In free space, in metres.
+double waveLengthAt(float frequency);
+
 /// A whole sphere: the polar angle from 0 to 180 degrees, the azimuth from 0 to below 360.
 FarZoneAngles sphereOf(double stepInDegrees);
 

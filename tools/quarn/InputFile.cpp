@@ -41,8 +41,13 @@ FileKind kindOf(const QByteArray& content) {
     return FileKind::Unknown;
 }
 
+void checkName(const QString& path) {
+    if (path.isEmpty()) throw FileProblem(path, QStringLiteral("the file name is empty"));
+}
+
 // In pieces and with the limit checked as it goes, since a device or a pipe does not tell its size.
 QByteArray readFile(const QString& path) {
+    checkName(path);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) throw FileProblem(path, file.errorString());
     QByteArray content;

@@ -9,6 +9,9 @@ namespace quarn::tool {
 enum class FileKind { Project, Geometry, MeshlessVias, AntennaPattern, Unknown };
 FileKind kindOf(const QByteArray& content);
 
+/// Throws a FileProblem for the empty name, for which Qt has a warning of its own.
+void checkName(const QString& path);
+
 /// The content of a file. Throws a FileProblem when it cannot be read or exceeds 512 MiB.
 QByteArray readFile(const QString& path);
 

@@ -25,6 +25,17 @@ const SetGroup allGroups[] = {
 constexpr Result::Component transientComponents[] = {Result::X, Result::Y, Result::Z};
 constexpr Result::Part steadyComponents[] = {Result::Xr, Result::Xi, Result::Yr, Result::Yi, Result::Zr, Result::Zi};
 
+// The engine makes both lists before anything else, but only one that groups need is missed.
+void readLists(MultiPointSet& set) {
+    const bool hasTimes = set.reader.readTimesteps(set.times);
+    const bool hasFrequencies = set.reader.readFrequencies(set.frequencies);
+    for (const SetGroup& group : set.groups) {
+        if (group.isSteady() ? hasFrequencies : hasTimes) continue;
+        throw FileProblem(group.isSteady() ? set.reader.getFrequenciesFileName() : set.reader.getTimestepsFileName(),
+                          QStringLiteral("cannot be read"));
+    }
+}
+
 }  // namespace
 
 bool SetGroup::isIn(const MultiPointResult& result) const {
@@ -68,8 +79,10 @@ MultiPointSet::MultiPointSet(const QString& infoFile) {
     for (const SetGroup& group : allGroups) {
         if (group.isIn(reader)) groups.push_back(group);
     }
-    reader.readTimesteps(times);
-    reader.readFrequencies(frequencies);
+    if (reader.getNumberOfPoints() < 0) {
+        throw FileProblem(infoFile, QStringLiteral("says that it has %1 points").arg(reader.getNumberOfPoints()));
+    }
+    readLists(*this);
 }
 
 int MultiPointSet::indicesOf(const SetGroup& group) const {

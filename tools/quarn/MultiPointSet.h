@@ -41,7 +41,8 @@ private:
 
 /// A multi-point result with its lists.
 struct MultiPointSet {
-    /// Throws a FileProblem when the file is not named BASE_info.bin or is refused.
+    /// Throws a FileProblem when the file is not named BASE_info.bin or is refused, or when a list that its groups need
+    /// cannot be read.
     explicit MultiPointSet(const QString& infoFile);
 
     /// How many time steps or frequencies there are so far.

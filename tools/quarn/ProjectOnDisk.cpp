@@ -1,6 +1,5 @@
 #include "ProjectOnDisk.h"
 
-#include <QSaveFile>
 #include <QTextStream>
 
 #include "Console.h"
@@ -25,14 +24,6 @@ QByteArray savedBytes(v6ProjectFile& project) {
     QTextStream stream(&bytes, QIODevice::WriteOnly);
     project.saveToStream(stream);
     return bytes;
-}
-
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    // A commit does not look whether what is still in the buffer could be written.
-    const bool saved =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
-    if (!saved) throw FileProblem(path, file.errorString());
 }
 
 }  // namespace quarn::tool

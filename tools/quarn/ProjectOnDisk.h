@@ -30,7 +30,4 @@ struct LoadedProject {
 /// What the library saves. Throws std::runtime_error when the project cannot be saved.
 QByteArray savedBytes(v6ProjectFile& project);
 
-/// Writes the file so that an earlier one stays as it is on any failure. Throws a FileProblem.
-void writeFile(const QString& path, const QByteArray& bytes);
-
 }  // namespace quarn::tool

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "Console.h"
 #include "quarn/DataFileReader.h"
 #include "quarn/FileHeader.h"
 
@@ -10,10 +11,9 @@ namespace quarn::tool {
 
 namespace {
 
-ResultKind kindByHeader(const QString& path) {
-    DataFileReader reader;
+ResultKind kindByHeader(DataFileReader& reader) {
     FileHeader header;
-    if (!reader.open(path) || !header.read(reader)) return ResultKind::None;
+    if (!header.read(reader)) return ResultKind::None;
     if (header.fileType == FileHeader::sarPlane) return ResultKind::SarPlane;
     return header.fileType == FileHeader::farZoneBoxFields ? ResultKind::FarZoneBox : ResultKind::None;
 }
@@ -27,7 +27,12 @@ ResultKind resultKindOf(const QString& path) {
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return ResultKind::None;
     const QByteArray magic = file.read(magicSize);
     if (magic == "Rnzp") return ResultKind::NearZonePoint;
-    return magic == "Rmpt" ? ResultKind::MultiPoint : kindByHeader(path);
+    const bool isMultiPoint = magic == "Rmpt";
+    if (!isMultiPoint && magic != "!tav") return ResultKind::None;
+    // That it opens is known; but a reader takes no path of any length.
+    DataFileReader reader;
+    if (!reader.open(path)) throw FileProblem(path, QStringLiteral("the path is too long for a file of results"));
+    return isMultiPoint ? ResultKind::MultiPoint : kindByHeader(reader);
 }
 
 std::int64_t sizeOfFile(const QString& path) { return QFileInfo(path).size(); }

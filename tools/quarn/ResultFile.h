@@ -15,6 +15,7 @@ enum class ResultKind {
 };
 
 /// What the first bytes of a file say it is; None also for what is no regular file or cannot be opened.
+/// Throws a FileProblem for results whose path is longer than their readers open.
 ResultKind resultKindOf(const QString& path);
 
 std::int64_t sizeOfFile(const QString& path);

@@ -60,14 +60,13 @@ GroupSurvey survey(MultiPointSet& set, const SetGroup& group) {
     for (int index = 0; index < set.indicesOf(group); ++index) {
         group.choose(set.reader, index);
         for (int component = 0; component < components; ++component) {
-            std::size_t found = 0;
-            if (group.begin(set.reader, component)) {
-                while (group.read(set.reader, component, values, piece) && !values.empty()) {
-                    for (const float value : values) result.range.add(value);
-                    found += values.size();
-                }
-            }
             ++result.expected;
+            if (!group.begin(set.reader, component)) continue;
+            std::size_t found = 0;
+            while (group.read(set.reader, component, values, piece) && !values.empty()) {
+                for (const float value : values) result.range.add(value);
+                found += values.size();
+            }
             if (found >= static_cast<std::size_t>(set.reader.getNumberOfPoints())) ++result.complete;
         }
         set.reader.endTimestep();

@@ -2,6 +2,7 @@
 #include "Console.h"
 #include "GeometryOnDisk.h"
 #include "InputFile.h"
+#include "OutputFile.h"
 #include "ProjectOnDisk.h"
 #include "Subcommands.h"
 
