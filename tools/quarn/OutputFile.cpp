@@ -35,8 +35,11 @@ void writeAs(const QString& path, const QByteArray& bytes) {
 void writeFile(const QString& path, const QByteArray& bytes) {
     checkName(path);
     const QFileInfo target(path);
-    const bool isReplaceable = !target.exists() || target.isFile();
-    isReplaceable ? writeAs<QSaveFile>(path, bytes) : writeAs<QFile>(path, bytes);
+    if (!target.exists() || target.isFile()) {
+        writeAs<QSaveFile>(path, bytes);
+    } else {
+        writeAs<QFile>(path, bytes);
+    }
 }
 
 void writeFile(const QString& path, const std::function<bool(const QString& path)>& make) {
