@@ -9,6 +9,7 @@
 #include <QXmlStreamWriter>
 #include <vector>
 
+#include "SavedProject.h"
 #include "quarn/quarn.h"
 
 namespace {
@@ -41,24 +42,9 @@ std::vector<CircuitComponent*> makeComponents() {
     return made;
 }
 
-class Project {
+class Project : public SavedProject {
 public:
-    Project() {
-        const auto cpml = quarn::BoundaryConditions::CPML;
-        m_project.setBoundaryConditions(new quarn::BoundaryConditions(cpml, cpml, cpml, cpml, cpml, cpml, 8));
-        m_project.setComponentManager(new quarn::ComponentManager(makeComponents(), false, -1));
-    }
-    ~Project() { quarn::deleteContents(m_project); }
-
-    QByteArray save() {
-        QByteArray bytes;
-        QTextStream stream(&bytes, QIODevice::WriteOnly);
-        m_project.saveToStream(stream);
-        return bytes;
-    }
-
-private:
-    quarn::v6ProjectFile m_project;
+    Project() { m_project.setComponentManager(new quarn::ComponentManager(makeComponents(), false, -1)); }
 };
 
 // Each block of the project text as an element, each key line as an element with its value as text.

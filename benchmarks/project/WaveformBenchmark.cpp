@@ -11,6 +11,7 @@
 #include <cmath>
 #include <vector>
 
+#include "SavedProject.h"
 #include "quarn/quarn.h"
 
 namespace {
@@ -36,31 +37,13 @@ const Signal& signal() {
     return result;
 }
 
-class Project {
+class Project : public SavedProject {
 public:
     Project() {
-        m_project.setBoundaryConditions(new quarn::BoundaryConditions(quarn::BoundaryConditions::CPML,
-                                                                      quarn::BoundaryConditions::CPML,
-                                                                      quarn::BoundaryConditions::CPML,
-                                                                      quarn::BoundaryConditions::CPML,
-                                                                      quarn::BoundaryConditions::CPML,
-                                                                      quarn::BoundaryConditions::CPML,
-                                                                      8));
         m_project.setTerminationCriteria(new quarn::TerminationCriteria(0, samples - 1, 0));
         m_project.getWaveforms().push_back(
             new quarn::Waveform(quarn::Waveform::UserDefined, 0, 0, signal().source, signal().derivative));
     }
-    ~Project() { quarn::deleteContents(m_project); }
-
-    QByteArray save() {
-        QByteArray bytes;
-        QTextStream stream(&bytes, QIODevice::WriteOnly);
-        m_project.saveToStream(stream);
-        return bytes;
-    }
-
-private:
-    quarn::v6ProjectFile m_project;
 };
 
 void writeXmlSamples(QXmlStreamWriter& xml, const QString& name, const std::vector<float>& values) {

@@ -9,6 +9,7 @@
 #include <QXmlStreamWriter>
 #include <vector>
 
+#include "SavedProject.h"
 #include "quarn/quarn.h"
 
 namespace {
@@ -24,26 +25,13 @@ std::vector<ivec3> makePoints() {
     return points;
 }
 
-class Project {
+class Project : public SavedProject {
 public:
     Project() {
-        const auto cpml = quarn::BoundaryConditions::CPML;
-        m_project.setBoundaryConditions(new quarn::BoundaryConditions(cpml, cpml, cpml, cpml, cpml, cpml, 8));
         quarn::MultiPointFieldRequest request;
         request.gridIndexBoxes = quarn::GridIndexBoxes({}, {}, makePoints());
         m_project.GetMultiPointFieldRequests().push_back(request);
     }
-    ~Project() { quarn::deleteContents(m_project); }
-
-    QByteArray save() {
-        QByteArray bytes;
-        QTextStream stream(&bytes, QIODevice::WriteOnly);
-        m_project.saveToStream(stream);
-        return bytes;
-    }
-
-private:
-    quarn::v6ProjectFile m_project;
 };
 
 void loadMillionPoints(benchmark::State& state) {
