@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "Harness.h"
 #include "MemoryBound.h"
-#include "Require.h"
 #include "quarn/DelimManager.h"
 
 namespace {

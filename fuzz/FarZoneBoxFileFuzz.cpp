@@ -1,13 +1,12 @@
 // Any bytes as the box field file of a small box, over a PEC plane in every second size: the far field of a box that
 // loads can be computed, and one that does not load gives nothing.
 
-#include <QTemporaryDir>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
 
+#include "FuzzFiles.h"
+#include "Harness.h"
 #include "MemoryBound.h"
-#include "Require.h"
 #include "quarn/BoundaryConditions.h"
 #include "quarn/FieldsOnSSFarZoneBox.h"
 #include "quarn/Grid.h"
@@ -16,14 +15,6 @@
 namespace {
 
 using fuzz::require;
-
-QString write(const std::uint8_t* data, std::size_t size) {
-    static const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("box"));
-    std::FILE* const file = std::fopen(path.toUtf8().constData(), "wb");
-    require(file && std::fwrite(data, 1, size, file) == size && std::fclose(file) == 0);
-    return path;
-}
 
 quarn::FarZoneBox boxIn(const quarn::Grid& grid, bool hasPlane) {
     constexpr auto open = quarn::BoundaryConditions::CPML;
@@ -38,7 +29,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     quarn::Grid grid;
     require(grid.initialize(11, 11, 11, 0, 0, 0, {{0, 0.01F}}, {{0, 0.01F}, {5, 0.02F}}, {{0, 0.01F}}, true));
     QString problem;
-    const quarn::FieldsOnSSFarZoneBox fields(grid, write(data, size), boxIn(grid, size % 2 == 1), problem);
+    fuzz::put("box", fuzz::bytesOf(data, size));
+    const quarn::FieldsOnSSFarZoneBox fields(grid, fuzz::pathOf("box"), boxIn(grid, size % 2 == 1), problem);
     require(fields.isComplete() == problem.isEmpty());
 
     const float frequency = 1e9F * static_cast<float>(size % 7);

@@ -9,7 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "Require.h"
+#include "Harness.h"
 
 /// What harnesses of file formats share: the files of one input, in one temporary folder.
 namespace fuzz {
@@ -35,8 +35,7 @@ inline QByteArray contents(const QString& name) {
 /// An input that is several files: before each but the last stands its length, in one byte.
 class Pieces {
 public:
-    Pieces(const std::uint8_t* data, std::size_t size)
-        : m_rest(QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size))) {}
+    Pieces(const std::uint8_t* data, std::size_t size) : m_rest(bytesOf(data, size)) {}
 
     QByteArray next() {
         if (m_rest.isEmpty()) return {};

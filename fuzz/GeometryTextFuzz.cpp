@@ -7,8 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "Harness.h"
 #include "MemoryBound.h"
-#include "Require.h"
 #include "TextStreams.h"
 #include "quarn/quarn.h"
 

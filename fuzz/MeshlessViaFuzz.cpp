@@ -5,8 +5,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "Harness.h"
 #include "MemoryBound.h"
-#include "Require.h"
 #include "quarn/MeshlessVia.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -8,8 +8,8 @@
 #include <cstring>
 #include <vector>
 
+#include "Harness.h"
 #include "MemoryBound.h"
-#include "Require.h"
 #include "TextStreams.h"
 #include "quarn/NSMACutPlane.h"
 

@@ -4,8 +4,8 @@
 #include <QTextStream>
 #include <cstdint>
 
+#include "Harness.h"
 #include "MemoryBound.h"
-#include "Require.h"
 #include "TextStreams.h"
 #include "quarn/BoundaryConditions.h"
 #include "quarn/v6ProjectFile.h"

@@ -5,14 +5,8 @@
 #include <QString>
 #include <QTextStream>
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
 
 namespace fuzz {
-
-inline QByteArray bytesOf(const std::uint8_t* data, std::size_t size) {
-    return QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size));
-}
 
 /// One text as a stream over a device and as one over a string.
 class TwoStreams {
@@ -31,7 +25,7 @@ private:
     QString m_text;
 };
 
-/// Whether the text ends in the middle of a character, so that a device stream is not at its end behind the last one.
+/// Whether the text may end in the middle of a character: then a device stream is not at its end behind the last one.
 inline bool endsInsideCharacter(const QByteArray& bytes) {
     const QByteArray end = bytes.right(3);
     return std::any_of(end.begin(), end.end(), [](char byte) { return static_cast<unsigned char>(byte) >= 0xC0; });

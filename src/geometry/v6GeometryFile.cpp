@@ -121,7 +121,7 @@ bool v6GeometryFile::loadFromStream(QTextStream& stream, Grid* grid, QStringList
 }
 
 bool v6GeometryFile::load(const QString& path, QTextStream& stream, Grid* grid, QStringList& errors) {
-    stream.setCodec("UTF-8");
+    decodeAsUtf8(stream);
     if (!acceptsVersionOf(stream, errors)) return false;
     WholeText text(stream);
     if (!readFileStart(text.stream(), errors)) return false;

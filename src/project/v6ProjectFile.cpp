@@ -96,15 +96,17 @@ bool v6ProjectFile::loadFromStream(QTextStream& stream, QStringList& errors) {
 }
 
 bool v6ProjectFile::load(const QString& path, QFile& file, QTextStream& stream, QStringList& errors) {
+    const bool hasFirstLine = stream.status() == QTextStream::Ok;
+    const qint64 start = stream.pos();
     if (!acceptsVersionOf(stream, errors)) return false;
-    const qint64 position = stream.pos();
     stream.setDevice(nullptr);
     file.close();
     QFile reopened(path);
     if (!reopened.open(QIODevice::ReadOnly)) return false;
     QTextStream rest(&reopened);
     rest.setCodec("UTF-8");
-    rest.seek(position);
+    rest.seek(start);
+    if (hasFirstLine) rest.readLine();  // once more, as a stream that has read damage cannot tell where it stands
     loadBlocks(rest, path);
     return true;
 }

@@ -25,13 +25,12 @@ bool MultiPointResultWriter::openFiles(Group group, const Files& files, int inde
 
 bool MultiPointResultWriter::beginResultWriting(const QString& baseFileName, const GridIndexBoxes& boxes) {
     endResultWriting();
+    if (!std::exchange(m_nothingLost, true)) return false;
     setBaseFileName(baseFileName);
     setNumberOfPoints(boxes.getNumPoints());
     m_timestep = -1;
     m_frequency = -1;
-    if (!std::exchange(m_nothingLost, true) || !writeInfo() || !writeGeometry(boxes) ||
-        !openForWriting(m_timesteps, getTimestepsFileName()))
-        return false;
+    if (!writeInfo() || !writeGeometry(boxes) || !openForWriting(m_timesteps, getTimestepsFileName())) return false;
     if (openForWriting(m_frequencies, getFrequenciesFileName())) return true;
     m_timesteps.close();
     return false;

@@ -264,8 +264,10 @@ TEST(ProjectText, members_that_a_save_does_not_show) {
     EXPECT_EQ(*other.getTdAfsTerminationCriteria(), TdAfsTerminationCriteria());
 }
 
+const QByteArray damagedAtFirst = "\xEC\x83\n" + expanded("FDTDProject{ Units{ Display{ Name km; } } } ").toUtf8();
+
 TEST(ProjectText, damaged_first_line_hides_nothing_behind_it) {
-    QTextStream stream("\xEC\x83\n" + expanded("FDTDProject{ Units{ Display{ Name km; } } } ").toUtf8());
+    QTextStream stream(damagedAtFirst);
     stream.setCodec("UTF-8");
     QStringList errors;
     OwningProject project;
@@ -380,6 +382,8 @@ TEST(ProjectFiles, refused_when_the_version_is_unsupported_or_the_file_is_gone) 
     EXPECT_EQ(loadFromFile(project, golden.toUtf8(), path, path, true), QStringList()) << "a name beyond ASCII";
     deleteContents(project);
     EXPECT_EQ(loadFromFile(project, golden.toUtf8(), path, path + ".gone", false), QStringList());
+    EXPECT_EQ(loadFromFile(project, damagedAtFirst, path, path, true), QStringList());
+    EXPECT_EQ(project.getDisplayUnits().first, "km");
     EXPECT_EQ(loadFromFile(project, "Version 9\n" + golden.mid(10).toUtf8(), path, path, false),
               QStringList("This project file version is unsupported."));
     EXPECT_EQ(project.getBoundaryConditions(), nullptr);

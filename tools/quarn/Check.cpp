@@ -22,8 +22,7 @@ public:
         if (geometryPath.isNull()) return;
         try {
             m_geometry.emplace(geometryPath, readFile(geometryPath));
-        } catch (const FileProblem&) {
-            m_geometry.reset();
+        } catch (const FileProblem&) {  // there is none then
         }
     }
 
