@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <array>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -106,7 +107,7 @@ public:
 
         QString qstr() const;
 
-        int nodes[2] = {-1, -1};  ///< indices of the component's end points
+        std::array<int, 2> nodes{-1, -1};  ///< indices of the component's end points
         int type = NoExtent;
         double radius = -1.0;  ///< of a cylindrical line
         tavrix::Cartesian3D center;

@@ -16,19 +16,22 @@ namespace quarn {
 /// port number.
 ///
 /// The manager does not own the components: a copy shares them, and whoever created them deletes them. Null pointers
-/// are left out. Whoever assigns to a component that is listed calls cacheVariables() afterwards.
+/// are left out. Whoever assigns to a component that is listed calls cacheVariables() afterwards: the counts and the
+/// names that must be unique are not looked up again otherwise.
 class QUARN_EXPORT ComponentManager {
 public:
-    /// With S-parameters, feeds other than the one at `activePort` are made inactive; without, no port is active (-1).
+    /// `activePort` is a position in `components`, null pointers included; getActivePort() is the position of the same
+    /// component in the list, and -1 when it is a null pointer. With S-parameters, feeds other than that one are made
+    /// inactive; without, no port is active (-1).
     ComponentManager(const std::vector<CircuitComponent*>& components, bool computeSParameters, int activePort);
     ComponentManager(const ComponentManager& other);
     ComponentManager& operator=(const ComponentManager& other);
     ~ComponentManager();
 
     /// Adds a port behind the last port, and any other component at the end. Throws a std::runtime_error, with the list
-    /// as it was, when the name must be unique and is not, and when the list has a port behind another component. The
-    /// cost does not grow with the list, save for moving the pointers behind a new port. hasNonlinearCapacitor()
-    /// follows only with cacheVariables().
+    /// as it was, when the name must be unique and is not, and when a port is to be added to a list that has a port
+    /// behind another component. A port costs a walk over the list; the cost of any other component does not grow with
+    /// the list. hasNonlinearCapacitor() follows only with cacheVariables().
     void insert(CircuitComponent* component, bool checkUniqueness);
 
     /// Derives the number of ports and hasNonlinearCapacitor() from the list.
@@ -53,18 +56,14 @@ public:
 
 private:
     void checkSParameters(QStringList& errors, QStringList& warnings) const;
-    void noteListOrder();
+    void cacheNames();
 
     std::vector<CircuitComponent*> m_components;
     bool m_computeSParameters;
     std::int32_t m_activePort;
     std::uint32_t m_numberOfPorts = 0;
     bool m_hasNonlinearCapacitor = false;
-    // What insert() would otherwise look up in the whole list each time: the names, where the first component that is
-    // no port stands, and whether a port stands behind it.
-    QSet<QString> m_names;
-    std::size_t m_firstOther = 0;
-    bool m_portsComeFirst = true;
+    QSet<QString> m_names;  // so that insert() need not compare a name with those of the whole list
 };
 
 }  // namespace quarn

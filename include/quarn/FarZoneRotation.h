@@ -8,7 +8,8 @@
 namespace quarn {
 
 /// A rotation of far-zone directions.
-struct QUARN_EXPORT FarZoneRotation {
+class QUARN_EXPORT FarZoneRotation {
+public:
     bool isIdentity = true;
 
     /// Row by row. This is the transpose of the matrix that turns vectors actively: multiplied with a column it turns

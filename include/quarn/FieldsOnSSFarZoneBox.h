@@ -3,6 +3,7 @@
 #include <QString>
 #include <array>
 #include <complex>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -54,9 +55,9 @@ public:
     const std::vector<float>& getXDeltas() const { return m_axes[0].deltas; }
     const std::vector<float>& getYDeltas() const { return m_axes[1].deltas; }
     const std::vector<float>& getZDeltas() const { return m_axes[2].deltas; }
-    float getXDelta(int i) const { return m_axes[0].deltas[i]; }
-    float getYDelta(int j) const { return m_axes[1].deltas[j]; }
-    float getZDelta(int k) const { return m_axes[2].deltas[k]; }
+    float getXDelta(int i) const { return m_axes[0].deltas[static_cast<std::size_t>(i)]; }
+    float getYDelta(int j) const { return m_axes[1].deltas[static_cast<std::size_t>(j)]; }
+    float getZDelta(int k) const { return m_axes[2].deltas[static_cast<std::size_t>(k)]; }
 
     /// From the box's lower face to its centre, and from the centre to its upper face. They differ on a graded grid.
     double getXDistanceToX() const { return m_axes[0].toLowerFace; }

@@ -16,7 +16,8 @@ class DataFileWriter;
 ///         11  char     "L" for little-endian
 ///         12  uint16   file type
 ///         14  uint16   version
-struct QUARN_EXPORT FileHeader {
+class QUARN_EXPORT FileHeader {
+public:
     /// @name Known types of files, all of version 0
     /// @{
     static constexpr std::uint32_t farZoneBoxFields = 8;

@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <cstdint>
-#include <memory>
 #include <vector>
 
 #include "quarn/Export.h"
@@ -11,7 +10,6 @@ namespace quarn {
 
 class ConformalDielectricManager;
 class Material;
-class PhysicalParameters;
 struct GeometryContents;
 
 /// Which materials fill a cell edge of each direction: positions in the lists of a GeometryFile. A position is not
@@ -46,9 +44,9 @@ private:
 /// The materials of a run and how they combine.
 ///
 /// Ownership: the materials and maps that are set belong to the GeometryFile, each object once however often it is
-/// listed; what a setter or an assignment takes out of the lists is deleted, so that pointers to it dangle. Of the
-/// physical parameters of the materials it owns only those that it made itself, by loading or as a copy; others remain
-/// with whoever added them. The manager is never owned.
+/// listed; what a setter or an assignment takes out of the lists is deleted, so that pointers to it dangle. Physical
+/// parameters that a load or a copy made live as long as any material that shares them, those that a caller added
+/// remain the caller's. The manager is never owned.
 ///
 /// Copying is deep: the copy has materials, physical parameters and maps of its own, and shares the manager. A material
 /// that is none of the library's classes cannot be copied; its place in the copy's list is null.
@@ -57,7 +55,7 @@ public:
     GeometryFile();
     GeometryFile(const GeometryFile& other);
     GeometryFile& operator=(const GeometryFile& other);
-    ~GeometryFile();
+    virtual ~GeometryFile();
 
     const std::vector<Material*>& getElectricMaterials() const { return m_electricMaterials; }
     void setElectricMaterials(const std::vector<Material*>& materials);
@@ -80,7 +78,6 @@ private:
     std::vector<Material*> m_magneticMaterials;
     std::vector<MaterialMap*> m_materialMappings;
     ConformalDielectricManager* m_conformalDielectricManager = nullptr;
-    std::vector<std::unique_ptr<PhysicalParameters>> m_ownParameters;
 };
 
 }  // namespace quarn

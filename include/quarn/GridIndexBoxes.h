@@ -34,7 +34,7 @@ public:
     /// counts for each box in which it lies. Boxes that are excluded completely are dropped. With n boxes and
     /// exclusions the cost is of order n log^3 n at worst, besides the exceptions that come of it. Throws a
     /// std::runtime_error if boxes overlap so much that exclusions had to be stored more than 2^20 times and more than
-    /// 256 times for each box and exclusion.
+    /// 256 times for each box and each exclusion that lies in a box.
     GridIndexBoxes(std::vector<Box> boxes, const std::set<ivec3>& exclusions, std::vector<ivec3> sparePoints);
 
     const std::vector<Box>& getBoxes() const { return m_boxes; }
@@ -55,7 +55,8 @@ public:
     /// The cells of boxes that do not belong to the set.
     std::set<ivec3> getPointsToRemoveFromBoxes() const;
 
-    /// Keeps only the cells between two corners, both inclusive. Boxes are clipped and keep their order.
+    /// Keeps only the cells between two corners, both inclusive. Boxes are clipped and keep their order. Never throws
+    /// for overlapping boxes, as it stores no exclusion more often than before.
     void intersectBoundingBox(const ivec3& lower, const ivec3& upper);
 
     /// The same cells with the same numbers, in the same boxes.
@@ -64,7 +65,7 @@ public:
 
 private:
     void addUnboxedPoints(std::vector<ivec3> points);
-    void setupBoxExclusions(const std::vector<ivec3>& exclusions);
+    void setupBoxExclusions(const std::vector<ivec3>& exclusions, bool isLimited);
     void setupBoxStarts();
     std::vector<ivec3> excludedCells() const;
     int numBoxedPoints() const { return m_boxStarts.empty() ? 0 : m_boxStarts.back(); }

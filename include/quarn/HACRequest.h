@@ -6,7 +6,8 @@
 namespace quarn {
 
 /// A request for a measurement of hearing-aid compatibility (HAC): the origin and the axes of its plane and normal.
-struct HACRequest {
+class HACRequest {
+public:
     tavrix::Cartesian3D origin;
     Vector3D u;
     Vector3D v;

@@ -2,6 +2,8 @@
 
 #include <QString>
 #include <cstdint>
+#include <memory>
+#include <type_traits>
 
 #include "quarn/Export.h"
 
@@ -48,10 +50,10 @@ private:
 /// A material of the geometry file: a name, and thermal properties where a run needs them. The classes that derive from
 /// it hold the electric or magnetic data; getMaterialType() says which one an object is.
 ///
-/// Ownership of the physical parameters: copies of a material share them, and no material ever deletes them. Whoever
-/// adds them to a material deletes them, once, after the last material that shares them; getPhysicalParameters() is
-/// the way to them. A GeometryFile deletes those that it made, when it goes or loads anew: a copy of one of its
-/// materials that outlives it must be given parameters of its own with addPhysicalParameters().
+/// Ownership of the physical parameters: copies of a material share them. Those that a GeometryFile made, by loading or
+/// as a copy, live as long as any material that shares them, as do those that sharePhysicalParameters() stored; nobody
+/// else deletes them. Those that addPhysicalParameters() made belong to the caller, who deletes them once, after the
+/// last material that shares them; getPhysicalParameters() gives access to them.
 class QUARN_EXPORT Material {
 public:
     /// Each class has the type that bears its name. Value 21 belongs to none and stays free.
@@ -102,7 +104,10 @@ public:
     /// Null when there are none.
     PhysicalParameters* getPhysicalParameters() const { return m_physicalParameters; }
 
-    /// Stores a new copy of the parameters, or null. What was stored before is not deleted.
+    /// Stores parameters that live at least as long as this material and its copies, or null.
+    void sharePhysicalParameters(const std::shared_ptr<PhysicalParameters>& parameters);
+
+    /// Stores a new copy of the parameters, which the caller owns, or null. What was stored before is not deleted.
     void addPhysicalParameters(const PhysicalParameters* parameters);
     void addPhysicalParameters(const float& density, const float& heatCapacity, const float& thermalConductivity,
                                const float& perfussionByBlood, const float& metabolicHeat);
@@ -114,6 +119,15 @@ private:
     MaterialType m_type;
     QString m_name;
     PhysicalParameters* m_physicalParameters = nullptr;
+    std::shared_ptr<PhysicalParameters> m_sharedParameters;  // kept also when others are added
 };
+
+/// Compares objects of any two classes of materials by the operator of the left one. Without it C++20 would find that
+/// the operators of both classes match a comparison equally well.
+template <class Left, class Right>
+std::enable_if_t<std::is_base_of_v<Material, Left> && std::is_base_of_v<Material, Right>, bool> operator==(
+    const Left& left, const Right& right) {
+    return static_cast<const Material&>(left) == static_cast<const Material&>(right);
+}
 
 }  // namespace quarn

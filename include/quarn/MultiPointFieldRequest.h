@@ -9,7 +9,8 @@
 namespace quarn {
 
 /// A request for fields at a set of grid cells, into one set of result files.
-struct QUARN_EXPORT MultiPointFieldRequest {
+class QUARN_EXPORT MultiPointFieldRequest {
+public:
     bool collectTransientTotalE = false;
     bool collectTransientTotalH = false;
     bool collectTransientJ = false;

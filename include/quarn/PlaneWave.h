@@ -10,6 +10,9 @@ namespace quarn {
 /// An incident field. The base is a plane wave applied as a scattered field; the subclasses say by getType() which of
 /// them an object is, since the family has no virtual operations. Delete objects through their own class, or through
 /// deleteContents().
+///
+/// The type of an object never changes: a PlaneWave made from an object of a subclass, or assigned from one, is a plain
+/// plane wave with the members of this class.
 class QUARN_EXPORT PlaneWave {
 public:
     enum Type : std::int32_t { ScatteredField = 0, TotalFieldScatteredField = 1, Beam = 2 };
@@ -17,6 +20,8 @@ public:
 
     /// The angles of incidence are in degrees, the amplitude in V/m.
     PlaneWave(float theta, float phi, float amplitude, Polarization polarization, const QString& outputFileName);
+    PlaneWave(const PlaneWave& other);
+    PlaneWave& operator=(const PlaneWave& other);
 
     int getType() const { return m_type; }
     float getTheta() const { return m_theta; }
@@ -32,6 +37,7 @@ public:
 protected:
     PlaneWave(Type type, float theta, float phi, float amplitude, Polarization polarization,
               const QString& outputFileName);
+    PlaneWave(Type type, const PlaneWave& other);
 
 private:
     std::int32_t m_type;
@@ -47,6 +53,8 @@ class QUARN_EXPORT TFSFPlaneWave : public PlaneWave {
 public:
     TFSFPlaneWave(float theta, float phi, float amplitude, Polarization polarization, const QString& outputFileName,
                   bool xLower, bool xUpper, bool yLower, bool yUpper, bool zLower, bool zUpper);
+    TFSFPlaneWave(const TFSFPlaneWave& other);
+    TFSFPlaneWave& operator=(const TFSFPlaneWave& other) = default;
 
     bool getXLower() const { return m_xLower; }
     bool getYLower() const { return m_yLower; }
@@ -59,12 +67,12 @@ public:
     friend bool operator!=(const TFSFPlaneWave& a, const TFSFPlaneWave& b) { return !(a == b); }
 
 private:
-    bool m_xLower;
-    bool m_yLower;
-    bool m_zLower;
-    bool m_xUpper;
-    bool m_yUpper;
-    bool m_zUpper;
+    bool m_xLower = false;
+    bool m_yLower = false;
+    bool m_zLower = false;
+    bool m_xUpper = false;
+    bool m_yUpper = false;
+    bool m_zUpper = false;
 };
 
 /// A Gaussian beam with its focus and its radius there, in metres.
@@ -72,6 +80,8 @@ class QUARN_EXPORT GaussianBeam : public PlaneWave {
 public:
     GaussianBeam(float theta, float phi, float amplitude, Polarization polarization, const QString& outputFileName,
                  float xFocus, float yFocus, float zFocus, float radius);
+    GaussianBeam(const GaussianBeam& other);
+    GaussianBeam& operator=(const GaussianBeam& other) = default;
 
     float getXFocus() const { return m_xFocus; }
     float getYFocus() const { return m_yFocus; }
@@ -85,10 +95,10 @@ public:
     friend bool operator!=(const GaussianBeam& a, const GaussianBeam& b) { return !(a == b); }
 
 private:
-    float m_xFocus;
-    float m_yFocus;
-    float m_zFocus;
-    float m_radius;
+    float m_xFocus = 0.0F;
+    float m_yFocus = 0.0F;
+    float m_zFocus = 0.0F;
+    float m_radius = 0.0F;
 };
 
 }  // namespace quarn

@@ -16,6 +16,8 @@ class BoundaryConditions;
 class ComponentManager;
 class DFTParameters;
 class FarZoneRequest;
+class HACRequest;
+class MultiPointFieldRequest;
 class NearZoneMultiFieldIndexedPoint;
 class NearZoneMultiFieldInterpolatedPoint;
 class PlaneWave;
@@ -27,14 +29,13 @@ class TemperatureRiseRequest;
 class TerminationCriteria;
 class WaveGuidePortManager;
 class Waveform;
-struct HACRequest;
-struct MultiPointFieldRequest;
 
 /// The description of one simulation run.
 ///
 /// Ownership: the objects that the project points to are not its own. Setters store the pointer and delete nothing, the
 /// destructor deletes nothing, several projects may point to one object, and whoever created an object deletes it.
-/// Callers who let a load create the objects can leave that to deleteContents().
+/// Callers who let a load create the objects can leave that to deleteContents(). The destructor is not virtual: delete
+/// a project through its own class.
 ///
 /// Copying: the copy constructor copies the objects too, save waveforms, circuit components, waveguide ports, SAR
 /// planes and HAC requests, which the copy shares; assignment copies the pointers, so that both projects share
@@ -106,7 +107,6 @@ public:
     const AmbientConditions* getAmbientConditions() const { return m_ambientConditions; }
     void setAmbientConditions(AmbientConditions* conditions) { m_ambientConditions = conditions; }
 
-    /// A project without a component manager saves neither components nor static voltages.
     const StaticVoltageList* getStaticVoltageList() const { return m_staticVoltageList; }
     void setStaticVoltageList(StaticVoltageList* voltages) { m_staticVoltageList = voltages; }
     const ComponentManager* getComponentManager() const { return m_componentManager; }
@@ -196,8 +196,8 @@ protected:
 private:
     bool hasActivePort() const;
 
-    // What the default constructor allocated, until a setter hands it over or deleteContents() deletes it: a load may
-    // put other parameters in its place.
+    // What a constructor allocated, until setDFTParameters() replaces it or deleteContents() deletes it: a load may put
+    // other parameters in its place.
     DFTParameters* m_ownDFTParameters = nullptr;
 };
 

@@ -132,6 +132,15 @@ void dropLine(QTextStream& in) {
     }
 }
 
+void dropWordsOfLine(QTextStream& in, int count) {
+    const qint64 start = in.pos();
+    const int available = in.readLine().simplified().count(u' ') + 1;
+    if (available <= count) return;
+    in.seek(start);
+    QString word;
+    for (int i = 0; i < count; ++i) readWord(in, word);
+}
+
 void stripEscapeCharacters(QString& text) {
     removeCharactersWithCode(text, static_cast<int>(text.indexOf(u'\r')));
     removeCharactersWithCode(text, static_cast<int>(text.indexOf(u'\n')));

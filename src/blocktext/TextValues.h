@@ -25,6 +25,9 @@ QString readRestOfLine(QTextStream& in);
 /// Drops what is left of the line.
 void dropLine(QTextStream& in);
 
+/// Drops the next `count` words of the line, or what is left of it where it has fewer.
+void dropWordsOfLine(QTextStream& in, int count);
+
 /// Removes every character whose code equals the index of the first CR in the text, then likewise for the first LF. In
 /// practice that removes a CR at index 13 and a LF at index 10; the engine's files are read so.
 void stripEscapeCharacters(QString& text);

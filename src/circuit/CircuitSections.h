@@ -18,7 +18,9 @@ struct ComponentsPorts {
     std::unique_ptr<ComponentManager> manager;
     std::unique_ptr<StaticVoltageList> staticVoltages;
 };
-bool writeComponentsPorts(DelimManager& delim, const ComponentManager& manager,
+/// Either may be null. Without a manager and without static voltages there is nothing to write, and the result is
+/// false.
+bool writeComponentsPorts(DelimManager& delim, const ComponentManager* manager,
                           const StaticVoltageList* staticVoltages);
 ComponentsPorts readComponentsPorts(DelimManager& delim);
 

@@ -33,7 +33,7 @@ struct KindRecord {
     float inductance = 0.0F;
     int delay = 0;
     bool isActive = false;
-    int waveformIndex = 0;
+    int waveformIndex = -1;
     QString fieldExcitationFilename;
     int fieldExcitationMeshNum = -1;
     int fieldExcitationModeNum = -1;

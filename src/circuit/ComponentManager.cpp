@@ -80,11 +80,21 @@ void appendWarnings(QStringList& warnings, const PortFindings& findings) {
     warnOfKind(findings.hasDiode, "Diode");
 }
 
+// The position that an element of the list has once the null pointers are left out; -1 for a null pointer.
+std::int32_t positionWithoutNulls(const std::vector<CircuitComponent*>& components, std::int32_t position) {
+    if (position < 0) return position;
+    const auto end =
+        components.begin() + std::min<std::ptrdiff_t>(position, static_cast<std::ptrdiff_t>(components.size()));
+    if (end != components.end() && !*end) return -1;
+    return position - static_cast<std::int32_t>(std::count(components.begin(), end, nullptr));
+}
+
 }  // namespace
 
 ComponentManager::ComponentManager(const std::vector<CircuitComponent*>& components, bool computeSParameters,
                                    int activePort)
-    : m_computeSParameters(computeSParameters), m_activePort(computeSParameters ? activePort : -1) {
+    : m_computeSParameters(computeSParameters),
+      m_activePort(computeSParameters ? positionWithoutNulls(components, activePort) : -1) {
     std::copy_if(components.begin(), components.end(), std::back_inserter(m_components), [](const auto* component) {
         return component != nullptr;
     });
@@ -109,14 +119,10 @@ void ComponentManager::cacheVariables() {
     m_numberOfPorts = static_cast<std::uint32_t>(
         std::count_if(m_components.begin(), m_components.end(), [](const auto* c) { return c->isPort(); }));
     m_hasNonlinearCapacitor = hasAnyOfType(CircuitComponent::NonLinearCapacitor);
-    noteListOrder();
+    cacheNames();
 }
 
-void ComponentManager::noteListOrder() {
-    const auto isPort = [](const CircuitComponent* component) { return component->isPort(); };
-    const auto firstOther = std::find_if_not(m_components.begin(), m_components.end(), isPort);
-    m_firstOther = static_cast<std::size_t>(firstOther - m_components.begin());
-    m_portsComeFirst = std::none_of(firstOther, m_components.end(), isPort);
+void ComponentManager::cacheNames() {
     m_names.clear();
     for (const CircuitComponent* component : m_components) m_names.insert(component->getComponentName());
 }
@@ -124,7 +130,7 @@ void ComponentManager::noteListOrder() {
 void ComponentManager::clearComponents() {
     m_components.clear();
     m_numberOfPorts = 0;
-    noteListOrder();
+    cacheNames();
 }
 
 void ComponentManager::insert(CircuitComponent* component, bool checkUniqueness) {
@@ -138,9 +144,12 @@ void ComponentManager::insert(CircuitComponent* component, bool checkUniqueness)
     if (!component->isPort()) {
         m_components.push_back(component);
     } else {
-        if (!m_portsComeFirst) throw std::runtime_error("invalid order of quarn circuit components");
-        m_components.insert(m_components.begin() + static_cast<std::ptrdiff_t>(m_firstOther), component);
-        ++m_firstOther;
+        const auto isPort = [](const CircuitComponent* listed) { return listed->isPort(); };
+        const auto firstOther = std::find_if_not(m_components.begin(), m_components.end(), isPort);
+        if (std::any_of(firstOther, m_components.end(), isPort)) {
+            throw std::runtime_error("invalid order of quarn circuit components");
+        }
+        m_components.insert(firstOther, component);
         ++m_numberOfPorts;
     }
     m_names.insert(name);

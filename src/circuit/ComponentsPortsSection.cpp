@@ -67,6 +67,19 @@ void writeComponent(DelimManager& delim, const CircuitComponent& component, int&
     putLine(delim, key::Calibration, names::of(component.calibration()));
 }
 
+void writeComponents(DelimManager& delim, const ComponentManager& manager) {
+    int nonlinearCapacitors = 0;
+    for (const CircuitComponent* component : manager.getComponents()) {
+        writeComponent(delim, *component, nonlinearCapacitors);
+    }
+    for (const CircuitComponent* component : manager.getComponents()) {
+        if (const auto* capacitor = dynamic_cast<const NonlinearCapacitor*>(component)) {
+            const WrittenBlock coefficients(delim, key::NonlinearCapacitor);
+            writeCoefficients(delim, *capacitor);
+        }
+    }
+}
+
 // A block of a component as it was read; the coefficients of nonlinear capacitors come later in the file.
 struct Record {
     QString name = QStringLiteral("noname");
@@ -75,7 +88,7 @@ struct Record {
     unsigned x = 0;
     unsigned y = 0;
     unsigned z = 0;
-    int direction = 0;
+    int direction = CircuitComponent::UndefinedDirection;
     bool isPort = false;
     QString fileName;
     TermType termType = TermType::InputOutput;
@@ -117,15 +130,17 @@ std::unique_ptr<CircuitComponent> componentOf(const Record& record,
     return makeComponent(base, record.kind, capacitors);
 }
 
-// The active port is the place of the last active record, also where a record before it makes no component.
+// The active port is the position of the last active record's component. A record without a component does not count.
 std::unique_ptr<ComponentManager> managerOf(const std::vector<Record>& records,
                                             const std::vector<CapacitorCoefficients>& capacitors,
                                             bool computeSParameters) {
     Components components;
     int activePort = -1;
-    for (std::size_t i = 0; i < records.size(); ++i) {
-        if (auto component = componentOf(records[i], capacitors)) components.push_back(std::move(component));
-        if (computeSParameters && records[i].kind.isActive) activePort = static_cast<int>(i);
+    for (const Record& record : records) {
+        auto component = componentOf(record, capacitors);
+        if (!component) continue;
+        if (computeSParameters && record.kind.isActive) activePort = static_cast<int>(components.size());
+        components.push_back(std::move(component));
     }
     std::vector<CircuitComponent*> pointers;
     for (const auto& component : components) pointers.push_back(component.get());
@@ -177,21 +192,14 @@ void readStaticVoltagePoint(DelimManager& delim, StaticVoltageList& voltages) {
 
 }  // namespace
 
-bool writeComponentsPorts(DelimManager& delim, const ComponentManager& manager,
+bool writeComponentsPorts(DelimManager& delim, const ComponentManager* manager,
                           const StaticVoltageList* staticVoltages) {
+    const bool hasStaticVoltages = staticVoltages && !staticVoltages->getPoints().empty();
+    if (!manager && !hasStaticVoltages) return false;
     const WrittenBlock block(delim, key::ComponentsPorts);
-    putLine(delim, key::PortType, manager.computeSParameters() ? 1 : 0);
-    int nonlinearCapacitors = 0;
-    for (const CircuitComponent* component : manager.getComponents()) {
-        writeComponent(delim, *component, nonlinearCapacitors);
-    }
-    for (const CircuitComponent* component : manager.getComponents()) {
-        if (const auto* capacitor = dynamic_cast<const NonlinearCapacitor*>(component)) {
-            const WrittenBlock coefficients(delim, key::NonlinearCapacitor);
-            writeCoefficients(delim, *capacitor);
-        }
-    }
-    if (staticVoltages && !staticVoltages->getPoints().empty()) writeStaticVoltages(delim, *staticVoltages);
+    putLine(delim, key::PortType, manager && manager->computeSParameters() ? 1 : 0);
+    if (manager) writeComponents(delim, *manager);
+    if (hasStaticVoltages) writeStaticVoltages(delim, *staticVoltages);
     return isOk(delim);
 }
 

@@ -59,9 +59,7 @@ public:
 
 private:
     void add(const NumberedBox& box, const NumberedCell& cell) {
-        if (m_pairs.size() == m_limit) {
-            throw std::runtime_error("quarn::GridIndexBoxes::setupBoxExclusions: the boxes overlap too much");
-        }
+        if (m_pairs.size() == m_limit) throwTooMuchOverlap();
         m_pairs.push_back({box.number, cell.number});
     }
 
@@ -108,6 +106,10 @@ private:
 };
 
 }  // namespace
+
+void throwTooMuchOverlap() {
+    throw std::runtime_error("quarn::GridIndexBoxes::setupBoxExclusions: the boxes overlap too much");
+}
 
 std::vector<BoxAndCell> findCellsInBoxes(const std::vector<Box>& boxes, const std::vector<ivec3>& cells,
                                          std::size_t limit) {

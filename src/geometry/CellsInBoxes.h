@@ -14,6 +14,9 @@ struct BoxAndCell {
     std::uint32_t cell;
 };
 
+/// Throws the std::runtime_error for more pairs than are allowed.
+[[noreturn]] void throwTooMuchOverlap();
+
 /// Every pair of a box and a cell in it, ordered by box, then cell. With n boxes and cells it takes a time of order
 /// n log^3 n at most, besides the pairs. Throws a std::runtime_error when there are more than `limit` pairs.
 std::vector<BoxAndCell> findCellsInBoxes(const std::vector<GridIndexBoxes::Box>& boxes, const std::vector<ivec3>& cells,

@@ -27,13 +27,12 @@ std::vector<T*> joined(std::vector<T*> a, const std::vector<T*>& b) {
     return a;
 }
 
-Material* copied(const Material* material, std::vector<std::unique_ptr<PhysicalParameters>>& parameters) {
+Material* copied(const Material* material) {
     if (!material) return nullptr;
     Material* copy = nullptr;
     useAsItsKind(*material, [&copy](const auto& kind) { copy = new std::decay_t<decltype(kind)>(kind); });
     if (copy && copy->getPhysicalParameters()) {
-        copy->addPhysicalParameters(copy->getPhysicalParameters());
-        parameters.emplace_back(copy->getPhysicalParameters());
+        copy->sharePhysicalParameters(std::make_shared<PhysicalParameters>(*copy->getPhysicalParameters()));
     }
     return copy;
 }
@@ -78,8 +77,8 @@ GeometryFile::GeometryFile() = default;
 
 GeometryFile::GeometryFile(const GeometryFile& other)
     : m_conformalDielectricManager(other.m_conformalDielectricManager) {
-    for (const Material* m : other.m_electricMaterials) m_electricMaterials.push_back(copied(m, m_ownParameters));
-    for (const Material* m : other.m_magneticMaterials) m_magneticMaterials.push_back(copied(m, m_ownParameters));
+    for (const Material* m : other.m_electricMaterials) m_electricMaterials.push_back(copied(m));
+    for (const Material* m : other.m_magneticMaterials) m_magneticMaterials.push_back(copied(m));
     for (const MaterialMap* map : other.m_materialMappings) {
         m_materialMappings.push_back(map ? new MaterialMap(*map) : nullptr);
     }
@@ -103,7 +102,6 @@ void GeometryFile::swap(GeometryFile& other) {
     m_magneticMaterials.swap(other.m_magneticMaterials);
     m_materialMappings.swap(other.m_materialMappings);
     std::swap(m_conformalDielectricManager, other.m_conformalDielectricManager);
-    m_ownParameters.swap(other.m_ownParameters);
 }
 
 void GeometryFile::setElectricMaterials(const std::vector<Material*>& materials) {
@@ -128,7 +126,6 @@ void GeometryFile::install(GeometryContents& contents) {
     setElectricMaterials(released(contents.electricMaterials));
     setMagneticMaterials(released(contents.magneticMaterials));
     setMaterialMappings(released(contents.materialMappings));
-    m_ownParameters = std::move(contents.physicalParameters);
 }
 
 }  // namespace quarn

@@ -25,7 +25,6 @@ struct GeometryContents {
     std::vector<std::unique_ptr<Material>> electricMaterials;
     std::vector<std::unique_ptr<Material>> magneticMaterials;
     std::vector<std::unique_ptr<MaterialMap>> materialMappings;
-    std::vector<std::unique_ptr<PhysicalParameters>> physicalParameters;
     std::array<GridAxis, 3> gridAxes;
 };
 

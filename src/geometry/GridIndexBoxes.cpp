@@ -41,7 +41,7 @@ GridIndexBoxes::GridIndexBoxes(std::vector<Box> boxes, const std::set<ivec3>& ex
     std::vector<ivec3> cells;
     cells.reserve(exclusions.size());  // a constructor from iterators would walk the set twice, the costliest part here
     std::copy(exclusions.begin(), exclusions.end(), std::back_inserter(cells));
-    setupBoxExclusions(cells);
+    setupBoxExclusions(cells, true);
 }
 
 // A start that stopped at the largest int is never found by a search for an index.
@@ -117,7 +117,7 @@ void GridIndexBoxes::intersectBoundingBox(const ivec3& lower, const ivec3& upper
     kept.m_boxes = m_boxes;
     for (Box& box : kept.m_boxes) box = clipped(box, limits);  // empty ones go with those that are excluded completely
     kept.m_sparePoints = cellsInside(m_sparePoints);
-    kept.setupBoxExclusions(cellsInside(excludedCells()));
+    kept.setupBoxExclusions(cellsInside(excludedCells()), false);
     *this = std::move(kept);
 }
 

@@ -13,6 +13,8 @@ namespace {
 
 constexpr std::uint64_t largestInt = std::numeric_limits<std::int32_t>::max();
 
+constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
+
 // Boxes that do not overlap need each exclusion once; others may need it for each box, which in a file of a few hundred
 // kilobytes can come to gigabytes.
 std::size_t mostStored(std::size_t numBoxes, std::size_t numExclusions) {
@@ -21,11 +23,27 @@ std::size_t mostStored(std::size_t numBoxes, std::size_t numExclusions) {
     return std::max(always, forEach * (numBoxes + numExclusions));
 }
 
+// How many different cells there are in the pairs.
+std::size_t countCells(const std::vector<BoxAndCell>& pairs, std::size_t numCells) {
+    std::vector<bool> isFound(numCells);
+    for (const BoxAndCell& pair : pairs) isFound[pair.cell] = true;
+    return static_cast<std::size_t>(std::count(isFound.begin(), isFound.end(), true));
+}
+
+// Which exclusions lie in a box is known only once they are found, so that the search itself has the wider limit.
+std::vector<BoxAndCell> findWithinLimit(const std::vector<indexbox::Box>& boxes, const std::vector<ivec3>& exclusions) {
+    auto pairs = findCellsInBoxes(boxes, exclusions, mostStored(boxes.size(), exclusions.size()));
+    const bool isWithin = pairs.size() <= mostStored(boxes.size(), 0) ||
+                          pairs.size() <= mostStored(boxes.size(), countCells(pairs, exclusions.size()));
+    if (!isWithin) throwTooMuchOverlap();
+    return pairs;
+}
+
 }  // namespace
 
-void GridIndexBoxes::setupBoxExclusions(const std::vector<ivec3>& exclusions) {
+void GridIndexBoxes::setupBoxExclusions(const std::vector<ivec3>& exclusions, bool isLimited) {
     const std::vector<BoxAndCell> pairs =
-        findCellsInBoxes(m_boxes, exclusions, mostStored(m_boxes.size(), exclusions.size()));
+        isLimited ? findWithinLimit(m_boxes, exclusions) : findCellsInBoxes(m_boxes, exclusions, unlimited);
     const std::vector<Box> boxes = std::move(m_boxes);
     m_boxes.clear();
     auto pair = pairs.begin();

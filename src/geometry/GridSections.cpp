@@ -37,7 +37,7 @@ constexpr std::array<AxisText, 3> axes = {{
     {"NumberOfCellsInZ"_key, "DelZ"_key, &Grid::getNumberOfUserCellsInZ, &Grid::getUserZElectricDelta},
 }};
 
-// A count that is none becomes one that no grid takes.
+// An invalid count becomes the largest one, which no grid accepts.
 bool readCount(QTextStream& in, std::uint32_t& count) {
     constexpr auto most = std::numeric_limits<std::uint32_t>::max();
     qint64 number = 0;
@@ -76,12 +76,9 @@ bool readRuns(DelimManager& delim, Grid::Runs& runs) {
     return isRead;
 }
 
-// Reads over the words behind a key that says nothing that the grid needs.
-auto onWords(QLatin1String key, int count) {
-    return onWord(key, [count](QTextStream& in) {
-        QString word;
-        for (int i = 0; i < count; ++i) readWord(in, word);
-    });
+// Drops the words behind a key that the grid does not need, whatever they are, but nothing of the lines below.
+auto onUnusedWords(QLatin1String key, int count) {
+    return onWord(key, [count](QTextStream& in) { dropWordsOfLine(in, count); });
 }
 
 }  // namespace
@@ -94,21 +91,17 @@ void writeGridDefinition(DelimManager& delim, const Grid& grid) {
 
 bool readGridDefinition(DelimManager& delim, GeometryContents& contents) {
     auto& [x, y, z] = contents.gridAxes;
-    const auto readUnused = [](QTextStream& in) {
-        float width = 0.0F, depth = 0.0F, height = 0.0F;
-        return readAll(in, width, depth, height);
-    };
     const auto readOrigin = [&x = x, &y = y, &z = z](QTextStream& in) {
         return readAll(in, x.origin, y.origin, z.origin);
     };
     return walkBlock(delim,
                      Unknown::DropLine,
                      onWord(key::GridOriginInMeters, readOrigin),
-                     onWord(key::BaseCellSize, readUnused),
-                     onWords(key::TargetSizeOfGridInMeters, 3),
-                     onWords(key::OffsetX, 1),
-                     onWords(key::OffsetY, 1),
-                     onWords(key::OffsetZ, 1),
+                     onUnusedWords(key::BaseCellSize, 3),
+                     onUnusedWords(key::TargetSizeOfGridInMeters, 3),
+                     onUnusedWords(key::OffsetX, 1),
+                     onUnusedWords(key::OffsetY, 1),
+                     onUnusedWords(key::OffsetZ, 1),
                      onCount(axes[0].numberOfCells, x.cells),
                      onCount(axes[1].numberOfCells, y.cells),
                      onCount(axes[2].numberOfCells, z.cells));

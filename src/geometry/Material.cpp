@@ -64,6 +64,7 @@ Material::~Material() = default;
 Material& Material::operator=(const Material& other) {
     m_name = other.m_name;
     m_physicalParameters = other.m_physicalParameters;
+    m_sharedParameters = other.m_sharedParameters;
     return *this;
 }
 
@@ -71,6 +72,11 @@ bool Material::operator==(const Material& other) const {
     const bool hasParameters = m_physicalParameters != nullptr;
     return hasParameters == (other.m_physicalParameters != nullptr) && m_type == other.m_type &&
            m_name == other.m_name && (!hasParameters || *m_physicalParameters == *other.m_physicalParameters);
+}
+
+void Material::sharePhysicalParameters(const std::shared_ptr<PhysicalParameters>& parameters) {
+    m_sharedParameters = parameters;
+    m_physicalParameters = parameters.get();
 }
 
 void Material::addPhysicalParameters(const PhysicalParameters* parameters) {

@@ -33,12 +33,9 @@ bool writeList(DelimManager& delim, const std::vector<Material*>& materials) {
 }
 
 template <class Kind>
-bool readMaterial(DelimManager& delim, const QString& label, Materials& materials, GeometryContents& contents) {
+bool readMaterial(DelimManager& delim, const QString& label, Materials& materials) {
     auto material = std::make_unique<Kind>(MaterialText<Kind>::blank(label));
     const bool isRead = readLines(delim, *material, MaterialText<Kind>::lines());
-    if (material->getPhysicalParameters()) {
-        contents.physicalParameters.emplace_back(material->getPhysicalParameters());
-    }
     materials.push_back(std::move(material));
     return isRead;
 }
@@ -49,10 +46,10 @@ bool readBlocks(DelimManager& delim, GeometryContents& contents, KindList<Electr
                      Unknown::DropLine,
                      onBlock(MaterialText<Electric>::name,
                              [&](const QString& label) {
-                                 return readMaterial<Electric>(delim, label, contents.electricMaterials, contents);
+                                 return readMaterial<Electric>(delim, label, contents.electricMaterials);
                              })...,
                      onBlock(MaterialText<Magnetic>::name, [&](const QString& label) {
-                         return readMaterial<Magnetic>(delim, label, contents.magneticMaterials, contents);
+                         return readMaterial<Magnetic>(delim, label, contents.magneticMaterials);
                      })...);
 }
 

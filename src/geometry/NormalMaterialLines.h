@@ -103,7 +103,7 @@ private:
         if (PhysicalParameters* parameters = material.getPhysicalParameters()) {
             *parameters = values;
         } else {
-            material.addPhysicalParameters(&values);
+            material.sharePhysicalParameters(std::make_shared<PhysicalParameters>(values));
         }
     }
 };

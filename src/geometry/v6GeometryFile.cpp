@@ -74,15 +74,16 @@ bool readFileStart(QTextStream& in, QStringList& errors) {
     return true;
 }
 
-// A file that claims more cells than any grid has must not cost the memory for them.
-bool initialize(Grid& grid, const GeometryContents& contents, QStringList& errors) {
+// A file that claims more cells than any grid has must not cost the memory for them. It is refused even when the caller
+// does not want the grid, so that a file is either valid or not. The grid may be null.
+bool initialize(Grid* grid, const GeometryContents& contents, QStringList& errors) {
     constexpr std::uint64_t mostCells = 1U << 22;
     const auto& [x, y, z] = contents.gridAxes;
+    const auto isLaidOut = [&] {
+        return grid->initialize(x.cells, y.cells, z.cells, x.origin, y.origin, z.origin, x.runs, y.runs, z.runs, true);
+    };
     const std::uint64_t cells = std::uint64_t{x.cells} + y.cells + z.cells;
-    if (cells <= mostCells &&
-        grid.initialize(x.cells, y.cells, z.cells, x.origin, y.origin, z.origin, x.runs, y.runs, z.runs, true)) {
-        return true;
-    }
+    if (cells <= mostCells && (!grid || isLaidOut())) return true;
     errors << refusedGrid;
     return false;
 }
@@ -129,7 +130,7 @@ bool v6GeometryFile::load(const QString& path, QTextStream& stream, Grid* grid, 
     addBuiltInMaterials(contents);
     DelimManager delim(text.stream(), path);
     if (!readBlocks(delim, contents, errors)) return false;
-    if (grid && !initialize(*grid, contents, errors)) return false;
+    if (!initialize(grid, contents, errors)) return false;
     install(contents);
     return true;
 }

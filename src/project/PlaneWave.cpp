@@ -16,6 +16,24 @@ PlaneWave::PlaneWave(Type type, float theta, float phi, float amplitude, Polariz
       m_polarization(polarization),
       m_outputFileName(outputFileName) {}
 
+PlaneWave::PlaneWave(const PlaneWave& other) : PlaneWave(ScatteredField, other) {}
+
+PlaneWave::PlaneWave(Type type, const PlaneWave& other)
+    : PlaneWave(type, other.m_theta, other.m_phi, other.m_amplitude, other.m_polarization, other.m_outputFileName) {}
+
+PlaneWave& PlaneWave::operator=(const PlaneWave& other) {
+    m_theta = other.m_theta;
+    m_phi = other.m_phi;
+    m_amplitude = other.m_amplitude;
+    m_polarization = other.m_polarization;
+    m_outputFileName = other.m_outputFileName;
+    return *this;
+}
+
+TFSFPlaneWave::TFSFPlaneWave(const TFSFPlaneWave& other) : PlaneWave(TotalFieldScatteredField, other) { *this = other; }
+
+GaussianBeam::GaussianBeam(const GaussianBeam& other) : PlaneWave(Beam, other) { *this = other; }
+
 TFSFPlaneWave::TFSFPlaneWave(float theta, float phi, float amplitude, Polarization polarization,
                              const QString& outputFileName, bool xLower, bool xUpper, bool yLower, bool yUpper,
                              bool zLower, bool zUpper)

@@ -50,6 +50,7 @@ ProjectFile::ProjectFile() : m_dftParameters(new DFTParameters(false, 1)), m_own
 ProjectFile::ProjectFile(const ProjectFile& other) {
     *this = other;
     m_dftParameters = copyOf(other.m_dftParameters);
+    m_ownDFTParameters = m_dftParameters;
     m_terminationCriteria = copyOf(other.m_terminationCriteria);
     m_tdAfsTerminationCriteria = copyOf(other.m_tdAfsTerminationCriteria);
     m_boundaryConditions = copyOf(other.m_boundaryConditions);

@@ -228,7 +228,7 @@ bool v6ProjectFile::StreamInAmbientConditions(DelimManager& delim) {
 }
 
 bool v6ProjectFile::StreamOutComponentsPorts(DelimManager& delim) {
-    return m_componentManager && writeComponentsPorts(delim, *m_componentManager, m_staticVoltageList);
+    return writeComponentsPorts(delim, m_componentManager, m_staticVoltageList);
 }
 
 bool v6ProjectFile::StreamInComponentsPorts(DelimManager& delim) {

@@ -10,11 +10,11 @@ namespace quarn {
 
 class DelimManager;
 class FarZoneRequest;
+class HACRequest;
+class MultiPointFieldRequest;
 class NearZoneMultiFieldIndexedPoint;
 class NearZoneMultiFieldInterpolatedPoint;
 class SARPlane;
-struct HACRequest;
-struct MultiPointFieldRequest;
 
 bool writeIndexedPoint(DelimManager& delim, const NearZoneMultiFieldIndexedPoint& point);
 bool readIndexedPoint(DelimManager& delim, NearZoneMultiFieldIndexedPoint& point);

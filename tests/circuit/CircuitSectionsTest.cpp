@@ -197,18 +197,20 @@ TEST(CircuitSections, every_kind_and_line_type_is_written_and_read_back) {
     expectLoads(QString(text).replace("\n", "\r\n"), withoutLumped);
 }
 
-TEST(CircuitSections, without_managers_nothing_is_written) {
+TEST(CircuitSections, static_voltages_need_no_manager) {
+    const QString section =
+        "ComponentsPorts{ PortType 0; StaticVoltageInfo{ Residual 2; ConductorThreshold 1; MaximumIterations 3; } "
+        "StaticVoltagePoint{ XLocation 4; YLocation 5; ZLocation 6; Voltage 7; } } ";
     OwningProject project;
     load(project, fileOf(""));
-    project.setStaticVoltageList(new StaticVoltageList(1, 2, 3, {{4, 5, 6, 7}}));
+    StaticVoltageList noVoltages;
+    project.setStaticVoltageList(&noVoltages);
     EXPECT_EQ(savedSections(project), "");
+    project.setStaticVoltageList(new StaticVoltageList(1, 2, 3, {{4, 5, 6, 7}}));
+    EXPECT_EQ(savedSections(project), expanded(section));
     project.setComponentManager(new ComponentManager({}, false, 0));
     project.setWaveGuidePortManager(new WaveGuidePortManager);
-    EXPECT_EQ(
-        savedSections(project),
-        expanded("ComponentsPorts{ PortType 0; StaticVoltageInfo{ Residual 2; ConductorThreshold 1; "
-                 "MaximumIterations 3; } StaticVoltagePoint{ XLocation 4; YLocation 5; ZLocation 6; Voltage 7; } } "
-                 "WaveGuidePorts{ } "));
+    EXPECT_EQ(savedSections(project), expanded(section + "WaveGuidePorts{ } "));
 }
 
 // Text that ends anywhere, in a word too, loads what it can.
@@ -277,6 +279,10 @@ TEST(CircuitSections, the_last_active_record_is_the_active_port) {
         {"last_of_two", active + active + feed + "PortType 1; ", 1, {false, true, false}},
         {"any_port_type_but_0", "PortType 2; " + feed + active, 1, {false, true}},
         {"any_kind_counts", "PortType 1; " + active + "FeedData{ Source 0; IsActive ; } ", 1, {false, false}},
+        {"records_without_a_component_do_not_count",
+         "PortType 1; FeedData{ IsPort; } " + feed + "FeedData{ Source 8; } " + active + "FeedData{ IsActive; } ",
+         1,
+         {false, true}},
         {"none", "PortType 1; " + feed, -1, {false}},
     };
     for (const Row& row : rows) {
@@ -293,8 +299,7 @@ TEST(CircuitSections, the_last_active_record_is_the_active_port) {
 }
 
 // A record as it is saved when only its kind was given.
-QString record(const QString& kind,
-               const QString& cell = "XLocation 1; YLocation 1; ZLocation 1; CellEdgeDirection 0; ",
+QString record(const QString& kind, const QString& cell = "XLocation 1; YLocation 1; ZLocation 1; ",
                const QString& roles = "TermType InputOutput; Calibration KeepSelfKeepMutual; ") {
     return "FeedData{ ComponentName noname; " + cell + "FileName ; " + kind + roles + "} ";
 }
@@ -331,6 +336,11 @@ QString capacitor(int index) {
     return record(QString("Source 5; Resistance 0; NonlinearCapIndex %1; Polarity -1; ").arg(index));
 }
 
+QString activeFeedWith(const QString& index) {
+    return record("Source 1; Polarity -1; Resistance 0; Inductance 0; Capacitance 0; Amplitude 0; Phase 0; Delay 0; Type 2; "
+                  "IsActive ; WaveformIndex " + index + "; ");
+}
+
 QString switchOf(const QString& content) { return record("Source 6; Polarity -1; ProgrammableSwitch{ " + content + "} "); }
 
 const Row componentRows[] = {
@@ -339,14 +349,14 @@ const Row componentRows[] = {
     {"cells_count_from_1_in_the_file", "FeedData{ Source 0; XLocation 0; YLocation 7; ZLocation 1; CellEdgeDirection 1; }",
      record(loadOf(), "XLocation 0; YLocation 7; ZLocation 1; CellEdgeDirection 1; ")},
     {"unknown_directions_are_not_saved", "FeedData{ Source 0; CellEdgeDirection 3; } FeedData{ Source 0; CellEdgeDirection -1; }",
-     record(loadOf(), "XLocation 1; YLocation 1; ZLocation 1; ").repeated(2)},
+     record(loadOf()).repeated(2)},
     {"names_are_the_rest_of_their_line_trimmed", "FeedData{ ComponentName  a  b ; FileName \tc d ; Source 9; SFileName e f; }",
      record("Source 9; SFileName e f; ").replace("noname", "a  b").replace("FileName ; ", "FileName c d; ")},
     {"feed_without_the_flag_is_inactive", "FeedData{ Source 1; WaveformIndex 4; " + kinds + "}",
      record("Source 1; Polarity -1; " + kinds + "Type 2; ")},
     {"flag_of_activity_with_and_without_a_blank", "FeedData{ Source 1; IsActive ; WaveformIndex 4; } FeedData{ Source 1; IsActive; WaveformIndex 4; }",
-     record("Source 1; Polarity -1; Resistance 0; Inductance 0; Capacitance 0; Amplitude 0; Phase 0; Delay 0; Type 2; "
-            "IsActive ; WaveformIndex 4; ").repeated(2)},
+     activeFeedWith("4").repeated(2)},
+    {"active_feed_without_a_waveform_index", "FeedData{ Source 1; IsActive; }", activeFeedWith("-1")},
     {"negative_excitation_numbers_are_not_saved", "FeedData{ Source 2; " + kinds + "FieldExcitationFilename ; FieldExcitationMeshNum -1; FieldExcitationModeNum 0; }",
      record("Source 2; Polarity -1; " + kinds + "Type 2; FieldExcitationModeNum 0; ")},
     {"old_switch_that_is_open", "FeedData{ Source 3; SwitchTimeStep 10; SwitchDuration 5; }",

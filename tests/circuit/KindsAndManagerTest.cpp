@@ -155,10 +155,21 @@ TEST(ComponentManager, insertions_that_fail_leave_the_list) {
     EXPECT_EQ(namesOf(ports), (QStringList{"P1", "P1", "p1"}));
 }
 
+TEST(ComponentManager, listed_components_that_change_their_role_are_noticed) {
+    Component p1 = base("P1"), a = base("A", false), b = base("B", false), p2 = base("P2"), p3 = base("P3");
+    Manager manager({&p1, &a, &b}, false, -1);
+    a = base("A");
+    manager.insert(&p2, true);
+    EXPECT_EQ(namesOf(manager), (QStringList{"P1", "A", "P2", "B"}));
+    p1 = base("P1", false);
+    EXPECT_EQ(thrownBy([&] { manager.insert(&p3, true); }), "invalid order of quarn circuit components");
+}
+
 TEST(ComponentManager, null_pointers_are_left_out) {
     ComponentManager manager({nullptr}, true, 0);
     manager.insert(nullptr, true);
     EXPECT_TRUE(manager.getComponents().empty());
+    EXPECT_EQ(manager.getActivePort(), -1);
     WaveGuidePortManager ports({nullptr});
     ports.insert(nullptr);
     EXPECT_TRUE(ports.getWaveguidePorts().empty());
@@ -188,6 +199,19 @@ TEST(ComponentManager, s_parameters_leave_one_feed_active) {
     EXPECT_TRUE(!a.isActive() && b.isActive() && !c.isActive());
     EXPECT_EQ(a.getWaveformIndex(), -1);
     EXPECT_EQ(b.getWaveformIndex(), 0);
+}
+
+TEST(ComponentManager, the_active_port_is_a_position_among_null_pointers_too) {
+    struct Row {
+        int given, listed;
+        bool isActive;
+    };
+    for (const auto& [given, listed, isActive] :
+         {Row{3, 1, true}, {1, 0, false}, {2, -1, false}, {4, 2, false}, {-2, -2, false}}) {
+        Feed a = feedOf("a", 50, 0, 0), b = feedOf("b", 50, 0, 0);
+        EXPECT_EQ(Manager({nullptr, &a, nullptr, &b}, true, given).getActivePort(), listed);
+        EXPECT_EQ(b.isActive(), isActive) << given;
+    }
 }
 
 // What is found with the port beside an active feed of 50 ohms, 2 H and 3 F, or of 50 ohms alone.

@@ -44,7 +44,7 @@ TEST(GeometryFile, is_loaded_and_saved_as_it_was) {
     });
 }
 
-TEST(GeometryFile, is_replaced_by_asecond_load) {
+TEST(GeometryFile, is_replaced_by_a_second_load) {
     v6GeometryFile file;
     ASSERT_TRUE(loadText(file, wholeFile));
     ASSERT_TRUE(loadText(file, wholeFile));
@@ -84,6 +84,10 @@ const Reading readings[] = {
      expanded("GridDefinition{ OffsetX a; TargetSizeOfGridInMeters a b c; BaseCellSize 1 2 3; NumberOfCellsInY +2;"
               "GridOriginInMeters 1 2 3; NumberOfCellsInX 1; Unheard NumberOfCellsInX 9; }"),
      expanded("GridDefinition{ GridOriginInMeters 1 2 3; NumberOfCellsInX 1; NumberOfCellsInY 2; }")},
+    {"what_is_dropped_may_be_anything",
+     expanded("GridDefinition{ BaseCellSize a b c; OffsetX ; NumberOfCellsInX 1; TargetSizeOfGridInMeters 1;"
+              "BaseCellSize 1 x 3 NumberOfCellsInY 2; }"),
+     expanded("GridDefinition{ NumberOfCellsInX 1; NumberOfCellsInY 2; }")},
     {"the_origin_is_single_precision",
      expanded("GridDefinition{ GridOriginInMeters 0.1 0 0; }"),
      expanded("GridDefinition{ GridOriginInMeters 0.10000000149011612 0 0; }")},
@@ -122,7 +126,7 @@ TEST(GeometryFile, writes_a_run_of_nans_once) {
     EXPECT_EQ(savedText(v6GeometryFile(), grid).count("nan"), 1);
 }
 
-TEST(GeometryFile, skips_the_extra_integer_of_the_header_only_behind_aone) {
+TEST(GeometryFile, skips_the_extra_integer_of_the_header_only_behind_a_one) {
     const QString header = versionLine + "mesh 1 -2 3 1.5 2e3 nan -1 0 .5 a b c d e f ";
     v6GeometryFile file;
     ASSERT_TRUE(loadText(file, header + "1 begin_<Unheard>\n" + maps));
@@ -178,9 +182,11 @@ TEST_P(RefusedFile, leaves_everything_as_it_was) {
     Grid grid;
     ASSERT_TRUE(loadText(file, wholeFile, &grid));
     const Material* material = file.getElectricMaterials()[2];
-    QStringList errors;
-    EXPECT_FALSE(loadText(file, GetParam().text, &grid, &errors));
-    EXPECT_EQ(errors, QStringList(GetParam().error));
+    for (Grid* wanted : {&grid, static_cast<Grid*>(nullptr)}) {
+        QStringList errors;
+        EXPECT_FALSE(loadText(file, GetParam().text, wanted, &errors));
+        EXPECT_EQ(errors, QStringList(GetParam().error));
+    }
     EXPECT_EQ(file.getElectricMaterials()[2], material);
     EXPECT_EQ(savedText(file, grid), wholeFile);
 }
@@ -249,6 +255,30 @@ TEST(GeometryFile, copies_are_deep) {
     file.setElectricMaterials({});
     file.setMaterialMappings({});
     EXPECT_EQ(savedText(assigned), before);
+}
+
+TEST(GeometryFile, physical_parameters_outlive_the_file_that_made_them) {
+    const QString text = withMaterials(expanded("normal_electric{ density 3; }"));
+    auto file = std::make_unique<v6GeometryFile>();
+    ASSERT_TRUE(loadText(*file, text));
+    const auto normalIn = [](const GeometryFile& f) {
+        return dynamic_cast<ElectricNormal*>(f.getElectricMaterials()[2]);
+    };
+    const ElectricNormal fromLoad = *normalIn(*file);
+    const ElectricNormal fromCopy = *normalIn(v6GeometryFile(*file));
+    ElectricNormal replaced = fromLoad;
+    const PhysicalParameters* const loaded = replaced.getPhysicalParameters();
+    const PhysicalParameters own(1, 2, 3, 4, 5);
+    replaced.addPhysicalParameters(&own);
+    const std::unique_ptr<PhysicalParameters> added(replaced.getPhysicalParameters());
+    v6GeometryFile second;
+    second.setElectricMaterials({new ElectricNormal(fromLoad), new ElectricNormal(replaced)});
+    std::unique_ptr<GeometryFile>(std::move(file)).reset();
+    EXPECT_EQ(fromLoad.getPhysicalParameters()->getDensity(), 3.0F);
+    EXPECT_EQ(fromCopy.getPhysicalParameters()->getDensity(), 3.0F);
+    EXPECT_EQ(*second.getElectricMaterials()[1]->getPhysicalParameters(), own);
+    second.setElectricMaterials({});
+    EXPECT_EQ(*loaded, *fromLoad.getPhysicalParameters()) << "what was stored before is not deleted";
 }
 
 class CountedWire : public ElectricThinWire {

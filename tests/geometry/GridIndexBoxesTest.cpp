@@ -210,6 +210,14 @@ TEST(GridIndexBoxes, boxesThatRepeatTooManyExclusionsAreRefused) {
     Exclusions exclusions;
     for (int z = 0; z < 1100; ++z) exclusions.emplace(0, 0, z);
     EXPECT_THROW(GridIndexBoxes(boxes, exclusions, {}), std::runtime_error);
+
+    for (int z = 0; z < 3000; ++z) exclusions.emplace(5, 0, z);
+    EXPECT_THROW(GridIndexBoxes(boxes, exclusions, {}), std::runtime_error) << "exclusions in no box change nothing";
+    std::vector<Box> more = boxes;
+    more.push_back({{5, 0, 0}, {5, 0, 9999}});
+    GridIndexBoxes withinLimit(more, exclusions, {});
+    withinLimit.intersectBoundingBox({0, 0, 0}, {0, 0, 9999});
+    EXPECT_EQ(withinLimit.getNumPoints(), 1100 * 8900) << "what is kept was stored before and is stored again";
 }
 
 TEST(GridIndexBoxes, movedFromObjectIsEmptyAndUsable) {

@@ -77,6 +77,28 @@ TEST(ProjectModel, contents_are_deleted_once_and_forgotten) {
     deleteContents(project);
 }
 
+// The address sanitizer sees what is left.
+TEST(ProjectModel, copies_and_their_loaded_contents_are_deleted) {
+    OwningProject source;
+    v6ProjectFile copy(source);
+    load(copy, expanded("Version 8; FDTDProject{ RequestResults{ DFTParameters{ NormalizeFields; } } }"));
+    EXPECT_NE(*copy.getDFTParameters(), *source.getDFTParameters());
+    deleteContents(copy);
+}
+
+TEST(ProjectModel, waves_that_were_sliced_are_plain) {
+    const TFSFPlaneWave box(1, 2, 3, PlaneWave::Theta, "a", true, false, true, false, true, true);
+    const GaussianBeam beam(1, 2, 3, PlaneWave::Theta, "a", 4, 5, 6, 7);
+    const PlaneWave plain(1, 2, 3, PlaneWave::Theta, "a");
+    PlaneWave assigned(4, 5, 6, PlaneWave::Phi, "b");
+    EXPECT_EQ(assigned = beam, plain);
+    EXPECT_EQ(PlaneWave(box), plain);
+    EXPECT_EQ(PlaneWave(beam), plain);
+    TFSFPlaneWave filled(4, 5, 6, PlaneWave::Phi, "b", true, false, true, false, true, true);
+    static_cast<PlaneWave&>(filled) = beam;
+    EXPECT_EQ(filled, box) << "an object never changes its class";
+}
+
 TEST(ProjectModel, load_replaces_objects_of_the_caller_without_deleting_them) {
     B boundaries(B::PEC, B::PEC, B::PEC, B::PEC, B::PEC, B::PEC, 1);
     OwningProject project;

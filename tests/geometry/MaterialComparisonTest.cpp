@@ -1,0 +1,38 @@
+// Compiled as C++20, where a comparison also tries the operators with their sides exchanged, and with the warnings that
+// users of the headers may have turned on.
+
+#include <algorithm>
+#include <list>
+
+#include "TestSupport.h"
+#include "quarn/quarn.h"
+
+namespace quarn::test {
+namespace {
+
+template <class Left, class... Right>
+constexpr bool comparesWith =
+    ((std::is_same_v<decltype(std::declval<Left&>() == std::declval<const Right&>()), bool> &&
+      std::is_same_v<decltype(std::declval<const Left&>() != std::declval<Right&>()), bool>)&&...);
+
+template <class... Kinds>
+constexpr bool allCompare = (comparesWith<Kinds, Kinds...> && ...);
+
+static_assert(__cplusplus > 201703L);
+static_assert(allCompare<Material, ElectricFreeSpace, ElectricPerfectConductor, ElectricNormal, ElectricSampled,
+                         ElectricDebye, ElectricLorentz, ElectricAnisotropic, ElectricNonlinear, ElectricThinWire,
+                         Electric3PoleDebye, Electric7PoleDebye, ElectricDjordjevic, ElectricDebyeLorentzColeCole,
+                         ElectricSurfaceResistance, MagneticFreeSpace, MagneticPerfectConductor, MagneticNormal,
+                         MagneticFerrite, MagneticDebye, Magnetic7PoleDebye, MagneticNonlinear, MagneticSampled>);
+
+TEST(MaterialComparison, finds_materials_in_lists) {
+    const std::list<ElectricThinWire> wires{ElectricThinWire("thin", 1), ElectricThinWire("thick", 2)};
+    const Material& thick = wires.back();
+    EXPECT_EQ(std::find(wires.begin(), wires.end(), ElectricThinWire("thick", 2)), std::prev(wires.end()));
+    EXPECT_EQ(std::find(wires.begin(), wires.end(), thick), std::prev(wires.end()));
+    EXPECT_EQ(std::find(wires.begin(), wires.end(), ElectricFreeSpace("thick")), wires.end());
+    EXPECT_TRUE(thick == wires.back() && thick != wires.front() && thick != ElectricFreeSpace("thick"));
+}
+
+}  // namespace
+}  // namespace quarn::test
