@@ -31,19 +31,19 @@ Made makeNonlinear(const Values& v) {
         v.data(), v.data() + 3, v.data() + 6, v.data() + 9, v.data() + 12, v.data() + 15, v.data() + 18, v.data() + 21);
 }
 
-template <std::size_t... i>
-Made makeSevenPoles(const Values& v, std::index_sequence<i...>) {
-    return make<Electric7PoleDebye>(v[i]..., Values{v[16], 1});
+template <class Kind, std::size_t... i, class... Last>
+Made fromValues(const Values& v, std::index_sequence<i...>, const Last&... last) {
+    return make<Kind>(v[i]..., last...);
 }
 
-template <std::size_t... i>
-Made makeMagneticSevenPoles(const Values& v, std::index_sequence<i...>) {
-    return make<Magnetic7PoleDebye>(v[i]...);
+// From as many floats, and in the second from a list of one more.
+template <class Kind, std::size_t count>
+Made fromFloats(const Values& v) {
+    return fromValues<Kind>(v, std::make_index_sequence<count>());
 }
-
-template <std::size_t... i>
-Made makeMagneticNonlinear(const Values& v, std::index_sequence<i...>) {
-    return make<MagneticNonlinear>(v[i]...);
+template <class Kind, std::size_t count>
+Made fromFloatsAndList(const Values& v) {
+    return fromValues<Kind>(v, std::make_index_sequence<count>(), Values{v[count], 1});
 }
 
 Made makeNormal(const Values& v) {
@@ -120,90 +120,38 @@ TEST_P(EachKind, is_unequal_where_any_one_compared_field_differs) {
     }
 }
 
+template <class Kind>
+Made withoutSamples(const Values&) {
+    return make<Kind>(std::vector<typename Kind::Parameters>());
+}
+
+// clang-format off
+using M = Material;
 const Kind kinds[] = {
-    {"electric_free_space", Material::ElectricFreeSpace, 0, 0, [](const Values&) { return make<ElectricFreeSpace>(); }},
-    {"electric_perfect_conductor",
-     Material::ElectricPerfectConductor,
-     1,
-     0,
-     [](const Values&) { return make<ElectricPerfectConductor>(); }},
-    {"electric_normal", Material::ElectricNormal, 2, 10, makeNormal},
-    {"electric_sampled",
-     Material::ElectricSampled,
-     3,
-     0,
-     [](const Values&) { return make<ElectricSampled>(std::vector<ElectricSampled::Parameters>()); }},
-    {"electric_debye",
-     Material::ElectricDebye,
-     4,
-     5,
-     [](const Values& v) {
-         return make<ElectricDebye>(v[0], v[1], v[2], v[3], Values{1, v[4]});
-     }},
-    {"electric_lorentz",
-     Material::ElectricLorentz,
-     5,
-     6,
-     [](const Values& v) { return make<ElectricLorentz>(v[0], v[1], v[2], v[3], v[4], Values{v[5]}); }},
-    {"electric_anisotropic", Material::ElectricAnisotropic, 6, 18, makeAnisotropic},
-    {"electric_nonlinear", Material::ElectricNonlinear, 7, 24, makeNonlinear},
-    {"electric_thin_wire",
-     Material::ElectricThinWire,
-     8,
-     1,
-     [](const Values& v) { return make<ElectricThinWire>(v[0]); }},
-    {"electric_3_pole_debye",
-     Material::Electric3PoleDebye,
-     9,
-     9,
-     [](const Values& v) {
-         return make<Electric3PoleDebye>(v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], Values{v[8]});
-     }},
-    {"electric_7_pole_debye",
-     Material::Electric7PoleDebye,
-     10,
-     17,
-     [](const Values& v) { return makeSevenPoles(v, std::make_index_sequence<16>()); }},
-    {"electric_djordjevic", Material::ElectricDjordjevic, 11, 6, makeDjordjevic},
-    {"electric_debye_lorentz_cole_cole", Material::ElectricDebyeLorentzColeCole, 12, 10, makeDebyeLorentzColeCole},
-    {"magnetic_free_space",
-     Material::MagneticFreeSpace,
-     13,
-     0,
-     [](const Values&) { return make<MagneticFreeSpace>(); }},
-    {"magnetic_perfect_conductor",
-     Material::MagneticPerfectConductor,
-     14,
-     0,
-     [](const Values&) { return make<MagneticPerfectConductor>(); }},
-    {"magnetic_normal", Material::MagneticNormal, 15, 6, makeMagneticNormal},
-    {"magnetic_ferrite",
-     Material::MagneticFerrite,
-     16,
-     5,
-     [](const Values& v) { return make<MagneticFerrite>(v[0], v[1], v[2], v[3], v[4]); }},
-    {"magnetic_debye",
-     Material::MagneticDebye,
-     17,
-     4,
-     [](const Values& v) { return make<MagneticDebye>(v[0], v[1], v[2], v[3]); }},
-    {"magnetic_7_pole_debye",
-     Material::Magnetic7PoleDebye,
-     18,
-     16,
-     [](const Values& v) { return makeMagneticSevenPoles(v, std::make_index_sequence<16>()); }},
-    {"magnetic_nonlinear",
-     Material::MagneticNonlinear,
-     19,
-     14,
-     [](const Values& v) { return makeMagneticNonlinear(v, std::make_index_sequence<14>()); }},
-    {"magnetic_sampled",
-     Material::MagneticSampled,
-     20,
-     0,
-     [](const Values&) { return make<MagneticSampled>(std::vector<MagneticSampled::Parameters>()); }},
-    {"electric_surface_resistance", Material::ElectricSurfaceResistance, 22, 6, makeSurfaceResistance},
+    {"electric_free_space", M::ElectricFreeSpace, 0, 0, fromFloats<ElectricFreeSpace, 0>},
+    {"electric_perfect_conductor", M::ElectricPerfectConductor, 1, 0, fromFloats<ElectricPerfectConductor, 0>},
+    {"electric_normal", M::ElectricNormal, 2, 10, makeNormal},
+    {"electric_sampled", M::ElectricSampled, 3, 0, withoutSamples<ElectricSampled>},
+    {"electric_debye", M::ElectricDebye, 4, 5, fromFloatsAndList<ElectricDebye, 4>},
+    {"electric_lorentz", M::ElectricLorentz, 5, 6, fromFloatsAndList<ElectricLorentz, 5>},
+    {"electric_anisotropic", M::ElectricAnisotropic, 6, 18, makeAnisotropic},
+    {"electric_nonlinear", M::ElectricNonlinear, 7, 24, makeNonlinear},
+    {"electric_thin_wire", M::ElectricThinWire, 8, 1, fromFloats<ElectricThinWire, 1>},
+    {"electric_3_pole_debye", M::Electric3PoleDebye, 9, 9, fromFloatsAndList<Electric3PoleDebye, 8>},
+    {"electric_7_pole_debye", M::Electric7PoleDebye, 10, 17, fromFloatsAndList<Electric7PoleDebye, 16>},
+    {"electric_djordjevic", M::ElectricDjordjevic, 11, 6, makeDjordjevic},
+    {"electric_debye_lorentz_cole_cole", M::ElectricDebyeLorentzColeCole, 12, 10, makeDebyeLorentzColeCole},
+    {"magnetic_free_space", M::MagneticFreeSpace, 13, 0, fromFloats<MagneticFreeSpace, 0>},
+    {"magnetic_perfect_conductor", M::MagneticPerfectConductor, 14, 0, fromFloats<MagneticPerfectConductor, 0>},
+    {"magnetic_normal", M::MagneticNormal, 15, 6, makeMagneticNormal},
+    {"magnetic_ferrite", M::MagneticFerrite, 16, 5, fromFloats<MagneticFerrite, 5>},
+    {"magnetic_debye", M::MagneticDebye, 17, 4, fromFloats<MagneticDebye, 4>},
+    {"magnetic_7_pole_debye", M::Magnetic7PoleDebye, 18, 16, fromFloats<Magnetic7PoleDebye, 16>},
+    {"magnetic_nonlinear", M::MagneticNonlinear, 19, 14, fromFloats<MagneticNonlinear, 14>},
+    {"magnetic_sampled", M::MagneticSampled, 20, 0, withoutSamples<MagneticSampled>},
+    {"electric_surface_resistance", M::ElectricSurfaceResistance, 22, 6, makeSurfaceResistance},
 };
+// clang-format on
 INSTANTIATE_TEST_SUITE_P(Material, EachKind, testing::ValuesIn(kinds), rowName<Kind>);
 
 struct Pair {
@@ -232,37 +180,20 @@ bool compareWith(const PhysicalParameters* first, const PhysicalParameters* seco
     return result;
 }
 
+// clang-format off
 const Pair pairs[] = {
-    {"the_uncorrected_conductivity_does_not_count",
-     true,
-     [] { return ElectricNormal("m", 1, 2, 3) == ElectricNormal("m", 1, 9, 3); }},
-    {"electric_samples_do_not_count",
-     true,
-     [] {
-         return ElectricSampled("m", {{1, 2, 3}}) == ElectricSampled("m", {});
-     }},
-    {"magnetic_samples_do_not_count",
-     true,
-     [] {
-         return MagneticSampled("m", {{1, 2, 3}}) == MagneticSampled("m", {});
-     }},
-    {"lists_of_different_length_differ",
-     false,
-     [] {
-         return ElectricDebye("m", 1, 1, 1, 1, {1}) == ElectricDebye("m", 1, 1, 1, 1, {1, 2});
-     }},
+    {"the_uncorrected_conductivity_does_not_count", true, [] { return ElectricNormal("m", 1, 2, 3) == ElectricNormal("m", 1, 9, 3); }},
+    {"electric_samples_do_not_count", true, [] { return ElectricSampled("m", {{1, 2, 3}}) == ElectricSampled("m", {}); }},
+    {"magnetic_samples_do_not_count", true, [] { return MagneticSampled("m", {{1, 2, 3}}) == MagneticSampled("m", {}); }},
+    {"lists_of_different_length_differ", false, [] { return ElectricDebye("m", 1, 1, 1, 1, {1}) == ElectricDebye("m", 1, 1, 1, 1, {1, 2}); }},
     {"classes_differ", false, [] { return ElectricNormal("m", 1, 1, 1) == ElectricSurfaceResistance("m", 1, 1); }},
     {"names_differ_by_case", false, [] { return ElectricFreeSpace("m") == ElectricFreeSpace("M"); }},
-    {"a_nan_equals_nothing",
-     false,
-     [] {
-         const ElectricThinWire wire("m", std::nanf(""));
-         return wire == wire;
-     }},
+    {"a_nan_equals_nothing", false, [] { const ElectricThinWire wire("m", std::nanf("")); return wire == wire; }},
     {"equal_parameters", true, [] { return compareWith(&tissue, &tissue); }},
     {"different_parameters", false, [] { return compareWith(&tissue, &otherTissue); }},
     {"parameters_on_one_side", false, [] { return compareWith(&tissue, nullptr); }},
 };
+// clang-format on
 INSTANTIATE_TEST_SUITE_P(Material, PairOfMaterials, testing::ValuesIn(pairs), rowName<Pair>);
 
 TEST(Material, starts_with_the_defaults) {

@@ -1,81 +1,62 @@
-// No value of an object is left out when objects are compared.
+// Equality compares every value of an object.
 
+#include "EachMember.h"
 #include "TestSupport.h"
 #include "quarn/quarn.h"
 
 namespace quarn::test {
 namespace {
 
-// Of objects that differ in one value each.
-template <class T>
-void expectAllDifferent(const std::vector<T>& objects) {
-    for (std::size_t i = 0; i < objects.size(); ++i) {
-        for (std::size_t j = 0; j < objects.size(); ++j) {
-            EXPECT_EQ(objects[i] == objects[j], i == j) << i << " and " << j;
-            EXPECT_EQ(objects[i] != objects[j], i != j) << i << " and " << j;
-        }
-    }
-}
+using std::tuple;
+
+const QString none, some("a");
+const std::vector<float> noValues, values{1};
 
 TEST(Equality, of_sources_counts_every_value) {
     using W = Waveform;
-    expectAllDifferent<W>({{W::Gaussian, 0, 0, {}, {}},
-                           {W::Step, 0, 0, {}, {}},
-                           {W::Gaussian, 1, 0, {}, {}},
-                           {W::Gaussian, 0, 1, {}, {}},
-                           {W::Gaussian, 0, 0, {1}, {}},
-                           {W::Gaussian, 0, 0, {}, {1}}});
+    expectAllDifferent(changedOneByOne<W>(tuple(W::Gaussian, 0.0F, 0.0F, noValues, noValues),
+                                          tuple(W::Step, 1.0F, 1.0F, values, values)));
     using P = PlaneWave;
-    expectAllDifferent<P>({{0, 0, 0, P::Phi, ""},
-                           {1, 0, 0, P::Phi, ""},
-                           {0, 1, 0, P::Phi, ""},
-                           {0, 0, 1, P::Phi, ""},
-                           {0, 0, 0, P::Theta, ""},
-                           {0, 0, 0, P::Phi, "a"}});
-    using T = TFSFPlaneWave;
-    expectAllDifferent<T>({{0, 0, 0, P::Phi, "", false, false, false, false, false, false},
-                           {1, 0, 0, P::Phi, "", false, false, false, false, false, false},
-                           {0, 0, 0, P::Phi, "", true, false, false, false, false, false},
-                           {0, 0, 0, P::Phi, "", false, true, false, false, false, false},
-                           {0, 0, 0, P::Phi, "", false, false, true, false, false, false},
-                           {0, 0, 0, P::Phi, "", false, false, false, true, false, false},
-                           {0, 0, 0, P::Phi, "", false, false, false, false, true, false},
-                           {0, 0, 0, P::Phi, "", false, false, false, false, false, true}});
-    expectAllDifferent<GaussianBeam>({{0, 0, 0, P::Phi, "", 0, 0, 0, 0},
-                                      {1, 0, 0, P::Phi, "", 0, 0, 0, 0},
-                                      {0, 0, 0, P::Phi, "", 1, 0, 0, 0},
-                                      {0, 0, 0, P::Phi, "", 0, 1, 0, 0},
-                                      {0, 0, 0, P::Phi, "", 0, 0, 1, 0},
-                                      {0, 0, 0, P::Phi, "", 0, 0, 0, 1}});
+    const tuple wave(0.0F, 0.0F, 0.0F, P::Phi, none), changed(1.0F, 1.0F, 1.0F, P::Theta, some);
+    const tuple noFace(false, false, false, false, false, false), faces(true, true, true, true, true, true);
+    const tuple focus(0.0F, 0.0F, 0.0F, 0.0F), otherFocus(1.0F, 1.0F, 1.0F, 1.0F);
+    expectAllDifferent(changedOneByOne<P>(wave, changed));
+    expectAllDifferent(changedOneByOne<TFSFPlaneWave>(tuple_cat(wave, noFace), tuple_cat(changed, faces)));
+    expectAllDifferent(changedOneByOne<GaussianBeam>(tuple_cat(wave, focus), tuple_cat(changed, otherFocus)));
+    expectAllDifferent(changedOneByOne<StaticVoltageList>(
+        tuple(0.0, 0.0, 0U, std::vector<StaticVoltageList::VoltagePoint>()),
+        tuple(1.0, 1.0, 1U, std::vector<StaticVoltageList::VoltagePoint>{{0, 0, 0, 0}})));
+    using V = StaticVoltageList::VoltagePoint;
+    expectAllDifferent<V>({{0, 0, 0, 0}, {1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}});
 }
 
-TEST(Equality, of_conditions_and_requests_counts_every_value) {
+TEST(Equality, of_conditions_counts_every_value) {
     using A = AmbientConditions;
     std::vector<A> conditions(4, A(0, A::SpecificationType{}, 0, A::SpecificationType{}, 0));
     conditions[1].setBackgroundTemperature(1);
     conditions[2].setSpecificationType(BoundingBoxSide::UpperY, static_cast<A::SpecificationType>(1));
     conditions[3].setHeatTransferCoefficient(BoundingBoxSide::LowerX, 1);
     expectAllDifferent(conditions);
-    expectAllDifferent<DFTParameters>({{false, 1}, {true, 1}, {false, 2}});
+    using B = BoundaryConditions;
+    const auto l = B::Liao, c = B::CPML;
+    expectAllDifferent(changedOneByOne<B>(tuple(l, l, l, l, l, l, 8), tuple(c, c, c, c, c, c, 9)));
+    expectAllDifferent(changedOneByOne<TerminationCriteria>(tuple(1U, 2U, 3U), tuple(4U, 4U, 4U)));
+    expectAllDifferent(changedOneByOne<DFTParameters>(tuple(false, 1U), tuple(true, 2U)));
+}
+
+TEST(Equality, of_requests_and_maps_counts_every_value) {
     expectAllDifferent<FarZoneRequest>({{{}, ""}, {{{0, 0}}, ""}, {{{1, 0}}, ""}, {{{0, 1}}, ""}, {{}, "a"}});
-    using V = StaticVoltageList;
-    expectAllDifferent<V>({{0, 0, 0, {}},
-                           {1, 0, 0, {}},
-                           {0, 1, 0, {}},
-                           {0, 0, 1, {}},
-                           {0, 0, 0, {{0, 0, 0, 0}}},
-                           {0, 0, 0, {{1, 0, 0, 0}}},
-                           {0, 0, 0, {{0, 1, 0, 0}}},
-                           {0, 0, 0, {{0, 0, 1, 0}}},
-                           {0, 0, 0, {{0, 0, 0, 1}}}});
-    const Vector3D x(1, 0, 0), y(0, 1, 0), z(0, 0, 1);
-    expectAllDifferent<HACRequest>({{},
-                                    {{1, 0, 0}, {}, {}, {}},
-                                    {{0, 1, 0}, {}, {}, {}},
-                                    {{0, 0, 1}, {}, {}, {}},
-                                    {{}, x, {}, {}},
-                                    {{}, {}, y, {}},
-                                    {{}, {}, {}, z}});
+    expectAllDifferent(changedOneByOne<MaterialMap>(tuple(none, 0, 0, 0, 0, 0, 0), tuple(some, 1, 1, 1, 1, 1, 1)));
+    expectAllDifferent(
+        changedOneByOne<PhysicalParameters>(tuple(0.0F, 0.0F, 0.0F, 0.0F, 0.0F), tuple(1.0F, 1.0F, 1.0F, 1.0F, 1.0F)));
+    std::vector<HACRequest> requests(7);
+    requests[1].origin = {1, 0, 0};
+    requests[2].origin = {0, 1, 0};
+    requests[3].origin = {0, 0, 1};
+    requests[4].u = Vector3D(1, 0, 0);
+    requests[5].v = Vector3D(0, 1, 0);
+    requests[6].w = Vector3D(0, 0, 1);
+    expectAllDifferent(requests);
 }
 
 }  // namespace

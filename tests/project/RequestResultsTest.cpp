@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "EachMember.h"
 #include "TestSupport.h"
 #include "quarn/quarn.h"
 
@@ -299,32 +300,130 @@ TEST(RequestResults, boxes_that_overlap_beyond_reason_leave_their_request_out) {
     EXPECT_EQ(project.getSteadyStateFrequencies().size(), 1U);
 }
 
-TEST(NearZonePoints, differ_by_each_member_and_by_class) {
-    const NearZoneMultiFieldIndexedPoint indexed;
-    const NearZoneMultiFieldInterpolatedPoint interpolated;
-    EXPECT_NE(static_cast<const NearZoneMultiFieldPoint&>(indexed), interpolated);
-    using Point = NearZoneMultiFieldIndexedPoint;
-    const std::function<void(Point&)> changes[] = {[](Point& p) { p.setCollectScatteredE(true); },
-                                                   [](Point& p) { p.setCollectTotalE(true); },
-                                                   [](Point& p) { p.setCollectScatteredH(true); },
-                                                   [](Point& p) { p.setCollectTotalH(true); },
-                                                   [](Point& p) { p.setCollectScatteredB(true); },
-                                                   [](Point& p) { p.setCollectTotalB(true); },
-                                                   [](Point& p) { p.setCollectJ(true); },
-                                                   [](Point& p) { p.setMinTimestep(1); },
-                                                   [](Point& p) { p.setMaxTimestep(1); },
-                                                   [](Point& p) { p.setDeltaTimestep(1); },
-                                                   [](Point& p) { p.setFilename("a"); },
-                                                   [](Point& p) { p.setX(1); },
-                                                   [](Point& p) { p.setY(1); },
-                                                   [](Point& p) { p.setZ(1); }};
-    std::vector<Point> points(1);
-    for (const auto& change : changes) {
-        Point point;
-        change(point);
-        EXPECT_THAT(points, testing::Not(testing::Contains(point)));
-        points.push_back(point);
+/// Compares the lines with which each request is written and the first one is not, each behind the label of its block.
+/// What is written is read back equal. The texts are separated by bars.
+template <class Request, class Put, class Get>
+void expectLines(const std::vector<Request>& requests, const QString& lines, Put put, Get get) {
+    const auto labelledLines = [&](const Request& request) {
+        Project project;
+        put(project, request);
+        QStringList result;
+        QString label;
+        for (const QString& line : requestsOf(project).split('\n')) {
+            if (line.startsWith("begin_<")) label = line.section("> ", 1);
+            result << (label.isEmpty() ? line : label + ": " + line);
+            if (line.startsWith("end_<")) label.clear();
+        }
+        return result;
+    };
+    const QStringList blank = labelledLines(requests.front()), expectedLines = lines.split('|');
+    ASSERT_EQ(static_cast<std::size_t>(expectedLines.size()), requests.size() - 1);
+    expectAllDifferent(requests);
+    for (std::size_t i = 1; i < requests.size(); ++i) {
+        QStringList added = labelledLines(requests[i]);
+        for (const QString& line : blank) added.removeOne(line);
+        const QString& expected = expectedLines[static_cast<int>(i) - 1];
+        EXPECT_EQ(added.join("; "), expected);
+        Project project, loaded;
+        put(project, requests[i]);
+        load(loaded, saved(project));
+        EXPECT_EQ(get(loaded) == requests[i], !expected.isEmpty()) << expected.toStdString();
     }
+}
+
+const std::tuple noFlags(false, false, false, false, false, false), allFlags(true, true, true, true, true, true);
+const std::tuple noBounds(0U, 0U, 0U, 0U, 0U, 0U), bounds(1U, 2U, 3U, 4U, 5U, 6U);
+const QString boundLines =
+    "lower_bound  1 0 0|lower_bound  0 2 0|lower_bound  0 0 3|upper_bound  4 0 0|upper_bound  0 5 0|upper_bound  0 0 "
+    "6|";
+
+TEST(RequestMembers, of_averaging_requests) {
+    const std::tuple noAverages(false, false, false), averages(true, true, true);
+    const std::tuple rest(false, 0.0F, std::vector<std::uint8_t>()), changed(true, 7.0F, std::vector<std::uint8_t>{8});
+    expectLines(
+        changedOneByOne<SARAveragingRequest>(
+            std::tuple_cat(noAverages, noBounds, rest, noFlags, std::tuple(QString("project"))),
+            std::tuple_cat(averages, bounds, changed, allFlags, std::tuple(QString("a b")))),
+        "average_one_gram|average_ten_grams|outside_region_treated_as_air|" + boundLines +
+            "automatic_subregion; automatic_subregion_cutoff_in_db 0||materials_to_use 1 8|save_one_gram_z_slices|"
+            "save_one_gram_y_slices|save_one_gram_x_slices|save_ten_gram_z_slices|save_ten_gram_y_slices|"
+            "save_ten_gram_x_slices|outputAveragedFileName a b",
+        [](auto& project, const auto& request) { project.setSARAveragingRequest(new SARAveragingRequest(request)); },
+        [](const auto& project) { return *project.getSARAveragingRequest(); });
+}
+
+const PhysicalParameters noTissue(0, 0, 0, 0, 0), tissue(1, 0, 0, 0, 0);
+const auto noTemperatureRise = std::tuple_cat(
+    std::tuple(false, false, false, 0.0F, 0.0F, 0, 0, TemperatureRiseRequest::XY), noBounds,
+    std::tuple(false, 0.0F, noTissue, noTissue, 0.0F, noTissue, noTissue, QString(), QString(), false, 0.0F, 0.0F));
+
+TEST(RequestMembers, of_temperature_rise_requests) {
+    const auto changed = std::tuple_cat(
+        std::tuple(true, true, true, 1.0F, 2.0F, 3, 3, TemperatureRiseRequest::ZX),
+        bounds,
+        std::tuple(true, 4.0F, tissue, tissue, 5.0F, tissue, tissue, QString("a"), QString("b"), true, 6.0F, 7.0F));
+    expectLines(
+        changedOneByOne<TemperatureRiseRequest>(noTemperatureRise, changed),
+        "keep_initial_temperatures|keep_final_temperatures|load_initial_temperatures|requested_input_power 1|"
+        "steady_state_temperature_change 2|maximum_number_of_timesteps 3||plane_type ZX|" +
+            boundLines +
+            "load_whole_space|immersive_medium_temperature 4|Immersive: density 1|Perfusive: density 1|"
+            "perfusive_medium_temperature 5|FreeSpace: density 1|PEC: density 1|initial_temperature_filename a|"
+            "final_temperature_filename b|override_timestep_delta_time|default_delta_time 6|requested_delta_time 7",
+        [](auto& project, const auto& r) { project.setTemperatureRiseRequest(new TemperatureRiseRequest(r)); },
+        [](const auto& project) { return *project.getTemperatureRiseRequest(); });
+}
+
+const QString definitionLines =
+    "ScatteredE|TotalE|ScatteredH|TotalH|ScatteredB|TotalB|J|MinTimestep 1|MaxTimestep 2|DeltaTimestep 3|File a b";
+
+TEST(RequestMembers, of_near_zone_points) {
+    const auto blank = std::tuple_cat(noFlags, std::tuple(false, -1, -1, -1, QString()));
+    const auto changed = std::tuple_cat(allFlags, std::tuple(true, 1, 2, 3, QString("a b")));
+    expectLines(
+        changedOneByOne<NearZoneMultiFieldIndexedPoint>(std::tuple_cat(std::tuple(ivec3()), blank),
+                                                        std::tuple_cat(std::tuple(ivec3(1, 2, 3)), changed)),
+        "XIndex 1; YIndex 2; ZIndex 3|" + definitionLines,
+        [](auto& project, const auto& point) { project.GetNearZoneMultiFieldIndexedPoints() = {point}; },
+        [](const auto& project) { return project.GetNearZoneMultiFieldIndexedPoints().at(0); });
+    expectLines(
+        changedOneByOne<NearZoneMultiFieldInterpolatedPoint>(std::tuple_cat(std::tuple(0.0F, 0.0F, 0.0F), blank),
+                                                             std::tuple_cat(std::tuple(1.0F, 2.0F, 3.0F), changed)),
+        "XPosition 1|YPosition 2|ZPosition 3|" + definitionLines,
+        [](auto& project, const auto& point) { project.GetNearZoneMultiFieldInterpolatedPoints() = {point}; },
+        [](const auto& project) { return project.GetNearZoneMultiFieldInterpolatedPoints().at(0); });
+    const NearZoneMultiFieldIndexedPoint indexed;
+    EXPECT_NE(static_cast<const NearZoneMultiFieldPoint&>(indexed), NearZoneMultiFieldInterpolatedPoint());
+}
+
+TEST(RequestMembers, of_multi_point_requests) {
+    using R = MultiPointFieldRequest;
+    const std::pair<bool R::*, const char*> flags[] = {{&R::collectTransientTotalE, "TransientTotalE"},
+                                                       {&R::collectTransientTotalH, "TransientTotalH"},
+                                                       {&R::collectTransientTotalB, "TransientTotalB"},
+                                                       {&R::collectTransientJ, "TransientJ"},
+                                                       {&R::collectTransientScatteredE, "TransientScatteredE"},
+                                                       {&R::collectTransientScatteredH, "TransientScatteredH"},
+                                                       {&R::collectTransientScatteredB, "TransientScatteredB"},
+                                                       {&R::collectSteadyTotalE, "SteadyTotalE"},
+                                                       {&R::collectSteadyTotalH, "SteadyTotalH"},
+                                                       {&R::collectSteadyTotalB, "SteadyTotalB"},
+                                                       {&R::collectSteadyJ, "SteadyJ"},
+                                                       {&R::snapped, "Snapped"}};
+    std::vector<R> requests(1);
+    QStringList lines;
+    for (const auto& [flag, line] : flags) {
+        requests.emplace_back().*flag = true;
+        lines << line;
+    }
+    expectLines(
+        requests,
+        lines.join('|'),
+        [](auto& project, const auto& request) { project.GetMultiPointFieldRequests() = {request}; },
+        [](const auto& project) { return project.GetMultiPointFieldRequests().at(0); });
+}
+
+TEST(NearZonePoints, are_cells_with_a_type) {
     NearZonePoint point, typed;
     point.Point({1, 2, 3});
     typed.Point({1, 2, 3});
@@ -335,35 +434,12 @@ TEST(NearZonePoints, differ_by_each_member_and_by_class) {
 }
 
 TEST(TemperatureRise, names_files_and_leaves_out_what_has_no_name) {
-    const PhysicalParameters none(0, 0, 0, 0, 0);
     for (const auto& [plane, prefix] : {std::pair(0, ".xy"), {1, ".yz"}, {2, ".zx"}, {5, ".zx"}}) {
         Project project;
-        auto* request = new TemperatureRiseRequest(false,
-                                                   false,
-                                                   false,
-                                                   0,
-                                                   0,
-                                                   0,
-                                                   3,
-                                                   static_cast<TemperatureRiseRequest::Plane>(plane),
-                                                   0,
-                                                   0,
-                                                   0,
-                                                   0,
-                                                   0,
-                                                   0,
-                                                   false,
-                                                   0,
-                                                   none,
-                                                   none,
-                                                   0,
-                                                   none,
-                                                   none,
-                                                   "",
-                                                   "",
-                                                   false,
-                                                   0,
-                                                   0);
+        auto arguments = noTemperatureRise;
+        std::get<6>(arguments) = 3;
+        std::get<7>(arguments) = static_cast<TemperatureRiseRequest::Plane>(plane);
+        auto* request = new TemperatureRiseRequest(std::make_from_tuple<TemperatureRiseRequest>(arguments));
         project.setTemperatureRiseRequest(request);
         EXPECT_EQ(request->getTemperatureDifferenceFileNameExtensionPrefix(), prefix);
         EXPECT_EQ(request->getTemperatureDifferenceFileNameExtension(), ".trise");
