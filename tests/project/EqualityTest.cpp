@@ -12,6 +12,26 @@ using std::tuple;
 const QString none, some("a");
 const std::vector<float> noValues, values{1};
 
+struct Periodic : BoundaryConditions {
+    Periodic(float phi, float theta, float frequency) : BoundaryConditions(CPML, CPML, CPML, CPML, CPML, CPML, 8) {
+        addPeriodicScanAngleParameters(phi, theta, frequency);
+    }
+};
+
+struct Converging : TerminationCriteria {
+    template <class... Arguments>
+    explicit Converging(Arguments... arguments) : TerminationCriteria(1, 2, 3) {
+        addConvergence(arguments...);
+    }
+};
+
+struct TdAfs : TdAfsTerminationCriteria {
+    template <class... Arguments>
+    explicit TdAfs(Arguments... arguments) {
+        addTdAfsConvergence(arguments...);
+    }
+};
+
 TEST(Equality, of_sources_counts_every_value) {
     using W = Waveform;
     expectAllDifferent(changedOneByOne<W>(tuple(W::Gaussian, 0.0F, 0.0F, noValues, noValues),
@@ -40,7 +60,12 @@ TEST(Equality, of_conditions_counts_every_value) {
     using B = BoundaryConditions;
     const auto l = B::Liao, c = B::CPML;
     expectAllDifferent(changedOneByOne<B>(tuple(l, l, l, l, l, l, 8), tuple(c, c, c, c, c, c, 9)));
+    expectAllDifferent(changedOneByOne<Periodic>(tuple(1.0F, 2.0F, 3.0F), tuple(4.0F, 4.0F, 4.0F)));
     expectAllDifferent(changedOneByOne<TerminationCriteria>(tuple(1U, 2U, 3U), tuple(4U, 4U, 4U)));
+    using D = TerminationCriteria;
+    expectAllDifferent(changedOneByOne<Converging>(tuple(1.0F, 2, 3, false, D::Low), tuple(4.0F, 4, 4, true, D::High)));
+    expectAllDifferent(changedOneByOne<TdAfs>(tuple(1.0F, 2.0F, 3, TdAfs::SParameters, TdAfs::FFT, 4),
+                                              tuple(5.0F, 5.0F, 5, TdAfs::Energy, TdAfs::Interpolation, 5)));
     expectAllDifferent(changedOneByOne<DFTParameters>(tuple(false, 1U), tuple(true, 2U)));
 }
 

@@ -121,6 +121,8 @@ TEST(BoundaryConditionsModel, sides_and_derived_answers) {
     conditions.cacheVariables();
     EXPECT_TRUE(conditions.hasPMCBoundary());
     EXPECT_FALSE(conditions.hasCPMLBoundary()) << "no side outside the box may have been set";
+    EXPECT_EQ(conditions.getPML_M() * 10 + conditions.getPML_Ma(), 42);
+    EXPECT_TRUE(conditions.getPMLKappaMax() == 1 && conditions.getPMLAlphaMax() == 0);
 }
 
 TEST(BoundaryConditionsModel, numbers_and_names_of_types) {
