@@ -1,5 +1,12 @@
-// Compiled as C++20, where a comparison also tries the operators with their sides exchanged, and with the warnings that
-// users of the headers may have turned on.
+// The public headers in C++20, where a comparison also tries the operators with their sides exchanged, and with
+// warnings that users of the headers may have turned on.
+
+namespace quarn {
+class FarZoneRotation;
+class FileHeader;
+class HACRequest;
+class MultiPointFieldRequest;
+}  // namespace quarn
 
 #include <algorithm>
 #include <list>
