@@ -85,32 +85,11 @@ void describeRequests(Project& project) {
                                      new SARPlane(SARPlane::YZ, 4294967295),
                                      new SARPlane};
     const PhysicalParameters p(1, 2, 3, 4, 5);
-    project.setTemperatureRiseRequest(new TemperatureRiseRequest(true,
-                                                                 true,
-                                                                 true,
-                                                                 0.25F,
-                                                                 0.5F,
-                                                                 9,
-                                                                 0,
-                                                                 TemperatureRiseRequest::ZX,
-                                                                 1,
-                                                                 2,
-                                                                 3,
-                                                                 4,
-                                                                 5,
-                                                                 6,
-                                                                 true,
-                                                                 300,
-                                                                 p,
-                                                                 p,
-                                                                 310,
-                                                                 p,
-                                                                 p,
-                                                                 Q("before"),
-                                                                 Q("after all"),
-                                                                 true,
-                                                                 7,
-                                                                 8));
+    // clang-format off
+    project.setTemperatureRiseRequest(new TemperatureRiseRequest(
+        true, true, true, 0.25F, 0.5F, 9, 0, TemperatureRiseRequest::ZX, 1, 2, 3, 4, 5, 6, true, 300, p, p, 310, p, p,
+        Q("before"), Q("after all"), true, 7, 8));
+    // clang-format on
     project.setSARAveragingRequest(new SARAveragingRequest(
         true, true, true, 1, 2, 3, 4, 5, 6, true, -20, {0, 255}, true, true, true, true, true, true, Q("my sar")));
     project.getSteadyStateFarZoneRequests() = {{{{1, 2}}, Q("a.fz")}, {}};
