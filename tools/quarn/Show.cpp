@@ -12,23 +12,24 @@ namespace quarn::tool {
 
 namespace {
 
-Sheet sheetOf(const QString& path) {
-    const ResultKind result = resultKindOf(path);
-    if (result != ResultKind::None) return sheetOfResult(path, result);
-    const QByteArray content = readFile(path);
+Sheet sheetOf(const QString& name) {
+    const InputFile file(name);
+    const FileKind result = kindOf(file.beginning());
+    if (isResult(result)) return sheetOfResult(file, result);
+    const QByteArray content = readFile(file.path());
     switch (kindOf(content)) {
         case FileKind::Project:
-            return sheetOfProject(path, content);
+            return sheetOfProject(name, content);
         case FileKind::Geometry:
-            return sheetOfGeometry(path, content);
+            return sheetOfGeometry(name, content);
         case FileKind::MeshlessVias:
-            return sheetOfVias(path, content);
+            return sheetOfVias(name, content);
         case FileKind::AntennaPattern:
-            return sheetOfPattern(path, content);
-        case FileKind::Unknown:
-            break;
+            return sheetOfPattern(name, content);
+        default:
+            throw FileProblem(
+                name, QStringLiteral("of an unknown kind; if it holds records, 'quarn export --as KIND' reads it"));
     }
-    throw FileProblem(path, QStringLiteral("not a kind of file that is known here"));
 }
 
 }  // namespace
