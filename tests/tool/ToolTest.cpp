@@ -4,6 +4,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <filesystem>
 
 #include "Faults.h"
 #include "quarn/Version.h"
@@ -216,12 +217,76 @@ TEST_F(Tool, rewrite_that_cannot_save_says_why_and_leaves_no_output) {
     EXPECT_EQ(run({"rewrite", "in", "no/such/folder/out"}).status, 2);
 }
 
-TEST_F(Tool, rewrite_works_in_place_whatever_there_is_to_find) {
-    write("run", cleanWith({{"NumberOfPMLLayers 8\n", "Unknown 3\nNumberOfPMLLayers 0x8\n"}, {"\n", "\r\n  "}}));
-    const ToolResult result = run({"rewrite", "run", "run"});
-    EXPECT_EQ(result.status, 0) << result.err;
-    EXPECT_EQ(result.out + result.err, "");
-    EXPECT_EQ(read("run"), clean.toUtf8());
+TEST_F(Tool, rewrite_loses_lines_of_its_input_only_when_it_is_told_to) {
+    const QByteArray lossy = cleanWith({{"NumberOfPMLLayers 8\n", "Unknown 3\nNumberOfPMLLayers 0x8\n"}});
+    const std::string loss = "quarn: run:21: not kept: Unknown 3\nquarn: run: 1 line not kept\n";
+    const auto at = [this](const char* name) { return folder.filePath(name).toStdString(); };
+    std::filesystem::create_directory(at("sub"));
+    std::filesystem::create_symlink("run", at("link"));
+    for (const QString out : {"run", "./sub/../run", "link", "second"}) {
+        SCOPED_TRACE(out.toStdString());
+        write("run", lossy);
+        std::filesystem::remove(at("second"));
+        std::filesystem::create_hard_link(at("run"), at("second"));
+        const ToolResult refused = run({"rewrite", "run", out});
+        EXPECT_THAT(refused.err, AllOf(testing::StartsWith(loss), HasSubstr("--force")));
+        EXPECT_EQ(refused.status, 2);
+        EXPECT_EQ(read("run"), lossy);
+        const ToolResult forced = run({"rewrite", "--force", "run", out});
+        EXPECT_EQ(forced.out + forced.err, loss);
+        EXPECT_EQ(forced.status, 1);
+        EXPECT_EQ(read(out), clean.toUtf8());
+    }
+    EXPECT_EQ(run({"rewrite", "-", "out"}, lossy).status, 1);
+    EXPECT_EQ(read("out"), clean.toUtf8());
+}
+
+struct RewriteRow {
+    const char* name;
+    QByteArray content;
+    std::string err;
+    friend void PrintTo(const RewriteRow& row, std::ostream* out) { *out << row.name; }
+};
+
+class Rewriting : public Tool, public testing::WithParamInterface<RewriteRow> {};
+
+TEST_P(Rewriting, tells_what_is_lost) {
+    write("run", GetParam().content);
+    const ToolResult result = run({"rewrite", "run", "out"});
+    EXPECT_EQ(result.err, GetParam().err);
+    EXPECT_EQ(result.status, GetParam().err.empty() ? 0 : 1);
+    const QByteArray saved = read("out");
+    EXPECT_EQ(run({"rewrite", "out", "out"}).status, 0);
+    EXPECT_EQ(read("out"), saved);
+}
+
+const RewriteRow rewriteRows[] = {
+    {"nothing", cleanWith({{"NumberOfPMLLayers 8\n", "NumberOfPMLLayers 0x8\n"}, {"\n", "\r\n  "}}), ""},
+    {"the_first_of_many_lines",
+     cleanWith({{"NumberOfPMLLayers 8\n", "a 1\nb 2\nc 3\nd 4\ne 5\nf 6\nNumberOfPMLLayers 8\n"}}),
+     "quarn: run:21: not kept: a 1\nquarn: run:22: not kept: b 2\nquarn: run:23: not kept: c 3\n"
+     "quarn: run:24: not kept: d 4\nquarn: run:25: not kept: e 5\n"
+     "quarn: run: 6 lines not kept; 'quarn check' names all of them\n"},
+    {"the_end_of_a_block",
+     clean.toUtf8().chopped(static_cast<int>(qstrlen("end_<FDTDProject>\n"))),
+     "quarn: run:2: block <FDTDProject> is not closed\nquarn: run: 1 block not closed\n"},
+    {"characters",
+     cleanWith({{"wave.inc", "wave?.inc"}}).replace('?', '\xff'),
+     "quarn: run: warning: The file is not UTF-8 throughout; what is not is replaced in 1 place.\n"
+     "quarn: run: 1 warning\n"},
+};
+INSTANTIATE_TEST_SUITE_P(, Rewriting, testing::ValuesIn(rewriteRows), rowName<RewriteRow>);
+
+TEST_F(Tool, refuses_a_link_that_only_leads_to_itself) {
+    write("in", clean.toUtf8());
+    std::filesystem::create_symlink("loop", folder.filePath("loop").toStdString());
+    const QVector<QStringList> commands = {{"rewrite", "in", "loop"}, {"rewrite", "loop", "out"}, {"show", "loop"}};
+    for (const QStringList& command : commands) {
+        const ToolResult result = run(command);
+        EXPECT_THAT(result.err, testing::StartsWith("quarn: loop: is a link that leads nowhere but to itself; "));
+        EXPECT_EQ(result.status, 2);
+    }
+    EXPECT_TRUE(QFileInfo(folder.filePath("loop")).isSymLink());
 }
 
 TEST_F(Tool, show_says_what_a_project_holds) {
