@@ -27,7 +27,7 @@ QString savedTextWithoutBoundaries(v6ProjectFile& project) {
 Findings lossIn(BlockText input, int invalidCharacters, const BlockText& saved) {
     Findings findings;
     if (invalidCharacters > 0) {
-        findings.warnings << QStringLiteral("The file is not UTF-8 throughout; what is not is replaced in %1.")
+        findings.warnings << QStringLiteral("Characters that are not valid UTF-8 are replaced in %1.")
                                  .arg(counted(invalidCharacters, QStringLiteral("place")));
     }
     findings.lost = linesLost(input.lines, saved.lines);
