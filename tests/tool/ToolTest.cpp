@@ -295,7 +295,8 @@ TEST_F(Tool, show_says_what_a_project_holds) {
               "  Waveform 0      sinusoid, 1 GHz\n"
               "  Termination     after 1000 timesteps\n"
               "    Convergence   not watched\n");
-    EXPECT_EQ(result.err, "quarn: other: of an unknown kind; if it holds records, 'quarn export --as KIND' reads it\n");
+    EXPECT_EQ(result.err,
+              "quarn: other: is of an unknown kind; if it holds records, 'quarn export --as KIND' reads it\n");
     EXPECT_EQ(result.status, 2);
 }
 

@@ -42,8 +42,7 @@ FileProblem notExported(const InputFile& file, FileKind kind) {
 
 int statusOfIncomplete(const InputFile& file, std::size_t bytes) {
     if (bytes == 0) return ExitFine;
-    complain(QStringLiteral("%1: cut short: %2 at the end belong to no whole record")
-                 .arg(file.name(), counted(bytes, QStringLiteral("byte"))));
+    complain(QStringLiteral("%1: cut short: %2").arg(file.name(), incompleteRecordText(bytes)));
     return ExitFindings;
 }
 

@@ -1,9 +1,8 @@
 #include "NearZoneFile.h"
 
-#include <QFile>
-
 #include "Console.h"
 #include "ResultFile.h"
+#include "quarn/BinaryFile.h"
 
 namespace quarn::tool {
 
@@ -26,9 +25,10 @@ constexpr NearZoneGroup allGroups[] = {
 
 }  // namespace
 
-NearZoneFile::NearZoneFile(const InputFile& file)
-    : m_file(std::fopen(QFile::encodeName(file.path()).constData(), "rb")) {
+NearZoneFile::NearZoneFile(const InputFile& file) {
     Header header;
+    checkPathLength(file.path());
+    m_file.reset(openFile(file.path(), QStringLiteral("rb")));
     if (!m_file) throw FileProblem(file.name(), QStringLiteral("cannot be opened"));
     if (!m_result.readAndGetHeader(m_file.get(), header)) {
         throw FileProblem(

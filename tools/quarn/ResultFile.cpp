@@ -45,4 +45,9 @@ void open(SarResultReader& reader, const InputFile& file) {
 
 std::int64_t sizeOf(const InputFile& file) { return QFileInfo(file.path()).size(); }
 
+QString incompleteRecordText(std::size_t bytes) {
+    return counted(bytes, QStringLiteral("byte")) + QStringLiteral(" at the end ") +
+           QLatin1String(bytes == 1 ? "belongs" : "belong") + QStringLiteral(" to no whole record");
+}
+
 }  // namespace quarn::tool

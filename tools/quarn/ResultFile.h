@@ -29,4 +29,7 @@ void open(SarResultReader& reader, const InputFile& file);
 
 std::int64_t sizeOf(const InputFile& file);
 
+/// "3 bytes at the end belong to no whole record".
+QString incompleteRecordText(std::size_t bytes);
+
 }  // namespace quarn::tool

@@ -16,7 +16,7 @@ QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 void addIncompleteRecord(Sheet& sheet, std::size_t bytes) {
     if (bytes == 0) return;
-    sheet.add(text("Cut short"), text("%1 at the end belong to no whole record").arg(counted(bytes, text("byte"))));
+    sheet.add(text("Cut short"), incompleteRecordText(bytes));
 }
 
 Sheet sheetOfNearZonePoint(const InputFile& input) {

@@ -28,7 +28,7 @@ Sheet sheetOf(const QString& name) {
             return sheetOfPattern(name, content);
         default:
             throw FileProblem(
-                name, QStringLiteral("of an unknown kind; if it holds records, 'quarn export --as KIND' reads it"));
+                name, QStringLiteral("is of an unknown kind; if it holds records, 'quarn export --as KIND' reads it"));
     }
 }
 
