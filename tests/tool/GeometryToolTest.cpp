@@ -116,7 +116,8 @@ TEST_F(GeometryTool, check_refuses_a_geometry_of_another_version) {
 TEST_F(GeometryTool, check_refuses_a_project_as_the_geometry) {
     write("run", clean.toUtf8());
     const ToolResult result = run({"check", "run", "--geometry", folder.filePath("run")});
-    EXPECT_THAT(result.err, HasSubstr("run: not a geometry file: its first line is no \"Geometry file version\"\n"));
+    EXPECT_THAT(result.err,
+                HasSubstr("run: not a geometry file: its first line does not name a geometry file version\n"));
     EXPECT_EQ(result.status, 2);
 }
 

@@ -101,7 +101,7 @@ const ShowRow showRows[] = {
      refusedAt(6, "\"FSTLST:,-90,right\": the first and the last angle are not two numbers")},
     {"where_a_keyword_within_a_cut_is_refused",
      patternWith("NUPOIN:,3", "\nXORIEN:,0\nNUPOIN:,3"),
-     changed(refusedAt(6, "\"XORIEN:,0\": the keyword is none of a cut"), "line 11", "line 13")},
+     changed(refusedAt(6, "\"XORIEN:,0\": the keyword does not belong in a cut"), "line 11", "line 13")},
     {"where_a_sample_without_a_gain_is_refused",
      patternWith("0,0,", "\n0,").replace("NUPOIN:,3", "NUPOIN:,4"),
      changed(refusedAt(9, "\"0,\": " + noSample), "line 11", "line 12")},

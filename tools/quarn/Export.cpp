@@ -90,14 +90,12 @@ int exportSarPlane(const InputFile& file) {
         csv.endRow();
     }
     if (records >= reader.getNumberOfRecords()) return ExitFine;
-    complain(QStringLiteral("%1: cut short: %2 of %3 records")
-                 .arg(file.name())
-                 .arg(records)
-                 .arg(reader.getNumberOfRecords()));
+    complain(file.name() +
+             QStringLiteral(": cut short: %1 of %2 records").arg(records).arg(reader.getNumberOfRecords()));
     return ExitFindings;
 }
 
-/// What of a cut is not in the table and why; null when nothing.
+/// Why samples of a cut are missing from the table; null when none are.
 QString lossOf(const PatternCut& cut) {
     const int announced = cut.plane.GetNumberOfPoints();
     if (cut.refusal) return QStringLiteral("refused at line %1, %2").arg(cut.refusal->line).arg(cut.refusal->reason);
@@ -122,7 +120,7 @@ int exportPattern(const QString& name, const QByteArray& content) {
         ++number;
         const QString loss = lossOf(cut);
         if (!loss.isNull()) {
-            complain(QStringLiteral("%1:%2: cut %3: %4").arg(name).arg(cut.line).arg(number).arg(loss));
+            complain(name + QStringLiteral(":%1: cut %2: ").arg(cut.line).arg(number) + loss);
             status = ExitFindings;
         }
         for (const auto& [angle, values] : cut.plane.GetSamples()) {
@@ -240,18 +238,17 @@ int exportMultiPoint(const InputFile& file, const Choice& choice) {
         const auto points = rows.addRows(index);
         const int expected = set.reader.getNumberOfPoints();
         if (points && *points >= static_cast<std::size_t>(expected)) continue;
-        complain(QStringLiteral("%1: cut short: %2 of %3 points at index %4")
-                     .arg(file.name())
-                     .arg(points.value_or(0))
-                     .arg(expected)
-                     .arg(index));
+        complain(file.name() + QStringLiteral(": cut short: %1 of %2 points at index %3")
+                                   .arg(points.value_or(0))
+                                   .arg(expected)
+                                   .arg(index));
         status = ExitFindings;
     }
     return status;
 }
 
 int exportByContent(const InputFile& file, const Choice& choice) {
-    FileKind kind = kindOf(file.beginning());
+    const FileKind kind = kindOf(file.beginning());
     if (kind == FileKind::MultiPoint) return exportMultiPoint(file, choice);
     if (choice.isMade()) {
         throw WrongUsage(QStringLiteral("--group and --index are for multi-point results, but '%1' is %2.")
@@ -267,9 +264,9 @@ int exportByContent(const InputFile& file, const Choice& choice) {
 QString helpText() {
     return QStringLiteral(
                "Writes what a result file holds as comma-separated values (CSV) to standard output. RESULT is a\n"
-               "near-zone point, a SAR plane, the far-zone box, an antenna pattern, the BASE_info.bin of a "
-               "multi-point\n"
-               "result, or with --as a file of records. A pipe, or standard input as '-', is read to its end.\n\n"
+               "near-zone point, a SAR plane, the far-zone box, an antenna pattern, the BASE_info.bin of a\n"
+               "multi-point result, or with --as a file of records. A pipe is read to its end, and so is standard\n"
+               "input, which '-' stands for.\n\n"
                "Columns end in their unit: s, hz, v, a, w, t, kg, deg, v_per_m, a_per_m, a_per_m2, w_per_kg; _re and\n"
                "_im are the parts of a complex number; i, j and k number cells. They are, of\n"
                "  a near-zone point\n      time_s, then such as total_e_x_v_per_m for each field and axis\n"

@@ -53,10 +53,10 @@ QStringList Findings::lossTexts(const QString& path) const {
     for (const LostLine& line : lost) {
         const QString becomes =
             line.becomes.isNull() ? QString() : QStringLiteral(", becomes \"%1\"").arg(line.becomes);
-        texts << QStringLiteral("%1:%2: not kept: ").arg(path).arg(line.number) + line.text + becomes;
+        texts << path + QStringLiteral(":%1: not kept: ").arg(line.number) + line.text + becomes;
     }
     for (const UnclosedBlock& block : unclosed) {
-        texts << QStringLiteral("%1:%2: block <%3> is not closed").arg(path).arg(block.line).arg(block.name);
+        texts << path + QStringLiteral(":%1: block <%2> is not closed").arg(block.line).arg(block.name);
     }
     return texts;
 }

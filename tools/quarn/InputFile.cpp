@@ -84,13 +84,11 @@ QByteArray readFile(const QString& path, const QString& tooLarge) {
     return content;
 }
 
-/// On Linux such a file has no entry in a folder, so that nothing of it stays, whatever ends the program.
+/// A temporary file need not have a name, where systems allow it, so that nothing of it stays whatever ends the
+/// program. Asking for its name gives it one.
 QString pathOf(const QTemporaryFile& file) {
-#ifdef Q_OS_LINUX
-    return QStringLiteral("/proc/self/fd/%1").arg(file.handle());
-#else
-    return file.fileName();
-#endif
+    const QString withoutName = QStringLiteral("/proc/self/fd/%1").arg(file.handle());
+    return QFile::exists(withoutName) ? withoutName : file.fileName();
 }
 
 }  // namespace

@@ -77,8 +77,8 @@ MultiPointSet::MultiPointSet(const InputFile& infoFile) {
     const auto problem = [&](const QString& text) { return FileProblem(infoFile.name(), text); };
     if (!infoFile.path().endsWith(ending)) {
         throw problem(
-            QStringLiteral("is the info file of a multi-point result; give it by its own name, BASE_info.bin, "
-                           "beside the other files of the result"));
+            QStringLiteral("is the info file of a multi-point result; give it by its own name, "
+                           "BASE_info.bin, beside the other files of the result"));
     }
     checkPathLength(infoFile.path());
     if (!reader.beginResultReading(infoFile.path().chopped(ending.size()))) {

@@ -1,5 +1,6 @@
 #include "PatternFile.h"
 
+#include <QSet>
 #include <QTextCodec>
 #include <QTextStream>
 #include <algorithm>
@@ -52,7 +53,7 @@ QString refusalReason(const QString& line) {
     if (keyword == endKeyword) return QStringLiteral("the end marker is not EOF");
     return belongsToACut(keyword)
                ? QStringLiteral("the polarizations are not two of V, H, LCP and RCP with a slash between them")
-               : QStringLiteral("the keyword is none of a cut");
+               : QStringLiteral("the keyword does not belong in a cut");
 }
 
 bool isNumber(const QString& text) {
@@ -150,7 +151,7 @@ private:
     }
 
     PatternCut m_cut;
-    QStringList m_keywords;
+    QSet<QString> m_keywords;
     QStringList m_header;  ///< keywords but for the number of samples and the range
     std::vector<int> m_headerNumbers;
     QStringList m_samples;  ///< those before a refusal
@@ -199,8 +200,9 @@ bool isPatternFile(const QByteArray& content) {
 }
 
 std::vector<PatternCut> readPatternFile(const QString& path, const QByteArray& content) {
-    if (content.size() > sizeLimit)
+    if (content.size() > sizeLimit) {
         throw FileProblem(path, QStringLiteral("larger than the 64 MiB that an antenna pattern may have"));
+    }
     QString text = decoded(content);
     QTextStream lines(&text, QIODevice::ReadOnly);
     CutCollector collector;

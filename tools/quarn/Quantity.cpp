@@ -61,10 +61,10 @@ QString planeName(int plane) {
 }
 
 double degreesFromRadians(float radians) {
-    constexpr int enoughForAnyFloat = 9;
+    constexpr double mostDecimals = 1e12;
     const double angle = static_cast<double>(radians) / radiansPerDegree;
-    for (int digits = significantDigits; digits < enoughForAnyFloat; ++digits) {
-        const double rounded = QString::number(angle, 'g', digits).toDouble();
+    for (double scale = 1.0; scale <= mostDecimals; scale *= 10.0) {
+        const double rounded = std::round(angle * scale) / scale;
         if (static_cast<float>(rounded * radiansPerDegree) == radians) return rounded;
     }
     return angle;

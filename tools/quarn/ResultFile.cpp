@@ -34,7 +34,8 @@ void openFarZoneBox(DataFileReader& reader, const InputFile& file) {
     FileHeader header;
     open(reader, file);
     if (kindOf(file.beginning()) == FileKind::FarZoneBox && header.read(reader)) return;
-    throw FileProblem(file.name(), QStringLiteral("is no far-zone box file: it does not begin with the header of one"));
+    throw FileProblem(file.name(),
+                      QStringLiteral("is not a far-zone box file: it does not begin with the header of one"));
 }
 
 void open(SarResultReader& reader, const InputFile& file) {

@@ -37,11 +37,11 @@ Sheet sheetOf(const QString& name) {
 int runShow(const QStringList& arguments) {
     CommandLine commandLine(
         QStringLiteral("show"),
-        QStringLiteral(
-            "Says what files are and what they hold. Their content tells the kind, their names do not.\n"
-            "Known are project and geometry files, files of meshless vias, NSMA antenna patterns, and of the\n"
-            "engine's results near-zone points, multi-point results (give the BASE_info.bin), SAR planes and\n"
-            "fields on the far-zone box. Files of records do not say what they are: see 'quarn export'."));
+        QStringLiteral("Says what files are and what they hold. Their content tells the kind, their names do not.\n"
+                       "Known are project and geometry files, files of meshless vias, NSMA antenna patterns, and of\n"
+                       "the engine's results near-zone points, multi-point results (give the BASE_info.bin), SAR\n"
+                       "planes and fields on the far-zone box; '-' is standard input. Files of records do not say\n"
+                       "what they are: see 'quarn export'."));
     commandLine.addFiles(QStringLiteral("FILE"), QStringLiteral("The files to show."));
     if (!commandLine.parse(arguments)) return ExitFine;
 
