@@ -87,7 +87,7 @@ const GeometryCheck geometryChecks[] = {
      "g: error: The material map '' names magnetic material 2, but there are 2, numbered from 0.\ng: 1 error\n"},
     {"that_a_cell_has_no_size",
      {{"2 0.25", "2 -1"}},
-     "g: error: Cell 2 along x has the size -1 m; a size must be finite and above 0.\ng: 1 error\n"},
+     "g: error: Cell 2 along x has the unusable size -1 m.\ng: 1 error\n"},
 };
 INSTANTIATE_TEST_SUITE_P(, GeometryChecks, testing::ValuesIn(geometryChecks), rowName<GeometryCheck>);
 
@@ -116,8 +116,7 @@ TEST_F(GeometryTool, check_refuses_a_geometry_of_another_version) {
 TEST_F(GeometryTool, check_refuses_a_project_as_the_geometry) {
     write("run", clean.toUtf8());
     const ToolResult result = run({"check", "run", "--geometry", folder.filePath("run")});
-    EXPECT_THAT(result.err,
-                HasSubstr("run: not a geometry file: its first line does not name a geometry file version\n"));
+    EXPECT_THAT(result.err, HasSubstr("run: not a geometry file: its first line "));
     EXPECT_EQ(result.status, 2);
 }
 

@@ -123,7 +123,7 @@ const ShowRow showRows[] = {
      firstCut + changed(secondCut, "line 11", "line 13")},
     {"planes_that_are_not_given_or_not_known",
      patternWith("PATCUT:,H\n", "\n").replace("T30", "Tee"),
-     changed(changed(firstCut, "horizontal", "plane not given"), "line 3", "line 4") +
+     changed(firstCut, "horizontal, line 3", "plane not given, line 4") +
          changed(secondCut, "T angle 30°", "unknown plane \"Tee\"")},
 };
 INSTANTIATE_TEST_SUITE_P(, ShowingAPattern, testing::ValuesIn(showRows), rowName<ShowRow>);

@@ -140,38 +140,25 @@ TEST_F(Tool, check_prints_json) {
     EXPECT_EQ(result.status, 2);
 }
 
-struct UnusableRow {
-    const char* name;
-    QByteArray content;
-    const char* message;
-    friend void PrintTo(const UnusableRow& row, std::ostream* out) { *out << row.name; }
-};
-
-class ToolRefusing : public Tool, public testing::WithParamInterface<UnusableRow> {};
-
-TEST_P(ToolRefusing, is_refused_and_an_earlier_output_stays) {
-    write("in", GetParam().content);
+TEST_F(Tool, refuses_what_is_no_project_and_an_earlier_output_stays) {
+    const std::string noProject = "not a project file: it has no FDTDProject or FEMProject block";
+    const QVector<QPair<QByteArray, std::string>> rows = {
+        {"", noProject},
+        {"Version 8\nbegin_<Something> \nend_<Something>\n", noProject},
+        {QByteArray::fromHex("00ff8090feff000a1b5b"), noProject},
+        {"Version 9\nbegin_<FDTDProject> \nend_<FDTDProject>\n", "This project file version is unsupported."},
+    };
     write("out", "earlier");
-    const std::string message = std::string("quarn: in: ") + GetParam().message + "\n";
-    const ToolResult check = run({"check", "in"});
-    EXPECT_EQ(check.err, message);
-    EXPECT_EQ(check.status, 2);
-    const ToolResult rewrite = run({"rewrite", "in", "out"});
-    EXPECT_EQ(rewrite.err, message);
-    EXPECT_EQ(rewrite.status, 2);
+    for (const auto& [content, message] : rows) {
+        write("in", content);
+        for (const QStringList& command : QVector<QStringList>{{"check", "in"}, {"rewrite", "in", "out"}}) {
+            const ToolResult result = run(command);
+            EXPECT_EQ(result.err, "quarn: in: " + message + "\n");
+            EXPECT_EQ(result.status, 2);
+        }
+    }
     EXPECT_EQ(read("out"), "earlier");
 }
-
-constexpr auto noProject = "not a project file: it has no FDTDProject or FEMProject block";
-const UnusableRow unusableRows[] = {
-    {"empty_file", "", noProject},
-    {"other_text", "Version 8\nbegin_<Something> \nend_<Something>\n", noProject},
-    {"bytes", QByteArray::fromHex("00ff8090feff000a1b5b"), noProject},
-    {"newer_version",
-     "Version 9\nbegin_<FDTDProject> \nend_<FDTDProject>\n",
-     "This project file version is unsupported."},
-};
-INSTANTIATE_TEST_SUITE_P(, ToolRefusing, testing::ValuesIn(unusableRows), rowName<UnusableRow>);
 
 TEST_F(Tool, rewrite_on_a_full_disk_fails_and_an_earlier_output_stays) {
     write("in", clean.toUtf8());

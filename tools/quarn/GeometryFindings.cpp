@@ -18,7 +18,7 @@ void addUnusableSize(QStringList& errors, const Grid& grid, const GridAxis& axis
     for (std::uint32_t i = 0; i < cells; ++i) {
         const float size = (grid.*axis.getDelta)(i);
         if (std::isfinite(size) && size > 0.0F) continue;
-        errors << QStringLiteral("Cell %1 along %2 has the size %3 m; a size must be finite and above 0.")
+        errors << QStringLiteral("Cell %1 along %2 has the unusable size %3 m.")
                       .arg(i)
                       .arg(QLatin1String(axis.name), numberText(static_cast<double>(size)));
         return;
