@@ -68,7 +68,7 @@ public:
         ///      4  float    electric
         ///      8  float    magnetic
         ///     12  float    electricByMaterial, numElectric values
-        ///     ..  float    magneticByMaterial, numMagnetic values
+        ///   then  float    magneticByMaterial, numMagnetic values
         template <class Self>
         static auto fields(Self& r) {
             return std::tie(r.total, r.electric, r.magnetic, r.electricByMaterial, r.magneticByMaterial);

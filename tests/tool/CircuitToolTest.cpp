@@ -15,7 +15,7 @@ protected:
             "Capacitance 0; Amplitude 1; Phase 0; Delay 0; Type 1; IsActive ; WaveformIndex 0;"
             "TermType InputOutput; Calibration KeepSelfKeepMutual; } }"
             "WaveGuidePorts{ PortData{ IsModal; PortNumber 1; ModeNumber 2; Offset 0; ImpedanceType Zpi;"
-            "Resistance 50; Amplitude 1; Phase 0; FileName ; ModeName TE10; TermType InputOutput;"
+            "Resistance 50; Amplitude 1; Phase 1.5707963; FileName ; ModeName TE10; TermType InputOutput;"
             "SnappedHead{ X 0; Y 0; Z 0; } SnappedTail{ X 0; Y 0; Z 0; } } }");
         const QString behindBoundaries = "end_<OuterBoundaries>\n";
         write("run", cleanWith({{behindBoundaries, behindBoundaries + circuit}}));
@@ -27,7 +27,7 @@ TEST_F(CircuitTool, check_lists_components_and_ports_and_loses_none_of_their_lin
     const ToolResult result = run({"check", "run"});
     EXPECT_EQ(result.out,
               "run: port 0: feed, #=0 : V=1, phase=0, R=50, L=0, C=0, arr=Series\n"
-              "run: waveguide port: TE10, waveguide 1 mode 2, amplitude 1, phase 0 rad\n"
+              "run: waveguide port: TE10, waveguide 1 mode 2, amplitude 1, phase 90°\n"
               "run: no findings\n");
     EXPECT_EQ(result.status, 0);
 }
@@ -39,7 +39,7 @@ TEST_F(CircuitTool, show_says_where_components_are_and_which_port_is_active) {
                           "    port 0        feed, #=0 : V=1, phase=0, R=50, L=0, C=0, arr=Series at cell (2, 3, 4), "
                           "active\n"
                           "  Waveguides      1 waveguide port\n"
-                          "    port 0        TE10, waveguide 1 mode 2, amplitude 1, phase 0 rad\n"));
+                          "    port 0        TE10, waveguide 1 mode 2, amplitude 1, phase 90°\n"));
 }
 
 TEST_F(CircuitTool, show_tells_a_via_file_that_is_cut_short) {

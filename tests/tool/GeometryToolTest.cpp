@@ -84,8 +84,10 @@ const GeometryCheck geometryChecks[] = {
      "g:12: not kept: material_number 7, becomes \"material_number 2\"\ng: 1 line not kept\n"},
     {"that_a_map_names_a_missing_material",
      {{"yMagneticMaterial 0", "yMagneticMaterial 2"}},
-     "g: error: The material map '' names magnetic material 2, of which there are 2.\ng: 1 error\n"},
-    {"that_a_cell_has_no_size", {{"2 0.25", "2 -1"}}, "g: error: Cell 2 along x has the size -1.\ng: 1 error\n"},
+     "g: error: The material map '' names magnetic material 2, but there are 2, numbered from 0.\ng: 1 error\n"},
+    {"that_a_cell_has_no_size",
+     {{"2 0.25", "2 -1"}},
+     "g: error: Cell 2 along x has the unusable size -1 m.\ng: 1 error\n"},
 };
 INSTANTIATE_TEST_SUITE_P(, GeometryChecks, testing::ValuesIn(geometryChecks), rowName<GeometryCheck>);
 
@@ -103,18 +105,12 @@ TEST_F(GeometryTool, check_looks_for_components_outside_the_grid) {
     EXPECT_EQ(result.status, 1);
 }
 
-TEST_F(GeometryTool, check_refuses_a_geometry_of_another_version) {
+TEST_F(GeometryTool, check_refuses_a_geometry_of_another_version_and_a_project_as_one) {
     writeGeometryWith("old", {{"3.20", "2.20"}});
     write("run", clean.toUtf8());
-    const ToolResult result = run({"check", "run", "--geometry", "old"});
-    EXPECT_EQ(result.err, "quarn: old: Unrecognized *.id file format.\n");
-    EXPECT_EQ(result.status, 2);
-}
-
-TEST_F(GeometryTool, check_refuses_a_project_as_the_geometry) {
-    write("run", clean.toUtf8());
+    EXPECT_EQ(run({"check", "run", "--geometry", "old"}).err, "quarn: old: Unrecognized *.id file format.\n");
     const ToolResult result = run({"check", "run", "--geometry", folder.filePath("run")});
-    EXPECT_THAT(result.err, HasSubstr("run: not a geometry file: its first line does not say so\n"));
+    EXPECT_THAT(result.err, HasSubstr("run: not a geometry file: its first line does not name a geometry file"));
     EXPECT_EQ(result.status, 2);
 }
 

@@ -69,6 +69,8 @@ QString refusedAt(int line, const QString& reason) {
            reason + '\n' + secondCut;
 }
 
+const QString noSample = "the sample is not an angle and a gain, two numbers with a comma between them";
+
 const ShowRow showRows[] = {
     {"all_cuts_with_their_frequencies", pattern.toUtf8(), firstCut + secondCut},
     {"cuts_without_a_frequency",
@@ -87,8 +89,7 @@ const ShowRow showRows[] = {
          "    Completed        2 lines with an empty second value\n"},
     {"what_stands_behind_the_last_point",
      patternWith("90,-1.5,\n", "90,-1.5,\n91,3,\n\n92,3\n"),
-     firstCut + "    Completed        1 line with an empty second value\n" +
-         "    Left out         2 lines after the last point\n" + changed(secondCut, "line 11", "line 14")},
+     firstCut + "    Left out         2 lines after the last point\n" + changed(secondCut, "line 11", "line 14")},
     {"fewer_samples_than_points",
      patternWith("NUPOIN:,2", "NUPOIN:,5"),
      firstCut + changed(secondCut, "2 from 0° to 180°, increment 180°", "5 from 0° to 180°, increment 45°")},
@@ -96,26 +97,63 @@ const ShowRow showRows[] = {
      patternWith("V/H", "V+H"),
      refusedAt(4, "\"POLARI:,V+H\": the polarizations are not two of V, H, LCP and RCP with a slash between them")},
     {"where_a_range_is_refused",
-     patternWith("-90,90", "-90"),
-     refusedAt(6, "\"FSTLST:,-90\": there is no comma between the first and the last angle")},
+     patternWith("-90,90", "-90,right"),
+     refusedAt(6, "\"FSTLST:,-90,right\": the first and the last angle are not two numbers")},
     {"where_a_keyword_within_a_cut_is_refused",
      patternWith("NUPOIN:,3", "\nXORIEN:,0\nNUPOIN:,3"),
-     changed(refusedAt(6, "\"XORIEN:,0\": the keyword is none of a cut"), "line 11", "line 13")},
+     changed(refusedAt(6, "\"XORIEN:,0\": the keyword does not belong in a cut"), "line 11", "line 13")},
     {"where_a_sample_without_a_gain_is_refused",
-     patternWith("0,0,", "0, ,\n0,").replace("NUPOIN:,3", "NUPOIN:,4"),
-     changed(refusedAt(9, "\"0,\": the sample has no gain"), "line 11", "line 12")},
+     patternWith("0,0,", "\n0,").replace("NUPOIN:,3", "NUPOIN:,4"),
+     changed(refusedAt(9, "\"0,\": " + noSample), "line 11", "line 12")},
+    {"where_a_sample_without_a_comma_is_refused", patternWith("0,0,", "0 0"), refusedAt(8, "\"0 0\": " + noSample)},
+    {"where_a_number_of_samples_is_refused",
+     patternWith("NUPOIN:,3", "NUPOIN:,all"),
+     refusedAt(5, "\"NUPOIN:,all\": the number of samples is not a whole number of 0 or more")},
+    {"all_samples_without_their_number",
+     patternWith("NUPOIN:,3\n", "! three\n"),
+     changed(firstCut, "3 from -90° to 90°, increment 90.5°", "number not given, from -90° to 90°") + secondCut},
+    {"all_samples_without_their_range",
+     patternWith("FSTLST:,-90,90\n", "Boston, MA\n"),
+     changed(firstCut, "3 from -90° to 90°, increment 90.5°", "3, range not given") + secondCut},
+    {"all_samples_without_either",
+     patternWith("NUPOIN:,3\nFSTLST:,-90,90\n", "\n\n"),
+     changed(firstCut, "3 from -90° to 90°, increment 90.5°", "number and range not given") + secondCut},
+    {"the_same_with_the_number_behind_the_range_and_comments_among_the_samples",
+     patternWith("NUPOIN:,3\nFSTLST:,-90,90\n-90,-2,5\n", "FSTLST:,-90,90\nNUPOIN:,3\n-90,-2,5\n! two\n\n"),
+     firstCut + changed(secondCut, "line 11", "line 13")},
+    {"planes_that_are_not_given_or_not_known",
+     patternWith("PATCUT:,H\n", "\n").replace("T30", "Tee"),
+     changed(firstCut, "horizontal, line 3", "plane not given, line 4") +
+         changed(secondCut, "T angle 30°", "unknown plane \"Tee\"")},
 };
 INSTANTIATE_TEST_SUITE_P(, ShowingAPattern, testing::ValuesIn(showRows), rowName<ShowRow>);
 
-TEST_F(PatternTool, refuses_files_larger_than_any_pattern) {
-    const ToolResult result = show(pattern.toUtf8() + QByteArray(64 << 20, '\n'));
-    EXPECT_EQ(result.err, "quarn: file: larger than any antenna pattern\n");
-    EXPECT_EQ(result.status, 2);
+// Cut 2 has no samples, cut 3 neither their number nor their range, cut 4 two of three, cut 5 more than it says, cut 6
+// one that is no number and cut 7 an impossible number of them.
+TEST_F(PatternTool, exports_all_samples_or_says_what_is_left_out) {
+    write("file",
+          "PATCUT:,V\nFSTLST:,-90,0\n-90,10\n0,0,2.5\nPATCUT:,AZ\nPATCUT:,H\n1,10\n2,10\nPATCUT:,H\nNUPOIN:,3\n"
+          "FSTLST:,0,2\n0,0\n1,0\nPATCUT:,H\nNUPOIN:,0\n0,0\n1,0\nPATCUT:,V\n0,0\n1,one\n2,0\nPATCUT:,V\nNUPOIN:,-1\n0,"
+          "0\n");
+    const ToolResult result = run({"export", "file"});
+    EXPECT_EQ(result.out,
+              "cut,angle_deg,gain_power_ratio,second\n1,0,1,2.5\n1,270,10,0\n3,1,10,0\n3,2,10,0\n4,0,1,0\n4,1,1,0\n"
+              "6,0,1,0\n");
+    EXPECT_EQ(result.err,
+              "quarn: file:9: cut 4: cut short: 2 of 3 samples\n"
+              "quarn: file:14: cut 5: 2 samples left out behind the 0 that NUPOIN announces\n"
+              "quarn: file:18: cut 6: refused at line 20, \"1,one\": " +
+                  noSample.toStdString() +
+                  "\nquarn: file:22: cut 7: refused at line 23, \"NUPOIN:,-1\": the number of samples is not a whole "
+                  "number of 0 or more\n");
+    EXPECT_EQ(result.status, 1);
 }
 
-TEST_F(PatternTool, refuses_more_cuts_than_any_pattern_has) {
+TEST_F(PatternTool, refuses_files_larger_than_any_pattern_and_more_cuts_than_any_has) {
+    EXPECT_EQ(show(pattern.toUtf8() + QByteArray(64 << 20, '\n')).err,
+              "quarn: file: larger than the 64 MiB that an antenna pattern may have\n");
     const ToolResult result = show(QByteArray("PATCUT:,V\n").repeated(100002));
-    EXPECT_EQ(result.err, "quarn: file: more cuts than any pattern\n");
+    EXPECT_EQ(result.err, "quarn: file: has more than the 100000 cuts that can be read\n");
     EXPECT_EQ(result.status, 2);
 }
 

@@ -1,3 +1,4 @@
+#include <QDir>
 #include <cmath>
 #include <cstdio>
 
@@ -70,13 +71,13 @@ TEST_F(ResultTool, shows_a_multi_point_result_and_what_of_it_is_missing) {
 
 TEST_F(ResultTool, exports_the_groups_of_a_multi_point_result) {
     writeSet("set");
-    EXPECT_EQ(run({"export", "set_info.bin", "--group", "transient-total-E"}).out,
-              "time,x,y,z,Ex,Ey,Ez\n0.5,1,2,3,1,-2,3\n0.5,4,5,6,0.1,nan,6\n");
+    EXPECT_EQ(
+        run({"export", "set_info.bin", "--group", "transient-total-E"}).out,
+        "time_s,i,j,k,total_e_x_v_per_m,total_e_y_v_per_m,total_e_z_v_per_m\n0.5,1,2,3,1,-2,3\n0.5,4,5,6,0.1,nan,6\n");
     EXPECT_EQ(run({"export", "set_info.bin", "--group", "steady-J", "--index", "0"}).out,
-              "frequency,x,y,z,Jxr,Jxi,Jyr,Jyi,Jzr,Jzi\n"
+              "frequency_hz,i,j,k,j_x_re_a_per_m2,j_x_im_a_per_m2,j_y_re_a_per_m2,j_y_im_a_per_m2,j_z_re_a_per_m2,"
+              "j_z_im_a_per_m2\n"
               "1e+09,1,2,3,1,2,3,4,5,6\n1e+09,4,5,6,-1,-2,-3,-4,-5,-6\n");
-    EXPECT_THAT(run({"export", "set_info.bin"}).err, HasSubstr("--group: transient-total-E, steady-J"));
-    EXPECT_EQ(run({"export", "set_info.bin", "--group", "steady-J", "--index", "1"}).status, 2);
     cut("set_steady_Jxi_freq0.bin", 4);
     const ToolResult partial = run({"export", "set_info.bin", "--group", "steady-J"});
     EXPECT_EQ(partial.err, "quarn: set_info.bin: cut short: 1 of 2 points at index 0\n");
@@ -92,7 +93,7 @@ TEST_F(ResultTool, refuses_a_multi_point_result_without_what_its_groups_need) {
         EXPECT_EQ(result.status, 2);
     }
     write("set_info.bin", read("set_info.bin").chopped(4) + QByteArray::fromHex("ffffffff"));
-    EXPECT_EQ(run({"show", "set_info.bin"}).err, "quarn: set_info.bin: says that it has -1 points\n");
+    EXPECT_EQ(run({"show", "set_info.bin"}).err, "quarn: set_info.bin: is damaged: it says that there are -1 points\n");
 }
 
 TEST_F(ResultTool, says_that_files_of_a_result_without_points_are_missing) {
@@ -113,7 +114,8 @@ TEST_F(ResultTool, shows_and_exports_a_near_zone_point) {
               "  Time       1 ns to 1 ns\n"
               "    total E  -2 V/m to 1 V/m, 1 NaN\n"
               "  Cut short  3 bytes at the end belong to no whole record\n");
-    EXPECT_EQ(run({"export", "point"}).out, "time,total_Ex,total_Ey,total_Ez\n1e-09,1,-2,nan\n");
+    EXPECT_EQ(run({"export", "point"}).out,
+              "time_s,total_e_x_v_per_m,total_e_y_v_per_m,total_e_z_v_per_m\n1e-09,1,-2,nan\n");
     EXPECT_EQ(run({"export", "cut"}).status, 1);
 }
 
@@ -121,11 +123,11 @@ TEST_F(ResultTool, combines_shows_and_exports_SAR_planes) {
     writePlane("a", 7, {{7, 1, 2, 0.25F}});
     writePlane("b", 7, {{7, 3, 4, 0.5F}});
     EXPECT_EQ(run({"sar", "combine", "all", "a", "b"}).status, 0);
-    EXPECT_EQ(run({"export", "all"}).out, "i,j,k,sar\n7,1,2,0.25\n7,3,4,0.5\n");
+    EXPECT_EQ(run({"export", "all"}).out, "i,j,k,sar_w_per_kg\n7,1,2,0.25\n7,3,4,0.5\n");
     cut("all", 1);
     EXPECT_EQ(run({"show", "all"}).out,
               "all: SAR plane, version 0\n"
-              "  Plane      yz, index 7\n"
+              "  Plane      YZ, index 7\n"
               "  Records    1\n"
               "    SAR      250 mW/kg to 250 mW/kg\n"
               "  Cut short  the file says 2 records\n");
@@ -135,29 +137,127 @@ TEST_F(ResultTool, combines_shows_and_exports_SAR_planes) {
     EXPECT_EQ(refused.status, 2);
 }
 
-TEST_F(ResultTool, exports_records_as_what_it_is_told) {
-    write("records", QByteArray("\x00\x00\x80\x3f\x00\x00\x00\xc0\x00\x00\x40\x40\x00\x00\x80\x3f!", 17));
-    EXPECT_EQ(run({"export", "--as", "component-transient", "records"}).out, "time,voltage,current\n1,-2,3\n");
-    EXPECT_EQ(run({"export", "--as", "eigenmode", "records"}).out, "value_re,value_im\n1,-2\n3,1\n");
-    EXPECT_EQ(run({"export", "--as", "eigenmode", "records"}).err,
-              "quarn: records: cut short: 1 byte at the end belong to no whole record\n");
-    write("power", QByteArray("\x01\x00\x00\x00\x80\x3f\x00\x00\x00\xc0\x00\x00\x40\x40\x00\x00\x80\x3f", 18));
-    EXPECT_EQ(run({"export", "--as", "dissipated-power", "power"}).out,
-              "total,electric,magnetic,electric_0\n1,-2,3,1\n");
-    EXPECT_EQ(run({"export", "--as", "guess", "records"}).status, 2);
-    EXPECT_THAT(run({"export", "records"}).err, HasSubstr("say it with --as KIND"));
+// 1, -2, 3, 1 in single precision.
+const QByteArray fourFloats("\x00\x00\x80\x3f\x00\x00\x00\xc0\x00\x00\x40\x40\x00\x00\x80\x3f", 16);
+QByteArray header(char type, char version) {
+    return "!tavrixfdtdL" + QByteArray{}.append(type).append('\0').append(version).append('\0');
+}
+const QByteArray box = header(8, 0) + fourFloats + fourFloats;
+const QByteArray emptyPlane = header(13, 0) + QByteArray(12, '\0');
+
+struct ExportRow {
+    const char* as;  // empty for what says what it is
+    QByteArray content;
+    std::string out;
+    std::string err;
+};
+
+class Exporting : public ResultTool, public testing::WithParamInterface<const char*> {
+protected:
+    void expect(const ExportRow& row) {
+        SCOPED_TRACE(row.as + row.out + row.err);
+        write("file", row.content);
+        QStringList arguments{"export", GetParam()};
+        if (*row.as) arguments << "--as" << row.as;
+        const ToolResult result = run(arguments, row.content);
+        EXPECT_EQ(result.out, row.out);
+        EXPECT_EQ(result.err, row.err.empty() ? "" : "quarn: " + std::string(GetParam()) + ": " + row.err + "\n");
+        EXPECT_EQ(result.status, row.err.empty() ? 0 : (row.out.empty() ? 2 : 1));
+    }
+};
+INSTANTIATE_TEST_SUITE_P(, Exporting, testing::Values("file", "-", "/dev/stdin"));
+
+TEST_P(Exporting, gives_all_records_and_tells_what_is_no_whole_one) {
+    const std::string atTheEnd = " at the end belong to no whole record";
+    const std::string boxTable =
+        "e_1_re_v_per_m,e_1_im_v_per_m,e_2_re_v_per_m,e_2_im_v_per_m,h_1_re_a_per_m,h_1_im_a_per_m,h_2_re_a_per_m,"
+        "h_2_im_a_per_m\n1,-2,3,1,1,-2,3,1\n";
+    const std::string powers = "total_w,electric_w,magnetic_w,electric_0_w\n1,-2,3,1\n";
+    const std::string far = "theta_deg,phi_deg,e_theta_re,e_theta_im,e_phi_re,e_phi_im\n90,1,1,-2,3,1\n";
+    const QByteArray rightAngleAndOneDegree = QByteArray::fromHex("db0fc93f35fa8e3c");
+    const ExportRow rows[] = {
+        {"eigenmode", fourFloats, "value_re,value_im\n1,-2\n3,1\n", ""},
+        {"component-transient", fourFloats, "time_s,voltage_v,current_a\n1,-2,3\n", "cut short: 4 bytes" + atTheEnd},
+        {"dissipated-power", QByteArray("\x01\0", 2) + fourFloats + "ab", powers, "cut short: 2 bytes" + atTheEnd},
+        {"far-zone", rightAngleAndOneDegree + fourFloats, far, ""},
+        {"", box, boxTable, ""},
+        {"far-zone-box", box + 'x', boxTable, "cut short: 1 byte at the end belongs to no whole record"},
+        {"", emptyPlane, "i,j,k,sar_w_per_kg\n", ""},
+    };
+    for (const ExportRow& row : rows) expect(row);
 }
 
-TEST_F(ResultTool, shows_the_fields_on_a_far_zone_box) {
-    QByteArray box("!tavrixfdtdL\x08\x00\x00\x00", 16);
-    for (int i = 0; i < 8; ++i) box += QByteArray(i < 4 ? "\x00\x00\x80\x3f" : "\x00\x00\x00\xc0", 4);
-    write("box", box);
-    EXPECT_EQ(run({"show", "box"}).out,
-              "box: fields on the far-zone box, version 0\n"
-              "  Records  1\n"
-              "    E      1 V/m to 1 V/m\n"
-              "    H      -2 A/m to -2 A/m\n");
-    EXPECT_THAT(run({"export", "box"}).out, HasSubstr("\n1,1,1,1,-2,-2,-2,-2\n"));
+TEST_P(Exporting, keeps_to_what_a_file_says_it_is) {
+    const std::string isShown = "; 'quarn show' tells what it holds";
+    const std::string unknown =
+        "is a result of an unknown type or version, or cut short in its header; it cannot be exported";
+    const ExportRow rows[] = {
+        {"far-zone-box", fourFloats, "", "is not a far-zone box file: it does not begin with the header of one"},
+        {"far-zone-box", emptyPlane, "", "is a SAR plane; leave --as out"},
+        {"eigenmode", box, "", "is a far-zone box file; leave --as out"},
+        {"eigenmode", "Rnzp" + QByteArray(15, '\0'), "", "is a near-zone point; leave --as out"},
+        {"eigenmode", "Rmpt", "", "is the info file of a multi-point result; leave --as out"},
+        {"eigenmode", "NUPOIN:,0\n", "", "is an antenna pattern; leave --as out"},
+        {"eigenmode", clean.toUtf8(), "", "is a project" + isShown},
+        {"eigenmode", "Geometry file version 3.20\n", "", "is a geometry" + isShown},
+        {"eigenmode",
+         QByteArray::fromHex("40e20100") + QByteArray(12, '\0'),
+         "",
+         "is a file of meshless vias" + isShown},
+        {"eigenmode", header(42, 0), "", unknown},
+        {"eigenmode", "!tavrixfdtd", "", unknown},
+        {"", header(8, 1), "", unknown},
+        {"", fourFloats, "", "is of an unknown kind; say with --as KIND what records it holds"},
+    };
+    for (const ExportRow& row : rows) expect(row);
+}
+
+TEST_F(ResultTool, refuses_options_that_do_not_apply_and_what_is_no_file) {
+    write("plane", emptyPlane);
+    writeSet("set");
+    const QVector<QPair<QString, const char*>> refused = {
+        {"plane --index 0", "--group and --index are for multi-point results, but 'plane' is a SAR plane."},
+        {"plane --group=", "--group and --index are for multi-point results, but 'plane' is a SAR plane."},
+        {"set_info.bin --as eigenmode --index 0", "--group and --index are for multi-point results, not for records"},
+        {"set_info.bin", "Choose a group with --group: transient-total-E, steady-J."},
+        {"set_info.bin --group steady-J --index 1", "--index needs a number from 0 to 0, not '1'."},
+        {"plane --as guess", "Unknown kind of records 'guess'; the kinds are radiated-power, "},
+        {". --as eigenmode", ".: is a folder, not a file"},
+        {"/dev/zero --as eigenmode", "more than the 512 MiB that can be read from a pipe; give the name of a file"},
+    };
+    for (const auto& [arguments, message] : refused) {
+        const ToolResult result = run(QStringList("export") + arguments.split(' '));
+        EXPECT_EQ(result.out, "");
+        EXPECT_THAT(result.err, HasSubstr(message));
+        EXPECT_EQ(result.status, 2);
+    }
+}
+
+TEST_F(ResultTool, names_the_variable_that_opens_long_paths) {
+    const QString base = QString(200, 'd') + '/' + QString(33, 's');
+    ASSERT_TRUE(QDir(folder.path()).mkdir(base.left(200)));
+    write(base + QString(25, 'p'), emptyPlane);
+    const char* variable = "KIVEN_LONGPATHSUPPORT";
+    qputenv(variable, "1");
+    writeSet(base);
+    for (const QString& name : {base + QString(25, 'p'), base + "_info.bin"}) {
+        qunsetenv(variable);
+        const ToolResult refused = run({"show", name});
+        EXPECT_THAT(refused.err, HasSubstr("set the environment variable KIVEN_LONGPATHSUPPORT to 1"));
+        EXPECT_EQ(refused.status, 2);
+        qputenv(variable, "1");
+        EXPECT_EQ(run({"show", name}).status, 0);
+    }
+    qunsetenv(variable);
+}
+
+TEST_F(ResultTool, shows_the_fields_on_a_far_zone_box_from_a_pipe) {
+    EXPECT_EQ(run({"show", "-"}, box + '!').out,
+              "-: fields on the far-zone box, version 0\n"
+              "  Records    1\n"
+              "    E        -2 V/m to 3 V/m\n"
+              "    H        -2 A/m to 3 A/m\n"
+              "  Cut short  1 byte at the end belongs to no whole record\n");
 }
 
 }  // namespace

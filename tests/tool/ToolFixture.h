@@ -29,10 +29,13 @@ struct ToolResult {
 
 class Tool : public testing::Test {
 protected:
-    ToolResult run(const QStringList& arguments) {
+    /// The input comes through a pipe.
+    ToolResult run(const QStringList& arguments, const QByteArray& input = {}) {
         QProcess process;
         process.setWorkingDirectory(folder.path());
         process.start(QUARN_TOOL_PATH, arguments);
+        process.write(input);
+        process.closeWriteChannel();
         EXPECT_TRUE(process.waitForFinished());
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         return {process.exitCode(),

@@ -4,6 +4,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <filesystem>
 
 #include "Faults.h"
 #include "quarn/Version.h"
@@ -139,38 +140,25 @@ TEST_F(Tool, check_prints_json) {
     EXPECT_EQ(result.status, 2);
 }
 
-struct UnusableRow {
-    const char* name;
-    QByteArray content;
-    const char* message;
-    friend void PrintTo(const UnusableRow& row, std::ostream* out) { *out << row.name; }
-};
-
-class ToolRefusing : public Tool, public testing::WithParamInterface<UnusableRow> {};
-
-TEST_P(ToolRefusing, is_refused_and_an_earlier_output_stays) {
-    write("in", GetParam().content);
+TEST_F(Tool, refuses_what_is_no_project_and_an_earlier_output_stays) {
+    const std::string noProject = "not a project file: it has no FDTDProject or FEMProject block";
+    const QVector<QPair<QByteArray, std::string>> rows = {
+        {"", noProject},
+        {"Version 8\nbegin_<Something> \nend_<Something>\n", noProject},
+        {QByteArray::fromHex("00ff8090feff000a1b5b"), noProject},
+        {"Version 9\nbegin_<FDTDProject> \nend_<FDTDProject>\n", "This project file version is unsupported."},
+    };
     write("out", "earlier");
-    const std::string message = std::string("quarn: in: ") + GetParam().message + "\n";
-    const ToolResult check = run({"check", "in"});
-    EXPECT_EQ(check.err, message);
-    EXPECT_EQ(check.status, 2);
-    const ToolResult rewrite = run({"rewrite", "in", "out"});
-    EXPECT_EQ(rewrite.err, message);
-    EXPECT_EQ(rewrite.status, 2);
+    for (const auto& [content, message] : rows) {
+        write("in", content);
+        for (const QStringList& command : QVector<QStringList>{{"check", "in"}, {"rewrite", "in", "out"}}) {
+            const ToolResult result = run(command);
+            EXPECT_EQ(result.err, "quarn: in: " + message + "\n");
+            EXPECT_EQ(result.status, 2);
+        }
+    }
     EXPECT_EQ(read("out"), "earlier");
 }
-
-constexpr auto noProject = "not a project file: it has no FDTDProject or FEMProject block";
-const UnusableRow unusableRows[] = {
-    {"empty_file", "", noProject},
-    {"other_text", "Version 8\nbegin_<Something> \nend_<Something>\n", noProject},
-    {"bytes", QByteArray::fromHex("00ff8090feff000a1b5b"), noProject},
-    {"newer_version",
-     "Version 9\nbegin_<FDTDProject> \nend_<FDTDProject>\n",
-     "This project file version is unsupported."},
-};
-INSTANTIATE_TEST_SUITE_P(, ToolRefusing, testing::ValuesIn(unusableRows), rowName<UnusableRow>);
 
 TEST_F(Tool, rewrite_on_a_full_disk_fails_and_an_earlier_output_stays) {
     write("in", clean.toUtf8());
@@ -216,12 +204,61 @@ TEST_F(Tool, rewrite_that_cannot_save_says_why_and_leaves_no_output) {
     EXPECT_EQ(run({"rewrite", "in", "no/such/folder/out"}).status, 2);
 }
 
-TEST_F(Tool, rewrite_works_in_place_whatever_there_is_to_find) {
-    write("run", cleanWith({{"NumberOfPMLLayers 8\n", "Unknown 3\nNumberOfPMLLayers 0x8\n"}, {"\n", "\r\n  "}}));
-    const ToolResult result = run({"rewrite", "run", "run"});
-    EXPECT_EQ(result.status, 0) << result.err;
-    EXPECT_EQ(result.out + result.err, "");
-    EXPECT_EQ(read("run"), clean.toUtf8());
+TEST_F(Tool, rewrite_loses_lines_of_its_input_only_when_it_is_told_to) {
+    const QByteArray lossy = cleanWith({{"NumberOfPMLLayers 8\n", "Unknown 3\nNumberOfPMLLayers 0x8\n"}});
+    const std::string loss = "quarn: run:21: not kept: Unknown 3\nquarn: run: 1 line not kept\n";
+    const auto at = [this](const char* name) { return folder.filePath(name).toStdString(); };
+    std::filesystem::create_directory(at("sub"));
+    std::filesystem::create_symlink("run", at("link"));
+    for (const QString out : {"run", "./sub/../run", "link", "second"}) {
+        SCOPED_TRACE(out.toStdString());
+        write("run", lossy);
+        std::filesystem::remove(at("second"));
+        std::filesystem::create_hard_link(at("run"), at("second"));
+        const ToolResult refused = run({"rewrite", "run", out});
+        EXPECT_THAT(refused.err, AllOf(testing::StartsWith(loss), HasSubstr("--force")));
+        EXPECT_EQ(refused.status, 2);
+        EXPECT_EQ(read("run"), lossy);
+        const ToolResult forced = run({"rewrite", "--force", "run", out});
+        EXPECT_EQ(forced.out + forced.err, loss);
+        EXPECT_EQ(forced.status, 1);
+        EXPECT_EQ(read(out), clean.toUtf8());
+    }
+}
+
+TEST_F(Tool, rewrite_tells_what_it_loses) {
+    const QString layers = "NumberOfPMLLayers 8\n";
+    const QVector<QPair<QByteArray, std::string>> rows = {
+        {cleanWith({{layers, "a 1\nb 2\nc 3\nd 4\ne 5\nf 6\n" + layers}}),
+         "quarn: run:21: not kept: a 1\nquarn: run:22: not kept: b 2\nquarn: run:23: not kept: c 3\n"
+         "quarn: run:24: not kept: d 4\nquarn: run:25: not kept: e 5\n"
+         "quarn: run: 6 lines not kept; 'quarn check' names all of them\n"},
+        {clean.toUtf8().chopped(static_cast<int>(qstrlen("end_<FDTDProject>\n"))),
+         "quarn: run:2: block <FDTDProject> is not closed\nquarn: run: 1 block not closed\n"},
+        {cleanWith({{"wave.inc", "wave?.inc"}}).replace('?', '\xff'),
+         "quarn: run: warning: Characters that are not valid UTF-8 are replaced in 1 place.\nquarn: run: 1 warning\n"},
+    };
+    for (const auto& [content, loss] : rows) {
+        write("run", content);
+        const ToolResult result = run({"rewrite", "run", "out"});
+        EXPECT_EQ(result.err, loss);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(run({"rewrite", "out", "out"}).status, 0);
+    }
+    EXPECT_EQ(run({"rewrite", "-", "out"}, cleanWith({{layers, "NumberOfPMLLayers 0x8\n"}})).status, 0);
+    EXPECT_EQ(read("out"), clean.toUtf8());
+}
+
+TEST_F(Tool, refuses_a_link_that_only_leads_to_itself) {
+    write("in", clean.toUtf8());
+    std::filesystem::create_symlink("loop", folder.filePath("loop").toStdString());
+    const QVector<QStringList> commands = {{"rewrite", "in", "loop"}, {"rewrite", "loop", "out"}, {"show", "loop"}};
+    for (const QStringList& command : commands) {
+        const ToolResult result = run(command);
+        EXPECT_THAT(result.err, testing::StartsWith("quarn: loop: is a link that leads nowhere but to itself; "));
+        EXPECT_EQ(result.status, 2);
+    }
+    EXPECT_TRUE(QFileInfo(folder.filePath("loop")).isSymLink());
 }
 
 TEST_F(Tool, show_says_what_a_project_holds) {
@@ -245,7 +282,8 @@ TEST_F(Tool, show_says_what_a_project_holds) {
               "  Waveform 0      sinusoid, 1 GHz\n"
               "  Termination     after 1000 timesteps\n"
               "    Convergence   not watched\n");
-    EXPECT_EQ(result.err, "quarn: other: not a kind of file that is known here\n");
+    EXPECT_EQ(result.err,
+              "quarn: other: is of an unknown kind; if it holds records, 'quarn export --as KIND' reads it\n");
     EXPECT_EQ(result.status, 2);
 }
 

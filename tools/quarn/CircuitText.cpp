@@ -16,11 +16,12 @@ QString placeOf(const CircuitComponent& component) {
 }
 
 QString waveGuidePortText(const WaveGuidePort& port) {
-    return QStringLiteral("%1, waveguide %2 mode %3, amplitude %4, phase %5 rad")
+    return QStringLiteral("%1, waveguide %2 mode %3, amplitude %4, phase %5")
         .arg(port.getWaveGuideModeName())
         .arg(port.getWaveGuideNumber())
         .arg(port.getWaveGuideModeNumber())
-        .arg(numberText(port.getWaveGuideAmplitude()), numberText(port.getWaveGuidePhase()));
+        .arg(numberText(port.getWaveGuideAmplitude()),
+             degrees(degreesFromRadians(static_cast<float>(port.getWaveGuidePhase()))));
 }
 
 QString label(const CircuitComponent& component, std::size_t index) {

@@ -46,4 +46,23 @@ void CsvWriter::flush() {
     m_text.clear();
 }
 
+QString columnName(const QString& name, const QString& unit) {
+    QString column = (name + u'_' + unit).toLower();
+    for (const QChar blank : {u' ', u'-'}) column.replace(blank, u'_');
+    return column.replace(u'/', QLatin1String("_per_")).replace(u'²', u'2');
+}
+
+QStringList vectorColumns(const QString& field, const QString& unit, Components components) {
+    QStringList columns;
+    for (const char* axis : {"_x", "_y", "_z"}) {
+        const QString name = field + QLatin1String(axis);
+        if (components == Components::Real) {
+            columns << columnName(name, unit);
+        } else {
+            columns << columnName(name + QLatin1String("_re"), unit) << columnName(name + QLatin1String("_im"), unit);
+        }
+    }
+    return columns;
+}
+
 }  // namespace quarn::tool

@@ -36,4 +36,12 @@ private:
     bool m_rowIsEmpty = true;
 };
 
+/// "x_v_per_m" for "x" in V/m: the name of a column with its unit.
+QString columnName(const QString& name, const QString& unit);
+
+/// The columns of a field such as "total E": "total_e_x_v_per_m" and so on for each component; when they are complex,
+/// "total_e_x_re_v_per_m", "total_e_x_im_v_per_m" and so on.
+enum class Components { Real, Complex };
+QStringList vectorColumns(const QString& field, const QString& unit, Components components);
+
 }  // namespace quarn::tool

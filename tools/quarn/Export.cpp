@@ -17,24 +17,52 @@ namespace quarn::tool {
 
 namespace {
 
-int statusOfIncomplete(const QString& path, std::size_t bytes) {
+const QStringList timeColumn{QStringLiteral("time_s")};
+const QStringList frequencyColumn{QStringLiteral("frequency_hz")};
+const QStringList cellColumns{QStringLiteral("i"), QStringLiteral("j"), QStringLiteral("k")};
+
+QString whatToDoWith(FileKind kind) {
+    switch (kind) {
+        case FileKind::MeshlessVias:
+        case FileKind::Geometry:
+        case FileKind::Project:
+            return QStringLiteral("'quarn show' tells what it holds");
+        case FileKind::Unknown:
+            return QStringLiteral("say with --as KIND what records it holds");
+        case FileKind::OtherResult:
+            return QStringLiteral("it cannot be exported");
+        default:
+            return QStringLiteral("leave --as out");
+    }
+}
+
+FileProblem notExported(const InputFile& file, FileKind kind) {
+    return {file.name(), QStringLiteral("is %1; ").arg(description(kind)) + whatToDoWith(kind)};
+}
+
+int statusOfIncomplete(const InputFile& file, std::size_t bytes) {
     if (bytes == 0) return ExitFine;
-    complain(QStringLiteral("%1: cut short: %2 at the end belong to no whole record")
-                 .arg(path, counted(bytes, QStringLiteral("byte"))));
+    complain(QStringLiteral("%1: cut short: %2").arg(file.name(), incompleteRecordText(bytes)));
     return ExitFindings;
 }
 
-int exportRecords(const RecordKind& kind, const QString& path) {
+int exportRecords(const RecordKind& kind, const InputFile& file) {
     CsvWriter csv;
-    return statusOfIncomplete(path, kind.exportRows(kind, path, csv));
+    return statusOfIncomplete(file, kind.exportRows(kind, file, csv));
 }
 
-int exportNearZonePoint(const QString& path) {
-    NearZoneFile file(path);
-    QStringList columns{QStringLiteral("time")};
+/// What says what it is cannot be read as something else.
+int exportRecordsAs(const RecordKind& kind, const InputFile& file) {
+    const FileKind found = kindOf(file.beginning());
+    if (found == FileKind::Unknown || found == kind.fileKind) return exportRecords(kind, file);
+    throw notExported(file, found);
+}
+
+int exportNearZonePoint(const InputFile& input) {
+    NearZoneFile file(input);
+    QStringList columns = timeColumn;
     for (const NearZoneGroup& group : file.groups()) {
-        const QString name = QString::fromLatin1(group.name).replace(u' ', u'_');
-        for (const char axis : {'x', 'y', 'z'}) columns << name + QLatin1Char(axis);
+        columns << vectorColumns(QString::fromLatin1(group.name), QString::fromUtf8(group.unit), Components::Real);
     }
     CsvWriter csv;
     csv.addHeader(columns);
@@ -45,16 +73,14 @@ int exportNearZonePoint(const QString& path) {
         }
         csv.endRow();
     }
-    return statusOfIncomplete(path, file.incompleteBytes());
+    return statusOfIncomplete(input, file.incompleteBytes());
 }
 
-int exportSarPlane(const QString& path) {
+int exportSarPlane(const InputFile& file) {
     SarResultReader reader;
-    if (!reader.beginResultReading(path)) {
-        throw FileProblem(path, QStringLiteral("not a SAR plane of a version that is known, or cut short"));
-    }
+    open(reader, file);
     CsvWriter csv;
-    csv.addHeader({QStringLiteral("i"), QStringLiteral("j"), QStringLiteral("k"), QStringLiteral("sar")});
+    csv.addHeader(cellColumns + QStringList(QStringLiteral("sar_w_per_kg")));
     std::int64_t records = 0;
     for (SarResult::Record record; reader.readRecord(record); ++records) {
         csv.add(record.i);
@@ -64,23 +90,37 @@ int exportSarPlane(const QString& path) {
         csv.endRow();
     }
     if (records >= reader.getNumberOfRecords()) return ExitFine;
-    complain(QStringLiteral("%1: cut short: %2 of %3 records").arg(path).arg(records).arg(reader.getNumberOfRecords()));
+    complain(file.name() +
+             QStringLiteral(": cut short: %1 of %2 records").arg(records).arg(reader.getNumberOfRecords()));
     return ExitFindings;
 }
 
-int exportPattern(const QString& path) {
+/// Why samples of a cut are missing from the table; null when none are.
+QString lossOf(const PatternCut& cut) {
+    const int announced = cut.plane.GetNumberOfPoints();
+    if (cut.refusal) return QStringLiteral("refused at line %1, %2").arg(cut.refusal->line).arg(cut.refusal->reason);
+    if (cut.missingSamples > 0) {
+        return QStringLiteral("cut short: %1 of %2 samples").arg(announced - cut.missingSamples).arg(announced);
+    }
+    if (cut.leftOutLines == 0) return {};
+    return QStringLiteral("%1 left out behind the %2 that NUPOIN announces")
+        .arg(counted(static_cast<std::size_t>(cut.leftOutLines), QStringLiteral("sample")))
+        .arg(announced);
+}
+
+int exportPattern(const QString& name, const QByteArray& content) {
     CsvWriter csv;
-    csv.addHeader({QStringLiteral("cut"), QStringLiteral("angle"), QStringLiteral("gain"), QStringLiteral("second")});
+    csv.addHeader({QStringLiteral("cut"),
+                   QStringLiteral("angle_deg"),
+                   QStringLiteral("gain_power_ratio"),
+                   QStringLiteral("second")});
     std::int32_t number = 0;
     int status = ExitFine;
-    for (const PatternCut& cut : readPatternFile(path, readFile(path))) {
+    for (const PatternCut& cut : readPatternFile(name, content)) {
         ++number;
-        if (cut.refusal) {
-            complain(QStringLiteral("%1:%2: cut %3 refused: %4")
-                         .arg(path)
-                         .arg(cut.refusal->line)
-                         .arg(number)
-                         .arg(cut.refusal->reason));
+        const QString loss = lossOf(cut);
+        if (!loss.isNull()) {
+            complain(name + QStringLiteral(":%1: cut %2: ").arg(cut.line).arg(number) + loss);
             status = ExitFindings;
         }
         for (const auto& [angle, values] : cut.plane.GetSamples()) {
@@ -98,15 +138,13 @@ int exportPattern(const QString& path) {
 class GroupExport {
 public:
     GroupExport(MultiPointSet& set, const SetGroup& group)
-        : m_set(set), m_group(group), m_values(static_cast<std::size_t>(group.components().size())) {
+        : m_set(set), m_group(group), m_values(static_cast<std::size_t>(group.columns().size())) {
         if (m_set.reader.readGeometry(m_points)) return;
-        throw FileProblem(m_set.reader.getGeometryFileName(), QStringLiteral("cannot be read"));
+        throw unreadable(m_set.reader.getGeometryFileName());
     }
 
     void addHeader() {
-        const QString list = m_group.isSteady() ? QStringLiteral("frequency") : QStringLiteral("time");
-        m_csv.addHeader(QStringList{list, QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z")} +
-                        m_group.components());
+        m_csv.addHeader((m_group.isSteady() ? frequencyColumn : timeColumn) + cellColumns + m_group.columns());
     }
 
     /// Returns how many points there are of which all components are known; none when files are missing.
@@ -114,7 +152,7 @@ public:
         constexpr std::size_t piece = 1 << 14;
         const auto& list = m_group.isSteady() ? m_set.frequencies : m_set.times;
         m_group.choose(m_set.reader, index);
-        if (!begin()) return std::nullopt;
+        if (!begin(index)) return std::nullopt;
         std::size_t point = 0;
         while (const std::size_t count = read(std::min(piece, m_points.size() - point))) {
             for (std::size_t i = 0; i < count; ++i, ++point) {
@@ -126,9 +164,9 @@ public:
     }
 
 private:
-    bool begin() {
+    bool begin(int index) {
         for (std::size_t c = 0; c < m_values.size(); ++c) {
-            if (!m_group.begin(m_set.reader, static_cast<int>(c))) return false;
+            if (!m_group.begin(m_set.reader, index, static_cast<int>(c))) return false;
         }
         return true;
     }
@@ -157,27 +195,40 @@ private:
     std::vector<std::vector<float>> m_values;  ///< by component
 };
 
-const SetGroup& groupNamed(const QString& name, const MultiPointSet& set, const QString& path) {
+/// What the user chose of a multi-point result; null where nothing.
+struct Choice {
+    QString group;
+    QString index;
+
+    bool isMade() const { return !group.isNull() || !index.isNull(); }
+};
+
+const SetGroup& chosenGroup(const MultiPointSet& set, const Choice& choice, const QString& name) {
     QStringList names;
     for (const SetGroup& group : set.groups) {
-        if (group.name() == name || (name.isEmpty() && set.groups.size() == 1)) return group;
+        if (group.name() == choice.group || (choice.group.isNull() && set.groups.size() == 1)) return group;
         names << group.name();
     }
-    if (names.empty()) throw FileProblem(path, QStringLiteral("has no group"));
+    if (names.empty()) throw FileProblem(name, QStringLiteral("holds no group of fields"));
     throw WrongUsage(QStringLiteral("Choose a group with --group: %1.").arg(names.join(QStringLiteral(", "))));
 }
 
-int exportMultiPoint(const QString& path, const QString& groupName, const QString& indexText) {
-    MultiPointSet set(path);
-    const SetGroup& group = groupNamed(groupName, set, path);
+int chosenIndex(const QString& text, int indices) {
+    bool isNumber = false;
+    const int index = text.toInt(&isNumber);
+    if (isNumber && index >= 0 && index < indices) return index;
+    throw WrongUsage(indices == 0
+                         ? QStringLiteral("--index %1 is beyond the end: nothing is recorded yet.").arg(text)
+                         : QStringLiteral("--index needs a number from 0 to %2, not '%1'.").arg(text).arg(indices - 1));
+}
+
+int exportMultiPoint(const InputFile& file, const Choice& choice) {
+    MultiPointSet set(file);
+    const SetGroup& group = chosenGroup(set, choice, file.name());
     int first = 0;
     int end = set.indicesOf(group);
-    if (!indexText.isNull()) {
-        bool isNumber = false;
-        first = indexText.toInt(&isNumber);
-        if (!isNumber || first < 0 || first >= end) {
-            throw WrongUsage(QStringLiteral("--index %1 is not one of 0 to %2.").arg(indexText).arg(end - 1));
-        }
+    if (!choice.index.isNull()) {
+        first = chosenIndex(choice.index, end);
         end = first + 1;
     }
     GroupExport rows(set, group);
@@ -187,14 +238,46 @@ int exportMultiPoint(const QString& path, const QString& groupName, const QStrin
         const auto points = rows.addRows(index);
         const int expected = set.reader.getNumberOfPoints();
         if (points && *points >= static_cast<std::size_t>(expected)) continue;
-        complain(QStringLiteral("%1: cut short: %2 of %3 points at index %4")
-                     .arg(path)
-                     .arg(points.value_or(0))
-                     .arg(expected)
-                     .arg(index));
+        complain(file.name() + QStringLiteral(": cut short: %1 of %2 points at index %3")
+                                   .arg(points.value_or(0))
+                                   .arg(expected)
+                                   .arg(index));
         status = ExitFindings;
     }
     return status;
+}
+
+int exportByContent(const InputFile& file, const Choice& choice) {
+    const FileKind kind = kindOf(file.beginning());
+    if (kind == FileKind::MultiPoint) return exportMultiPoint(file, choice);
+    if (choice.isMade()) {
+        throw WrongUsage(QStringLiteral("--group and --index are for multi-point results, but '%1' is %2.")
+                             .arg(file.name(), description(kind)));
+    }
+    if (kind == FileKind::NearZonePoint) return exportNearZonePoint(file);
+    if (kind == FileKind::SarPlane) return exportSarPlane(file);
+    if (const RecordKind* records = recordKindOf(kind)) return exportRecords(*records, file);
+    if (kind == FileKind::AntennaPattern) return exportPattern(file.name(), readFile(file.path()));
+    throw notExported(file, kind);
+}
+
+QString helpText() {
+    return QStringLiteral(
+               "Writes what a result file holds as comma-separated values (CSV) to standard output. RESULT is a\n"
+               "near-zone point, a SAR plane, the far-zone box, an antenna pattern, the BASE_info.bin of a\n"
+               "multi-point result, or with --as a file of records. A pipe is read to its end, and so is standard\n"
+               "input, which '-' stands for.\n\n"
+               "Columns end in their unit: s, hz, v, a, w, t, kg, deg, v_per_m, a_per_m, a_per_m2, w_per_kg; _re and\n"
+               "_im are the parts of a complex number; i, j and k number cells. They are, of\n"
+               "  a near-zone point\n      time_s, then such as total_e_x_v_per_m for each field and axis\n"
+               "  a multi-point result\n      time_s,i,j,k, then such as total_e_x_v_per_m for each axis; or\n"
+               "      frequency_hz,i,j,k, then such as total_e_x_re_v_per_m, total_e_x_im_v_per_m\n"
+               "  a SAR plane\n      i,j,k,sar_w_per_kg\n"
+               "  an antenna pattern\n      cut,angle_deg,gain_power_ratio,second (what a line has behind the gain)\n"
+               "and of the kinds of records for --as%1\n"
+               "The components e_theta and e_phi of far-zone records are in volts: the field times the distance.\n\n"
+               "Exit status: 0 fine, 1 the file is cut short or not read in all parts, 2 it cannot be used.")
+        .arg(recordKindsText());
 }
 
 }  // namespace
@@ -203,43 +286,24 @@ int runExport(const QStringList& arguments) {
     const QString as = QStringLiteral("as");
     const QString group = QStringLiteral("group");
     const QString index = QStringLiteral("index");
-    CommandLine commandLine(
-        QStringLiteral("export"),
-        QStringLiteral("Writes what a result file holds as comma-separated values: near-zone points, groups of a\n"
-                       "multi-point result (give its BASE_info.bin), SAR planes, antenna pattern cuts (gains as power\n"
-                       "ratios), and files of records. Units are SI, angles of far-zone records in radians, of\n"
-                       "patterns in degrees. Kinds of records:\n  %1\n"
-                       "Exit status: 0 fine, 1 the file is cut short, 2 it cannot be used.")
-            .arg(recordKindNames().join(QStringLiteral("\n  "))));
+    CommandLine commandLine(QStringLiteral("export"), helpText());
     commandLine.addOption(
         as, QStringLiteral("What the records are, for files that do not say it."), QStringLiteral("KIND"));
     commandLine.addOption(
         group, QStringLiteral("The group of a multi-point result, such as transient-total-E."), QStringLiteral("NAME"));
-    commandLine.addOption(
-        index, QStringLiteral("Only this time step or frequency, counted from 0."), QStringLiteral("N"));
+    commandLine.addOption(index,
+                          QStringLiteral("Only this time step or frequency of a multi-point result, counted from 0."),
+                          QStringLiteral("N"));
     commandLine.addFile(QStringLiteral("RESULT"), QStringLiteral("The file to export."));
     if (!commandLine.parse(arguments)) return ExitFine;
 
-    const QString path = commandLine.files().constFirst();
-    if (commandLine.isSet(as)) {
-        const RecordKind* kind = recordKind(commandLine.value(as));
-        if (!kind) throw WrongUsage(QStringLiteral("'%1' is no kind of records.").arg(commandLine.value(as)));
-        return exportRecords(*kind, path);
+    const QString name = commandLine.files().constFirst();
+    const Choice choice{commandLine.value(group), commandLine.value(index)};
+    if (!commandLine.isSet(as)) return exportByContent(InputFile(name), choice);
+    if (choice.isMade()) {
+        throw WrongUsage(QStringLiteral("--group and --index are for multi-point results, not for records (--as)."));
     }
-    switch (resultKindOf(path)) {
-        case ResultKind::NearZonePoint:
-            return exportNearZonePoint(path);
-        case ResultKind::MultiPoint:
-            return exportMultiPoint(path, commandLine.value(group), commandLine.value(index));
-        case ResultKind::SarPlane:
-            return exportSarPlane(path);
-        case ResultKind::FarZoneBox:
-            return exportRecords(*recordKind(QStringLiteral("far-zone-box")), path);
-        case ResultKind::None:
-            break;
-    }
-    if (kindOf(readFile(path)) == FileKind::AntennaPattern) return exportPattern(path);
-    throw FileProblem(path, QStringLiteral("does not say what it holds; say it with --as KIND"));
+    return exportRecordsAs(recordKindNamed(commandLine.value(as)), InputFile(name));
 }
 
 }  // namespace quarn::tool

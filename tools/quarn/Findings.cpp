@@ -24,19 +24,15 @@ QString savedTextWithoutBoundaries(v6ProjectFile& project) {
     return text.remove(start, end - start);
 }
 
-void addInvalidCharacters(Findings& findings, int count) {
-    if (count == 0) return;
-    findings.warnings << QStringLiteral("The file is not UTF-8 throughout; what is not is replaced in %1.")
-                             .arg(counted(count, QStringLiteral("place")));
-}
-
-void compare(Findings& findings, BlockText input, const BlockText& saved) {
+Findings lossIn(BlockText input, int invalidCharacters, const BlockText& saved) {
+    Findings findings;
+    if (invalidCharacters > 0) {
+        findings.warnings << QStringLiteral("Characters that are not valid UTF-8 are replaced in %1.")
+                                 .arg(counted(invalidCharacters, QStringLiteral("place")));
+    }
     findings.lost = linesLost(input.lines, saved.lines);
     findings.unclosed = std::move(input.unclosed);
-}
-
-void printAt(const QString& path, int line, const QString& text) {
-    out() << printable(path) << ':' << line << ": " << printable(text) << '\n';
+    return findings;
 }
 
 }  // namespace
@@ -50,6 +46,19 @@ QString Findings::summary() const {
     if (!lost.empty()) parts << counted(lost.size(), QStringLiteral("line")) + QStringLiteral(" not kept");
     if (!unclosed.empty()) parts << counted(unclosed.size(), QStringLiteral("block")) + QStringLiteral(" not closed");
     return parts.empty() ? QStringLiteral("no findings") : parts.join(QStringLiteral(", "));
+}
+
+QStringList Findings::lossTexts(const QString& path) const {
+    QStringList texts;
+    for (const LostLine& line : lost) {
+        const QString becomes =
+            line.becomes.isNull() ? QString() : QStringLiteral(", becomes \"%1\"").arg(line.becomes);
+        texts << path + QStringLiteral(":%1: not kept: ").arg(line.number) + line.text + becomes;
+    }
+    for (const UnclosedBlock& block : unclosed) {
+        texts << path + QStringLiteral(":%1: block <%2> is not closed").arg(block.line).arg(block.name);
+    }
+    return texts;
 }
 
 QJsonObject Findings::toJson() const {
@@ -74,38 +83,38 @@ void Findings::print(const QString& path) const {
     for (const QString& text : circuit) out() << printable(path) << ": " << printable(text) << '\n';
     for (const QString& text : errors) out() << printable(path) << ": error: " << printable(text) << '\n';
     for (const QString& text : warnings) out() << printable(path) << ": warning: " << printable(text) << '\n';
-    for (const LostLine& line : lost) {
-        const QString becomes =
-            line.becomes.isNull() ? QString() : QStringLiteral(", becomes \"%1\"").arg(line.becomes);
-        printAt(path, line.number, QStringLiteral("not kept: ") + line.text + becomes);
-    }
-    for (const UnclosedBlock& block : unclosed) {
-        printAt(path, block.line, QStringLiteral("block <%1> is not closed").arg(block.name));
-    }
+    for (const QString& text : lossTexts(path)) out() << printable(text) << '\n';
     out() << printable(path) << ": " << summary() << '\n';
 }
 
-Findings examine(LoadedProject& loaded) {
-    Findings findings;
-    v6ProjectFile& project = loaded.project;
-    findings.circuit = circuitLines(project);
-    project.checkValidity(findings.errors, findings.warnings);
-    addInvalidCharacters(findings, loaded.invalidCharacters);
+Findings lossIn(const LoadedProject& loaded, const QString& saved) {
     BlockNumbers numbers;
-    const QString saved = project.getBoundaryConditions() ? savedText(project) : savedTextWithoutBoundaries(project);
-    compare(findings, scanBlockText(loaded.text, numbers), scanBlockText(saved, numbers));
+    return lossIn(scanBlockText(loaded.text, numbers), loaded.invalidCharacters, scanBlockText(saved, numbers));
+}
+
+Findings lossIn(const LoadedGeometry& loaded, const QString& saved) {
+    BlockNumbers numbers;
+    BlockText input = scanBlockText(loaded.text, numbers);
+    normalize(input.lines, numbers);
+    return lossIn(std::move(input), loaded.invalidCharacters, scanBlockText(saved, numbers));
+}
+
+Findings examine(LoadedProject& loaded) {
+    v6ProjectFile& project = loaded.project;
+    const QStringList circuit = circuitLines(project);
+    QStringList errors, warnings;
+    project.checkValidity(errors, warnings);
+    Findings findings =
+        lossIn(loaded, project.getBoundaryConditions() ? savedText(project) : savedTextWithoutBoundaries(project));
+    findings.circuit = circuit;
+    findings.errors = errors;
+    findings.warnings = warnings + findings.warnings;
     return findings;
 }
 
 Findings examine(const LoadedGeometry& loaded) {
-    Findings findings;
+    Findings findings = lossIn(loaded, QString::fromUtf8(savedBytes(loaded)));
     findings.errors = errorsIn(loaded);
-    addInvalidCharacters(findings, loaded.invalidCharacters);
-    BlockNumbers numbers;
-    BlockText input = scanBlockText(loaded.text, numbers);
-    normalize(input.lines, numbers);
-    const QString saved = QString::fromUtf8(savedBytes(loaded));
-    compare(findings, std::move(input), scanBlockText(saved, numbers));
     return findings;
 }
 

@@ -23,10 +23,17 @@ struct Findings {
     bool none() const;
     /// "no findings", "1 error, 3 lines not kept".
     QString summary() const;
+    /// A text for each line that is not kept and each block that is not closed, behind the path and the line's number.
+    QStringList lossTexts(const QString& path) const;
     QJsonObject toJson() const;
     /// Prints a line for each finding and the summary, each behind the path.
     void print(const QString& path) const;
 };
+
+/// What of the text of a file is not in what it was saved as: the lines, the blocks that were not closed and, as a
+/// warning, the characters that are not UTF-8.
+Findings lossIn(const LoadedProject& loaded, const QString& saved);
+Findings lossIn(const LoadedGeometry& loaded, const QString& saved);
 
 /// Validates the project and compares its text with what it is saved as. A project without boundary conditions gets
 /// some, as it could not be saved otherwise.

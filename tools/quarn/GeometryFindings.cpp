@@ -18,7 +18,7 @@ void addUnusableSize(QStringList& errors, const Grid& grid, const GridAxis& axis
     for (std::uint32_t i = 0; i < cells; ++i) {
         const float size = (grid.*axis.getDelta)(i);
         if (std::isfinite(size) && size > 0.0F) continue;
-        errors << QStringLiteral("Cell %1 along %2 has the size %3.")
+        errors << QStringLiteral("Cell %1 along %2 has the unusable size %3 m.")
                       .arg(i)
                       .arg(QLatin1String(axis.name), numberText(static_cast<double>(size)));
         return;
@@ -28,7 +28,7 @@ void addUnusableSize(QStringList& errors, const Grid& grid, const GridAxis& axis
 void addMissingMaterial(QStringList& errors, const MaterialMap& map, const char* kind, std::int32_t position,
                         std::size_t count) {
     if (position >= 0 && static_cast<std::size_t>(position) < count) return;
-    errors << QStringLiteral("The material map '%1' names %2 material %3, of which there are %4.")
+    errors << QStringLiteral("The material map '%1' names %2 material %3, but there are %4, numbered from 0.")
                   .arg(map.getName(), QLatin1String(kind))
                   .arg(position)
                   .arg(count);

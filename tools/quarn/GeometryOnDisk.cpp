@@ -10,7 +10,8 @@ namespace quarn::tool {
 
 LoadedGeometry::LoadedGeometry(const QString& path, const QByteArray& content) {
     if (!isGeometryFile(content)) {
-        throw FileProblem(path, QStringLiteral("not a geometry file: its first line does not say so"));
+        throw FileProblem(path,
+                          QStringLiteral("not a geometry file: its first line does not name a geometry file version"));
     }
     DecodedText decoded = decodedAsUtf8(content);
     text = decoded.text;

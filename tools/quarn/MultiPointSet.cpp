@@ -1,6 +1,8 @@
 #include "MultiPointSet.h"
 
 #include "Console.h"
+#include "CsvWriter.h"
+#include "ResultFile.h"
 
 namespace quarn::tool {
 
@@ -9,17 +11,17 @@ namespace {
 using Result = MultiPointResult;
 
 const SetGroup allGroups[] = {
-    {"transient-scattered-E", "E", "V/m", Result::TransientScatteredE},
-    {"transient-total-E", "E", "V/m", Result::TransientTotalE},
-    {"transient-scattered-H", "H", "A/m", Result::TransientScatteredH},
-    {"transient-total-H", "H", "A/m", Result::TransientTotalH},
-    {"transient-scattered-B", "B", "T", Result::TransientScatteredB},
-    {"transient-total-B", "B", "T", Result::TransientTotalB},
-    {"transient-J", "J", "A/m²", Result::TransientJ},
-    {"steady-total-E", "E", "V/m", Result::SteadyTotalE},
-    {"steady-total-H", "H", "A/m", Result::SteadyTotalH},
-    {"steady-total-B", "B", "T", Result::SteadyTotalB},
-    {"steady-J", "J", "A/m²", Result::SteadyJ},
+    {"transient-scattered-E", "V/m", Result::TransientScatteredE},
+    {"transient-total-E", "V/m", Result::TransientTotalE},
+    {"transient-scattered-H", "A/m", Result::TransientScatteredH},
+    {"transient-total-H", "A/m", Result::TransientTotalH},
+    {"transient-scattered-B", "T", Result::TransientScatteredB},
+    {"transient-total-B", "T", Result::TransientTotalB},
+    {"transient-J", "A/m²", Result::TransientJ},
+    {"steady-total-E", "V/m", Result::SteadyTotalE},
+    {"steady-total-H", "A/m", Result::SteadyTotalH},
+    {"steady-total-B", "T", Result::SteadyTotalB},
+    {"steady-J", "A/m²", Result::SteadyJ},
 };
 
 constexpr Result::Component transientComponents[] = {Result::X, Result::Y, Result::Z};
@@ -31,8 +33,7 @@ void readLists(MultiPointSet& set) {
     const bool hasFrequencies = set.reader.readFrequencies(set.frequencies);
     for (const SetGroup& group : set.groups) {
         if (group.isSteady() ? hasFrequencies : hasTimes) continue;
-        throw FileProblem(group.isSteady() ? set.reader.getFrequenciesFileName() : set.reader.getTimestepsFileName(),
-                          QStringLiteral("cannot be read"));
+        throw unreadable(group.isSteady() ? set.reader.getFrequenciesFileName() : set.reader.getTimestepsFileName());
     }
 }
 
@@ -43,20 +44,16 @@ bool SetGroup::isIn(const MultiPointResult& result) const {
                       : result.collects(static_cast<Result::TransientGroup>(m_group));
 }
 
-QStringList SetGroup::components() const {
-    QStringList names;
-    for (const char* axis : {"x", "y", "z"}) {
-        const QString name = QLatin1String(m_symbol) + QLatin1String(axis);
-        names << (m_isSteady ? QStringList{name + u'r', name + u'i'} : QStringList{name});
-    }
-    return names;
+QStringList SetGroup::columns() const {
+    return vectorColumns(name().section(u'-', 1), unit(), m_isSteady ? Components::Complex : Components::Real);
 }
 
 void SetGroup::choose(MultiPointResultReader& reader, int index) const {
     m_isSteady ? reader.beginFrequency(index) : reader.beginTimestep(index);
 }
 
-bool SetGroup::begin(MultiPointResultReader& reader, int component) const {
+bool SetGroup::begin(MultiPointResultReader& reader, int index, int component) const {
+    checkPathLength(fileName(reader, index, component));
     return m_isSteady
                ? reader.beginSteady(static_cast<Result::SteadyGroup>(m_group), steadyComponents[component])
                : reader.beginTransient(static_cast<Result::TransientGroup>(m_group), transientComponents[component]);
@@ -68,19 +65,32 @@ bool SetGroup::read(MultiPointResultReader& reader, int component, std::vector<f
                       : reader.readTransientBlock(transientComponents[component], values, count);
 }
 
-MultiPointSet::MultiPointSet(const QString& infoFile) {
+QString SetGroup::fileName(const MultiPointResult& result, int index, int component) const {
+    return m_isSteady ? result.getComponentFileName(
+                            static_cast<Result::SteadyGroup>(m_group), steadyComponents[component], index)
+                      : result.getComponentFileName(
+                            static_cast<Result::TransientGroup>(m_group), transientComponents[component], index);
+}
+
+MultiPointSet::MultiPointSet(const InputFile& infoFile) {
     const QString ending = QStringLiteral("_info.bin");
-    if (!infoFile.endsWith(ending)) {
-        throw FileProblem(infoFile, QStringLiteral("the info file of a multi-point result is named BASE_info.bin"));
+    const auto problem = [&](const QString& text) { return FileProblem(infoFile.name(), text); };
+    if (!infoFile.path().endsWith(ending)) {
+        throw problem(
+            QStringLiteral("is the info file of a multi-point result; give it by its own name, "
+                           "BASE_info.bin, beside the other files of the result"));
     }
-    if (!reader.beginResultReading(infoFile.chopped(ending.size()))) {
-        throw FileProblem(infoFile, QStringLiteral("not an info file of a version that is known, or cut short"));
+    checkPathLength(infoFile.path());
+    if (!reader.beginResultReading(infoFile.path().chopped(ending.size()))) {
+        throw problem(
+            QStringLiteral("is the info file of a multi-point result, but cut short, damaged or not of "
+                           "version 0"));
     }
     for (const SetGroup& group : allGroups) {
         if (group.isIn(reader)) groups.push_back(group);
     }
     if (reader.getNumberOfPoints() < 0) {
-        throw FileProblem(infoFile, QStringLiteral("says that it has %1 points").arg(reader.getNumberOfPoints()));
+        throw problem(QStringLiteral("is damaged: it says that there are %1 points").arg(reader.getNumberOfPoints()));
     }
     readLists(*this);
 }

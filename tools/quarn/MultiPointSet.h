@@ -8,14 +8,16 @@
 
 namespace quarn::tool {
 
+class InputFile;
+
 /// A group of a multi-point result, transient or steady: files that each hold one component at one time step or
 /// frequency.
 class SetGroup {
 public:
-    SetGroup(const char* name, const char* symbol, const char* unit, MultiPointResult::TransientGroup group)
-        : m_name(name), m_symbol(symbol), m_unit(unit), m_isSteady(false), m_group(group) {}
-    SetGroup(const char* name, const char* symbol, const char* unit, MultiPointResult::SteadyGroup group)
-        : m_name(name), m_symbol(symbol), m_unit(unit), m_isSteady(true), m_group(group) {}
+    SetGroup(const char* name, const char* unit, MultiPointResult::TransientGroup group)
+        : m_name(name), m_unit(unit), m_isSteady(false), m_group(group) {}
+    SetGroup(const char* name, const char* unit, MultiPointResult::SteadyGroup group)
+        : m_name(name), m_unit(unit), m_isSteady(true), m_group(group) {}
 
     /// "transient-total-E"
     QString name() const { return QString::fromLatin1(m_name); }
@@ -23,17 +25,20 @@ public:
     bool isSteady() const { return m_isSteady; }
     bool isIn(const MultiPointResult& result) const;
 
-    /// "Ex", or "Exr" and "Exi" for the two parts of a steady component.
-    QStringList components() const;
+    /// The names of its components in a table, of both parts of each where the group is steady.
+    QStringList columns() const;
 
     /// Chooses the time step or the frequency.
     void choose(MultiPointResultReader& reader, int index) const;
-    bool begin(MultiPointResultReader& reader, int component) const;
+    /// Opens the file of a component at the chosen index; false when it cannot. Throws a FileProblem when the path is
+    /// too long.
+    bool begin(MultiPointResultReader& reader, int index, int component) const;
     bool read(MultiPointResultReader& reader, int component, std::vector<float>& values, std::size_t count) const;
 
 private:
+    QString fileName(const MultiPointResult& result, int index, int component) const;
+
     const char* m_name;
-    const char* m_symbol;
     const char* m_unit;
     bool m_isSteady;
     int m_group;
@@ -43,7 +48,7 @@ private:
 struct MultiPointSet {
     /// Throws a FileProblem when the file is not named BASE_info.bin or is refused, or when a list that its groups need
     /// cannot be read.
-    explicit MultiPointSet(const QString& infoFile);
+    explicit MultiPointSet(const InputFile& infoFile);
 
     /// How many time steps or frequencies there are so far.
     int indicesOf(const SetGroup& group) const;

@@ -10,10 +10,11 @@
 
 namespace quarn::tool {
 
+class InputFile;
+
 /// A group of fields at a near-zone point.
 struct NearZoneGroup {
     const char* name;
-    const char* symbol;
     const char* unit;
     bool (NearZoneMultiFieldPointResult::Header::*isCollected)() const;
     NearZoneMultiFieldPointResult::Record::Components NearZoneMultiFieldPointResult::Record::*components;
@@ -25,7 +26,7 @@ public:
     using Record = NearZoneMultiFieldPointResult::Record;
 
     /// Throws a FileProblem when the file cannot be opened or its header is refused.
-    explicit NearZoneFile(const QString& path);
+    explicit NearZoneFile(const InputFile& file);
 
     const NearZoneMultiFieldPointResult::Header& header() const { return m_result.getHeader(); }
 

@@ -1,8 +1,10 @@
 #include "PatternFile.h"
 
+#include <QSet>
 #include <QTextCodec>
 #include <QTextStream>
 #include <algorithm>
+#include <cmath>
 
 #include "Console.h"
 
@@ -18,13 +20,18 @@ constexpr double megahertz = 1e6;
 constexpr int quotedLength = 60;
 
 const QLatin1String cutKeyword("PATCUT");
+const QLatin1String countKeyword("NUPOIN");
 const QLatin1String rangeKeyword("FSTLST");
 const QLatin1String endKeyword("ENDFIL");
 const QLatin1String frequencyKeyword("PATFRE");
-const QLatin1String cutKeywords[] = {cutKeyword, QLatin1String("POLARI"), QLatin1String("NUPOIN"), rangeKeyword};
+const QLatin1String cutKeywords[] = {cutKeyword, QLatin1String("POLARI"), countKeyword, rangeKeyword};
 
 const QString separator = QStringLiteral(":,");
-const QString comma = QStringLiteral(",");
+
+const QString countProblem = QStringLiteral("the number of samples is not a whole number of 0 or more");
+const QString rangeProblem = QStringLiteral("the first and the last angle are not two numbers");
+const QString sampleProblem =
+    QStringLiteral("the sample is not an angle and a gain, two numbers with a comma between them");
 
 QString decoded(const QByteArray& content) {
     return QTextCodec::codecForUtfText(content, QTextCodec::codecForName("UTF-8"))->toUnicode(content);
@@ -39,18 +46,35 @@ std::optional<double> frequencyFrom(const QString& value) {
     return number > 0.0 ? std::make_optional(number * megahertz) : std::nullopt;
 }
 
-/// Why the reader of cuts stops at a line. PATCUT and NUPOIN take any value, so that they are not among the reasons.
+/// Why the reader of cuts stops at a keyword.
 QString refusalReason(const QString& line) {
     QString keyword, value;
-    if (!NSMACutPlane::ProcessLine(line, keyword, value, separator)) return QStringLiteral("the sample has no gain");
-    if (keyword == rangeKeyword) return QStringLiteral("there is no comma between the first and the last angle");
+    NSMACutPlane::ProcessLine(line, keyword, value, separator);
     if (keyword == endKeyword) return QStringLiteral("the end marker is not EOF");
     return belongsToACut(keyword)
                ? QStringLiteral("the polarizations are not two of V, H, LCP and RCP with a slash between them")
-               : QStringLiteral("the keyword is none of a cut");
+               : QStringLiteral("the keyword does not belong in a cut");
 }
 
-/// The lines of one cut, collected as the reader of cuts takes them: one for each line of the file.
+bool isNumber(const QString& text) {
+    bool isValid = false;
+    text.toDouble(&isValid);
+    return isValid;
+}
+
+bool isAngle(const QString& text) { return isNumber(text) && std::isfinite(text.toFloat()); }
+
+bool splitAtComma(const QString& text, QString& first, QString& rest) {
+    return NSMACutPlane::ProcessLine(text, first, rest, QStringLiteral(","));
+}
+
+bool isRange(const QString& text) {
+    QString first, last;
+    return splitAtComma(text, first, last) && isAngle(first) && isAngle(last);
+}
+
+/// One cut, collected line by line. What the reader of cuts takes for granted is looked after here: that the number of
+/// samples and their range are given, in this order and before the samples, and that all of these are numbers.
 class CutText {
 public:
     CutText(int line, const std::optional<double>& frequency) {
@@ -58,65 +82,99 @@ public:
         m_cut.frequency = frequency;
     }
 
-    bool hasRange() const { return m_hasRange; }
-
-    void addKeyword(const QString& keyword, const QString& value) {
-        m_hasRange = keyword == rangeKeyword;
-        addLine(keyword + separator + value);
+    bool endsBefore(const QString& keyword) const {
+        if (keyword == cutKeyword || m_hasSamples) return true;
+        return m_cut.hasRange && (!belongsToACut(keyword) || m_keywords.contains(keyword));
     }
 
-    void addOther(const QString& line) {
+    void addKeyword(int number, const QString& keyword, const QString& value) {
+        m_keywords << keyword;
+        const QString line = keyword + separator + value;
+        if (keyword == countKeyword) {
+            setCount(number, line, value);
+        } else if (keyword == rangeKeyword) {
+            m_cut.hasRange = true;
+            m_range = value;
+            if (!isRange(value)) refuse(number, line, rangeProblem);
+        } else {
+            if (keyword == cutKeyword) m_cut.planeText = value;
+            m_header << line;
+            m_headerNumbers.push_back(number);
+        }
+    }
+
+    void addOther(int number, const QString& line) {
+        if (line.isEmpty()) return;
         QString angle, values, gain, second;
-        const bool lacksSecond = m_hasRange && NSMACutPlane::ProcessLine(line, angle, values, comma) &&
-                                 !values.isEmpty() && !NSMACutPlane::ProcessLine(values, gain, second, comma);
-        if (lacksSecond) ++m_cut.completedLines;
-        addLine(lacksSecond ? angle + comma + values + comma : line);
+        const bool hasSecond = splitAtComma(line, angle, values) && splitAtComma(values, gain, second);
+        const bool isSample = isAngle(angle) && isNumber(hasSecond ? gain : values);
+        if (!isSample && !m_cut.hasRange && !m_hasSamples) return;
+        m_hasSamples = true;
+        if (m_cut.hasCount && m_samples.size() >= m_count) {
+            m_cut.leftOutLines += line.contains(u',') ? 1 : 0;
+        } else if (!isSample) {
+            refuse(number, line, sampleProblem);
+        } else if (!m_cut.refusal) {
+            m_cut.completedLines += hasSecond ? 0 : 1;
+            m_samples << (hasSecond ? line : line + u',');
+        }
     }
 
     PatternCut read() {
-        QTextStream stream(&m_text, QIODevice::ReadOnly);
-        const bool wasRead = m_cut.plane.StreamIn(stream, 0.0F, NSMACutPlane::Decibels);
-        const auto end = static_cast<int>(stream.pos());
-        if (!wasRead) refuseAtLineBefore(end);
-        QString line;
-        while (wasRead && stream.readLineInto(&line)) m_cut.leftOutLines += line.contains(u',') ? 1 : 0;
+        if (!m_cut.hasCount) m_count = m_samples.size();
+        QString text = countKeyword + separator + QString::number(m_count) + u'\n';
+        for (const QString& line : m_header) text += line + u'\n';
+        if (!m_cut.refusal || !m_samples.empty()) {
+            text += rangeKeyword + separator + m_range + u'\n' + m_samples.join(u'\n');
+        }
+        QTextStream stream(&text, QIODevice::ReadOnly);
+        if (!m_cut.plane.StreamIn(stream, 0.0F, NSMACutPlane::Decibels)) {
+            const int index = text.leftRef(static_cast<int>(stream.pos()) - 1).count(u'\n') - 1;
+            m_cut.refusal.reset();  // which is further down
+            refuse(m_headerNumbers[static_cast<std::size_t>(index)], m_header[index], refusalReason(m_header[index]));
+        }
+        m_cut.missingSamples = std::max(m_count - m_samples.size(), 0);
         return std::move(m_cut);
     }
 
 private:
-    void addLine(const QString& line) {
-        m_text += line;
-        m_text += u'\n';
+    void setCount(int number, const QString& line, const QString& value) {
+        bool isInteger = false;
+        m_cut.hasCount = true;
+        m_count = value.toInt(&isInteger);
+        if (!isInteger || m_count < 0) refuse(number, line, countProblem);
     }
 
-    void refuseAtLineBefore(int end) {
-        const QString read = m_text.left(end - 1);
-        const QString line = read.mid(read.lastIndexOf(u'\n') + 1);
-        m_cut.refusal =
-            PatternCut::Refusal{m_cut.line + read.count(u'\n'),
-                                QStringLiteral("\"%1\": %2").arg(line.left(quotedLength), refusalReason(line))};
+    void refuse(int number, const QString& line, const QString& reason) {
+        if (m_cut.refusal) return;
+        m_cut.refusal = PatternCut::Refusal{number, QStringLiteral("\"%1\": %2").arg(line.left(quotedLength), reason)};
     }
 
     PatternCut m_cut;
-    QString m_text;
-    bool m_hasRange = false;
+    QSet<QString> m_keywords;
+    QStringList m_header;  ///< keywords but for the number of samples and the range
+    std::vector<int> m_headerNumbers;
+    QStringList m_samples;  ///< those before a refusal
+    bool m_hasSamples = false;
+    int m_count = 0;
+    QString m_range = QStringLiteral("0,0");  ///< which no sample depends on
 };
 
 /// Takes a file line by line and finds where its cuts start and end.
 class CutCollector {
 public:
     void addKeyword(int line, const QString& keyword, const QString& value) {
-        if (m_open && (m_open->hasRange() || keyword == cutKeyword)) closeCut();
+        if (m_open && m_open->endsBefore(keyword)) closeCut();
         if (!m_open && belongsToACut(keyword)) m_open.emplace(line, m_frequency);
         if (m_open) {
-            m_open->addKeyword(keyword, value);
+            m_open->addKeyword(line, keyword, value);
         } else if (keyword == frequencyKeyword) {
             m_frequency = frequencyFrom(value);
         }
     }
 
-    void addOther(const QString& line) {
-        if (m_open) m_open->addOther(line);
+    void addOther(int number, const QString& line) {
+        if (m_open) m_open->addOther(number, line);
     }
 
     void closeCut() {
@@ -142,7 +200,9 @@ bool isPatternFile(const QByteArray& content) {
 }
 
 std::vector<PatternCut> readPatternFile(const QString& path, const QByteArray& content) {
-    if (content.size() > sizeLimit) throw FileProblem(path, QStringLiteral("larger than any antenna pattern"));
+    if (content.size() > sizeLimit) {
+        throw FileProblem(path, QStringLiteral("larger than the 64 MiB that an antenna pattern may have"));
+    }
     QString text = decoded(content);
     QTextStream lines(&text, QIODevice::ReadOnly);
     CutCollector collector;
@@ -153,9 +213,10 @@ std::vector<PatternCut> readPatternFile(const QString& path, const QByteArray& c
         if (NSMACutPlane::ProcessLine(line, keyword, value, separator)) {
             collector.addKeyword(number, keyword.trimmed(), value.trimmed());
         } else {
-            collector.addOther(line);
+            collector.addOther(number, line);
         }
-        if (collector.cuts().size() > cutLimit) throw FileProblem(path, QStringLiteral("more cuts than any pattern"));
+        if (collector.cuts().size() <= cutLimit) continue;
+        throw FileProblem(path, QStringLiteral("has more than the %1 cuts that can be read").arg(cutLimit));
     }
     collector.closeCut();
     return std::move(collector.cuts());

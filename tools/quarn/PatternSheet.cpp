@@ -12,8 +12,17 @@ namespace {
 
 QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
-QString cutName(const NSMACutPlane& plane) {
-    switch (plane.GetPatternCut()) {
+QString angledCutName(const PatternCut& cut) {
+    const QString letter(cut.plane.GetPatternCut() == NSMACutPlane::AtTAngle ? u'T' : u'P');
+    bool isNumber = false;
+    cut.planeText.midRef(cut.planeText.startsWith(letter) ? 1 : 0).toFloat(&isNumber);
+    return isNumber ? letter + text(" angle ") + degrees(static_cast<double>(cut.plane.GetPatternCutAngle()))
+                    : text("unknown plane \"%1\"").arg(cut.planeText);
+}
+
+QString cutName(const PatternCut& cut) {
+    if (cut.planeText.isNull()) return text("plane not given");
+    switch (cut.plane.GetPatternCut()) {
         case NSMACutPlane::Vertical:
             return text("vertical");
         case NSMACutPlane::Horizontal:
@@ -23,9 +32,8 @@ QString cutName(const NSMACutPlane& plane) {
         case NSMACutPlane::Elevation:
             return text("elevation");
         case NSMACutPlane::AtTAngle:
-            return text("T angle ") + degrees(plane.GetPatternCutAngle());
         case NSMACutPlane::AtPAngle:
-            return text("P angle ") + degrees(plane.GetPatternCutAngle());
+            return angledCutName(cut);
     }
     return text("unknown");
 }
@@ -70,28 +78,34 @@ void addGains(Sheet& sheet, const NSMACutPlane::Samples& samples) {
     sheet.addDetail(text("Smallest gain"), gainText(*smallest));
 }
 
-void addPlane(Sheet& sheet, const NSMACutPlane& plane) {
+/// The increment follows from both the number of samples and their range.
+QString points(const PatternCut& cut) {
+    const NSMACutPlane& plane = cut.plane;
+    const QString number = QString::number(plane.GetNumberOfPoints());
+    const QString range = text("from %1 to %2").arg(degrees(plane.GetAngleStart()), degrees(plane.GetAngleStop()));
+    if (!cut.hasRange) return cut.hasCount ? number + text(", range not given") : text("number and range not given");
+    if (!cut.hasCount) return text("number not given, ") + range;
+    return text("%1 %2, increment %3").arg(number, range, degrees(plane.GetAngleIncrement()));
+}
+
+void addPlane(Sheet& sheet, const PatternCut& cut) {
+    const NSMACutPlane& plane = cut.plane;
     sheet.addDetail(text("Polarizations"), polarizations(plane));
-    sheet.addDetail(text("Points"),
-                    text("%1 from %2 to %3, increment %4")
-                        .arg(QString::number(plane.GetNumberOfPoints()),
-                             degrees(plane.GetAngleStart()),
-                             degrees(plane.GetAngleStop()),
-                             degrees(plane.GetAngleIncrement())));
+    sheet.addDetail(text("Points"), points(cut));
     sheet.addDetail(text("Samples"), QString::number(plane.GetSamples().size()));
     addGains(sheet, plane.GetSamples());
     sheet.addDetail(text("Omnidirectional"), text(plane.IsOmni() ? "yes" : "no"));
 }
 
 void addCut(Sheet& sheet, std::size_t number, const PatternCut& cut) {
-    QString title = text("%1, line %2").arg(cutName(cut.plane)).arg(cut.line);
+    QString title = text("%1, line %2").arg(cutName(cut)).arg(cut.line);
     if (cut.frequency) title += text(", ") + withPrefix(*cut.frequency, text("Hz"));
     sheet.add(text("Cut %1").arg(number), title);
     if (cut.refusal) {
         sheet.addDetail(text("Refused"), text("line %1, ").arg(cut.refusal->line) + cut.refusal->reason);
         return;
     }
-    addPlane(sheet, cut.plane);
+    addPlane(sheet, cut);
     const auto lines = [](int count) { return counted(static_cast<std::size_t>(count), text("line")); };
     if (cut.completedLines > 0) {
         sheet.addDetail(text("Completed"), lines(cut.completedLines) + text(" with an empty second value"));

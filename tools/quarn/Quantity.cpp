@@ -2,11 +2,14 @@
 
 #include <cmath>
 
+#include "quarn/SARPlane.h"
+
 namespace quarn::tool {
 
 namespace {
 
 constexpr int significantDigits = 6;
+constexpr double radiansPerDegree = 3.14159265358979323846 / 180.0;
 
 struct Prefix {
     double factor;
@@ -43,5 +46,28 @@ QString withPrefix(double value, const QString& unit) {
 }
 
 QString degrees(double angle) { return numberText(angle) + QStringLiteral("°"); }
+
+QString planeName(int plane) {
+    switch (plane) {
+        case SARPlane::XY:
+            return QStringLiteral("XY");
+        case SARPlane::YZ:
+            return QStringLiteral("YZ");
+        case SARPlane::ZX:
+            return QStringLiteral("ZX");
+        default:
+            return QStringLiteral("unknown");
+    }
+}
+
+double degreesFromRadians(float radians) {
+    constexpr double mostDecimals = 1e12;
+    const double angle = static_cast<double>(radians) / radiansPerDegree;
+    for (double scale = 1.0; scale <= mostDecimals; scale *= 10.0) {
+        const double rounded = std::round(angle * scale) / scale;
+        if (static_cast<float>(rounded * radiansPerDegree) == radians) return rounded;
+    }
+    return angle;
+}
 
 }  // namespace quarn::tool

@@ -13,4 +13,11 @@ QString withPrefix(double value, const QString& unit);
 /// "30°".
 QString degrees(double angle);
 
+/// "XY" for SARPlane::XY; planes come from several enumerations with the same values.
+QString planeName(int plane);
+
+/// The angle in degrees with as few decimals as give the radians back exactly, so that pi / 2 in single precision
+/// is 90.
+double degreesFromRadians(float radians);
+
 }  // namespace quarn::tool

@@ -3,18 +3,29 @@
 #include <tuple>
 #include <vector>
 
+#include "CommandLine.h"
 #include "Console.h"
+#include "Quantity.h"
+#include "ResultFile.h"
 #include "quarn/quarn.h"
 
 namespace quarn::tool {
 
 namespace {
 
-void open(DataFileReader& reader, const QString& path) {
-    if (!reader.open(path)) throw FileProblem(path, QStringLiteral("cannot be opened"));
+QStringList columnsOf(const RecordKind& kind) { return QString::fromLatin1(kind.columns).split(u','); }
+
+template <class Record>
+void addFields(CsvWriter& csv, const Record& record) {
+    std::apply([&csv](const auto&... field) { (csv.add(field), ...); }, Record::fields(record));
 }
 
-QStringList columnsOf(const RecordKind& kind) { return QString::fromLatin1(kind.columns).split(u','); }
+void addFields(CsvWriter& csv, const FarZoneSSFieldFileRecord& record) {
+    csv.add(degreesFromRadians(record.theta));
+    csv.add(degreesFromRadians(record.phi));
+    csv.add(record.eTheta);
+    csv.add(record.ePhi);
+}
 
 template <class Codec>
 std::size_t exportRecords(DataFileReader& reader, const RecordKind& kind, CsvWriter& csv) {
@@ -25,7 +36,7 @@ std::size_t exportRecords(DataFileReader& reader, const RecordKind& kind, CsvWri
     for (bool more = true; more;) {
         more = Codec::readRecords(reader, piece, records);
         for (const auto& record : records) {
-            std::apply([&csv](const auto&... field) { (csv.add(field), ...); }, Codec::Record::fields(record));
+            addFields(csv, record);
             csv.endRow();
         }
     }
@@ -33,34 +44,33 @@ std::size_t exportRecords(DataFileReader& reader, const RecordKind& kind, CsvWri
 }
 
 template <class Codec>
-std::size_t exportPlain(const RecordKind& kind, const QString& path, CsvWriter& csv) {
+std::size_t exportPlain(const RecordKind& kind, const InputFile& file, CsvWriter& csv) {
     DataFileReader reader;
-    open(reader, path);
+    open(reader, file);
     return exportRecords<Codec>(reader, kind, csv);
 }
 
-template <class Codec>
-std::size_t exportBehindHeader(const RecordKind& kind, const QString& path, CsvWriter& csv) {
+std::size_t exportFarZoneBox(const RecordKind& kind, const InputFile& file, CsvWriter& csv) {
     DataFileReader reader;
-    FileHeader header;
-    open(reader, path);
-    if (!header.read(reader)) throw FileProblem(path, QStringLiteral("has no file header"));
-    return exportRecords<Codec>(reader, kind, csv);
+    openFarZoneBox(reader, file);
+    return exportRecords<FieldsOnSteadyStateFarZoneBoxFile>(reader, kind, csv);
 }
 
 void addNumbered(QStringList& columns, const char* name, int count) {
-    for (int i = 0; i < count; ++i) columns << QLatin1String(name) + QString::number(i);
+    for (int i = 0; i < count; ++i) columns << QStringLiteral("%1_%2_w").arg(QLatin1String(name)).arg(i);
 }
 
 /// The file says how many columns it has.
-std::size_t exportDissipatedPower(const RecordKind& kind, const QString& path, CsvWriter& csv) {
+std::size_t exportDissipatedPower(const RecordKind& kind, const InputFile& file, CsvWriter& csv) {
     DataFileReader reader;
     SystemDissipatedPower codec;
-    open(reader, path);
-    if (!codec.readHeader(reader)) throw FileProblem(path, QStringLiteral("is cut short within its header"));
+    open(reader, file);
+    if (!codec.readHeader(reader))
+        throw FileProblem(file.name(),
+                          QStringLiteral("is cut short: the two bytes are missing that count the materials"));
     QStringList columns = columnsOf(kind);
-    addNumbered(columns, "electric_", codec.getHeader().numElectric);
-    addNumbered(columns, "magnetic_", codec.getHeader().numMagnetic);
+    addNumbered(columns, "electric", codec.getHeader().numElectric);
+    addNumbered(columns, "magnetic", codec.getHeader().numMagnetic);
     csv.addHeader(columns);
     const auto bytes = static_cast<std::size_t>(reader.bytesLeft());
     for (SystemDissipatedPower::Record record; codec.readRecord(reader, record);) {
@@ -75,40 +85,79 @@ std::size_t exportDissipatedPower(const RecordKind& kind, const QString& path, C
 }
 
 constexpr RecordKind kinds[] = {
-    {"radiated-power", "radiated_power", exportPlain<SystemRadiatedPower>},
-    {"dissipated-power", "total,electric,magnetic", exportDissipatedPower},
+    {"radiated-power", "radiated_power_w", exportPlain<SystemRadiatedPower>},
+    {"dissipated-power", "total_w,electric_w,magnetic_w", exportDissipatedPower},
     {"eigenmode", "value_re,value_im", exportPlain<SystemEigenMode>},
-    {"component-transient", "time,voltage,current", exportPlain<CircuitComponentVCTransient>},
-    {"component-s-parameter", "frequency,s_re,s_im", exportPlain<CircuitComponentTdafsSParameter>},
-    {"component-steady", "voltage_re,voltage_im,current_re,current_im", exportPlain<CircuitComponentVCSteadyState>},
-    {"component-broadband", "frequency,voltage,current,value_re,value_im", exportPlain<CircuitComponentVCBroadband>},
-    {"plane-wave-transient", "time,Ex,Ey,Ez", exportPlain<IncidentPlaneWaveFieldsInstantaneous>},
+    {"component-transient", "time_s,voltage_v,current_a", exportPlain<CircuitComponentVCTransient>},
+    {"component-s-parameter", "frequency_hz,s_re,s_im", exportPlain<CircuitComponentTdafsSParameter>},
+    {"component-steady",
+     "voltage_re_v,voltage_im_v,current_re_a,current_im_a",
+     exportPlain<CircuitComponentVCSteadyState>},
+    {"component-broadband",
+     "frequency_hz,voltage_v,current_a,value_re,value_im",
+     exportPlain<CircuitComponentVCBroadband>},
+    {"plane-wave-transient",
+     "time_s,e_x_v_per_m,e_y_v_per_m,e_z_v_per_m",
+     exportPlain<IncidentPlaneWaveFieldsInstantaneous>},
     {"plane-wave-steady",
-     "Ex_re,Ex_im,Ey_re,Ey_im,Ez_re,Ez_im,Hx_re,Hx_im,Hy_re,Hy_im,Hz_re,Hz_im",
+     "e_x_re_v_per_m,e_x_im_v_per_m,e_y_re_v_per_m,e_y_im_v_per_m,e_z_re_v_per_m,e_z_im_v_per_m,"
+     "h_x_re_a_per_m,h_x_im_a_per_m,h_y_re_a_per_m,h_y_im_a_per_m,h_z_re_a_per_m,h_z_im_a_per_m",
      exportPlain<IncidentPlaneWaveFieldsSteadyState>},
-    {"far-zone", "theta,phi,Etheta_re,Etheta_im,Ephi_re,Ephi_im", exportPlain<FarZoneSSFieldFile>},
+    {"far-zone", "theta_deg,phi_deg,e_theta_re,e_theta_im,e_phi_re,e_phi_im", exportPlain<FarZoneSSFieldFile>},
     {"far-zone-box",
-     "E1_re,E1_im,E2_re,E2_im,H1_re,H1_im,H2_re,H2_im",
-     exportBehindHeader<FieldsOnSteadyStateFarZoneBoxFile>},
-    {"raw-sar-statistics", "maximum,i,j,k,average,cells,power", exportPlain<RawSarStatistics>},
+     "e_1_re_v_per_m,e_1_im_v_per_m,e_2_re_v_per_m,e_2_im_v_per_m,"
+     "h_1_re_a_per_m,h_1_im_a_per_m,h_2_re_a_per_m,h_2_im_a_per_m",
+     exportFarZoneBox,
+     FileKind::FarZoneBox},
+    {"raw-sar-statistics", "maximum_w_per_kg,i,j,k,average_w_per_kg,cells,power_w", exportPlain<RawSarStatistics>},
     {"averaged-sar-statistics",
-     "maximum,i,j,k,average,mass,lower_i,lower_j,lower_k,upper_i,upper_j,upper_k",
+     "maximum_w_per_kg,i,j,k,average_w_per_kg,mass_kg,lower_i,lower_j,lower_k,upper_i,upper_j,upper_k",
      exportPlain<AveragedSarStatistics>},
 };
 
+/// The columns, in lines that a terminal shows.
+QString columnsText(const RecordKind& kind) {
+    constexpr int width = 76;
+    const QString indent = QStringLiteral("\n      ");
+    QString text;
+    int length = width;
+    for (const QString& column : columnsOf(kind)) {
+        if (!text.isEmpty()) text += u',';
+        if (length + column.size() >= width) {
+            text += indent;
+            length = indent.size();
+        }
+        text += column;
+        length += column.size() + 1;
+    }
+    return text;
+}
+
 }  // namespace
 
-const RecordKind* recordKind(const QString& name) {
+const RecordKind& recordKindNamed(const QString& name) {
+    QStringList names;
     for (const RecordKind& kind : kinds) {
-        if (name == QLatin1String(kind.name)) return &kind;
+        names << QString::fromLatin1(kind.name);
+        if (name == names.constLast()) return kind;
+    }
+    throw WrongUsage(
+        QStringLiteral("Unknown kind of records '%1'; the kinds are %2.").arg(name, names.join(QStringLiteral(", "))));
+}
+
+const RecordKind* recordKindOf(FileKind fileKind) {
+    if (fileKind == FileKind::Unknown) return nullptr;
+    for (const RecordKind& kind : kinds) {
+        if (kind.fileKind == fileKind) return &kind;
     }
     return nullptr;
 }
 
-QStringList recordKindNames() {
-    QStringList names;
-    for (const RecordKind& kind : kinds) names << QString::fromLatin1(kind.name);
-    return names;
+QString recordKindsText() {
+    QString text;
+    for (const RecordKind& kind : kinds)
+        text += QStringLiteral("\n  %1%2").arg(QLatin1String(kind.name), columnsText(kind));
+    return text;
 }
 
 }  // namespace quarn::tool

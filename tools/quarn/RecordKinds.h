@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "CsvWriter.h"
+#include "InputFile.h"
 
 namespace quarn::tool {
 
@@ -14,11 +15,18 @@ struct RecordKind {
 
     /// Writes a row for each record and returns how many bytes at the end of the file make no whole record. Throws a
     /// FileProblem.
-    std::size_t (*exportRows)(const RecordKind& kind, const QString& path, CsvWriter& csv);
+    std::size_t (*exportRows)(const RecordKind& kind, const InputFile& file, CsvWriter& csv);
+
+    FileKind fileKind = FileKind::Unknown;  ///< what the content of such a file says it is
 };
 
-/// Null when there is no such kind.
-const RecordKind* recordKind(const QString& name);
-QStringList recordKindNames();
+/// Throws WrongUsage, with all names, when there is no such kind.
+const RecordKind& recordKindNamed(const QString& name);
+
+/// The kind of records that a file says it holds; null when it does not say so.
+const RecordKind* recordKindOf(FileKind fileKind);
+
+/// All kinds with their columns, for the help.
+QString recordKindsText();
 
 }  // namespace quarn::tool

@@ -119,19 +119,6 @@ void addFarZone(Sheet& sheet, const ProjectFile& project) {
     addKind("transient", transient);
 }
 
-QString planeName(int plane) {
-    switch (plane) {
-        case SARPlane::XY:
-            return text("XY");
-        case SARPlane::YZ:
-            return text("YZ");
-        case SARPlane::ZX:
-            return text("ZX");
-        default:
-            return text("unknown");
-    }
-}
-
 void addSAR(Sheet& sheet, const ProjectFile& project) {
     const auto& planes = project.getSARPlaneRequests();
     if (!planes.empty()) {

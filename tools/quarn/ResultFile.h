@@ -3,21 +3,33 @@
 #include <QString>
 #include <cstdint>
 
+#include "Console.h"
+#include "InputFile.h"
+
+namespace quarn {
+class DataFileReader;
+class SarResultReader;
+}  // namespace quarn
+
+/// Opening the engine's results. The functions throw a FileProblem.
 namespace quarn::tool {
 
-/// The engine's binary result files. They may be large and are read piece by piece.
-enum class ResultKind {
-    NearZonePoint,
-    MultiPoint,
-    SarPlane,
-    FarZoneBox,
-    None,
-};
+/// Throws when the path is longer than the library's readers open, with what to do about it.
+void checkPathLength(const QString& path);
 
-/// What the first bytes of a file say it is; None also for what is no regular file or cannot be opened.
-/// Throws a FileProblem for results whose path is longer than their readers open.
-ResultKind resultKindOf(const QString& path);
+/// What to throw for a file that belongs to a result and cannot be read.
+FileProblem unreadable(const QString& path);
 
-std::int64_t sizeOfFile(const QString& path);
+void open(DataFileReader& reader, const InputFile& file);
+
+/// Goes past the header. Throws when there is none, or that of another kind of file.
+void openFarZoneBox(DataFileReader& reader, const InputFile& file);
+
+void open(SarResultReader& reader, const InputFile& file);
+
+std::int64_t sizeOf(const InputFile& file);
+
+/// "3 bytes at the end belong to no whole record".
+QString incompleteRecordText(std::size_t bytes);
 
 }  // namespace quarn::tool

@@ -4,6 +4,7 @@
 #include "MultiPointSet.h"
 #include "NearZoneFile.h"
 #include "Quantity.h"
+#include "ResultFile.h"
 #include "ValueRange.h"
 #include "quarn/quarn.h"
 
@@ -15,11 +16,11 @@ QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 void addIncompleteRecord(Sheet& sheet, std::size_t bytes) {
     if (bytes == 0) return;
-    sheet.add(text("Cut short"), text("%1 at the end belong to no whole record").arg(counted(bytes, text("byte"))));
+    sheet.add(text("Cut short"), incompleteRecordText(bytes));
 }
 
-Sheet sheetOfNearZonePoint(const QString& path) {
-    NearZoneFile file(path);
+Sheet sheetOfNearZonePoint(const InputFile& input) {
+    NearZoneFile file(input);
     ValueRange times;
     std::vector<ValueRange> ranges(file.groups().size());
     std::size_t records = 0;
@@ -30,7 +31,7 @@ Sheet sheetOfNearZonePoint(const QString& path) {
         }
     }
     const auto& header = file.header();
-    Sheet sheet(text("%1: near-zone point, version %2").arg(path).arg(header.getVersion()));
+    Sheet sheet(text("%1: near-zone point, version %2").arg(input.name()).arg(header.getVersion()));
     sheet.add(text("Point"),
               text("(%1, %2, %3) m")
                   .arg(numberText(static_cast<double>(header.getX())),
@@ -56,12 +57,12 @@ GroupSurvey survey(MultiPointSet& set, const SetGroup& group) {
     constexpr std::size_t piece = 1 << 16;
     GroupSurvey result;
     std::vector<float> values;
-    const int components = group.components().size();
+    const int components = group.columns().size();
     for (int index = 0; index < set.indicesOf(group); ++index) {
         group.choose(set.reader, index);
         for (int component = 0; component < components; ++component) {
             ++result.expected;
-            if (!group.begin(set.reader, component)) continue;
+            if (!group.begin(set.reader, index, component)) continue;
             std::size_t found = 0;
             while (group.read(set.reader, component, values, piece) && !values.empty()) {
                 for (const float value : values) result.range.add(value);
@@ -81,9 +82,9 @@ QString listText(const std::vector<float>& list, const char* unit) {
     return text("%1, %2").arg(list.size()).arg(range.text(text(unit)));
 }
 
-Sheet sheetOfMultiPoint(const QString& path) {
-    MultiPointSet set(path);
-    Sheet sheet(text("%1: multi-point result, version %2").arg(path).arg(set.reader.getSerializationVersion()));
+Sheet sheetOfMultiPoint(const InputFile& file) {
+    MultiPointSet set(file);
+    Sheet sheet(text("%1: multi-point result, version %2").arg(file.name()).arg(set.reader.getSerializationVersion()));
     sheet.add(text("Points"), QString::number(set.reader.getNumberOfPoints()));
     sheet.add(text("Time steps"), listText(set.times, "s"));
     sheet.add(text("Frequencies"), listText(set.frequencies, "Hz"));
@@ -102,27 +103,13 @@ Sheet sheetOfMultiPoint(const QString& path) {
     return sheet;
 }
 
-QString planeName(SARPlane::Plane plane) {
-    switch (plane) {
-        case SARPlane::XY:
-            return text("xy");
-        case SARPlane::YZ:
-            return text("yz");
-        case SARPlane::ZX:
-            return text("zx");
-    }
-    return text("unknown");
-}
-
-Sheet sheetOfSarPlane(const QString& path) {
+Sheet sheetOfSarPlane(const InputFile& file) {
     SarResultReader reader;
-    if (!reader.beginResultReading(path)) {
-        throw FileProblem(path, text("not a SAR plane of a version that is known, or cut short"));
-    }
+    open(reader, file);
     ValueRange range;
     std::int64_t records = 0;
     for (SarResult::Record record; reader.readRecord(record); ++records) range.add(record.value);
-    Sheet sheet(text("%1: SAR plane, version 0").arg(path));
+    Sheet sheet(text("%1: SAR plane, version 0").arg(file.name()));
     sheet.add(text("Plane"), text("%1, index %2").arg(planeName(reader.getPlane())).arg(reader.getPlaneIndex()));
     sheet.add(text("Records"), QString::number(records));
     sheet.addDetail(text("SAR"), range.text(text("W/kg")));
@@ -137,12 +124,11 @@ void addComplex(ValueRange& range, const std::complex<float>& value) {
     range.add(value.imag());
 }
 
-Sheet sheetOfFarZoneBox(const QString& path) {
+Sheet sheetOfFarZoneBox(const InputFile& file) {
     using File = FieldsOnSteadyStateFarZoneBoxFile;
     constexpr std::size_t piece = 1 << 12;
     DataFileReader reader;
-    FileHeader header;
-    if (!reader.open(path) || !header.read(reader)) throw FileProblem(path, text("cannot be read"));
+    openFarZoneBox(reader, file);
     ValueRange electric;
     ValueRange magnetic;
     std::size_t records = 0;
@@ -156,31 +142,30 @@ Sheet sheetOfFarZoneBox(const QString& path) {
             addComplex(magnetic, record.h2);
         }
     }
-    Sheet sheet(text("%1: fields on the far-zone box, version %2").arg(path).arg(header.version));
+    Sheet sheet(text("%1: fields on the far-zone box, version 0").arg(file.name()));
     sheet.add(text("Records"), QString::number(records));
     sheet.addDetail(text("E"), electric.text(text("V/m")));
     sheet.addDetail(text("H"), magnetic.text(text("A/m")));
     constexpr std::int64_t headerSize = 16;
-    addIncompleteRecord(sheet, static_cast<std::size_t>(sizeOfFile(path) - headerSize) % File::recordSize);
+    addIncompleteRecord(sheet, static_cast<std::size_t>(sizeOf(file) - headerSize) % File::recordSize);
     return sheet;
 }
 
 }  // namespace
 
-Sheet sheetOfResult(const QString& path, ResultKind kind) {
+Sheet sheetOfResult(const InputFile& file, FileKind kind) {
     switch (kind) {
-        case ResultKind::NearZonePoint:
-            return sheetOfNearZonePoint(path);
-        case ResultKind::MultiPoint:
-            return sheetOfMultiPoint(path);
-        case ResultKind::SarPlane:
-            return sheetOfSarPlane(path);
-        case ResultKind::FarZoneBox:
-            return sheetOfFarZoneBox(path);
-        case ResultKind::None:
-            break;
+        case FileKind::NearZonePoint:
+            return sheetOfNearZonePoint(file);
+        case FileKind::MultiPoint:
+            return sheetOfMultiPoint(file);
+        case FileKind::SarPlane:
+            return sheetOfSarPlane(file);
+        case FileKind::FarZoneBox:
+            return sheetOfFarZoneBox(file);
+        default:
+            throw FileProblem(file.name(), text("is ") + description(kind));
     }
-    throw FileProblem(path, text("not a kind of file that is known here"));
 }
 
 }  // namespace quarn::tool

@@ -1,5 +1,9 @@
+#include <QFile>
+#include <filesystem>
+
 #include "CommandLine.h"
 #include "Console.h"
+#include "Findings.h"
 #include "GeometryOnDisk.h"
 #include "InputFile.h"
 #include "OutputFile.h"
@@ -10,32 +14,79 @@ namespace quarn::tool {
 
 namespace {
 
-QByteArray canonicalForm(const QString& path) {
+struct CanonicalForm {
+    QByteArray bytes;
+    Findings loss;
+};
+
+template <class Loaded>
+CanonicalForm withLoss(const Loaded& loaded, const QByteArray& saved) {
+    return {saved, lossIn(loaded, QString::fromUtf8(saved))};
+}
+
+CanonicalForm canonicalForm(const QString& path) {
     const QByteArray content = readFile(path);
-    if (kindOf(content) == FileKind::Geometry) return savedBytes(LoadedGeometry(path, content));
+    if (kindOf(content) == FileKind::Geometry) {
+        const LoadedGeometry loaded(path, content);
+        return withLoss(loaded, savedBytes(loaded));
+    }
     LoadedProject loaded(path, content);
     try {
-        return savedBytes(loaded.project);
+        return withLoss(loaded, savedBytes(loaded.project));
     } catch (const std::runtime_error& problem) {
         throw FileProblem(path, QString::fromUtf8(problem.what()));
     }
 }
 
+/// Whether both are names of one file, however many links there are between.
+bool isSameFile(const QString& in, const QString& out) {
+    const auto systemPath = [](const QString& path) {
+        return std::filesystem::path(QFile::encodeName(path).toStdString());
+    };
+    const QString source = in == QLatin1String("-") ? QStringLiteral("/dev/stdin") : in;
+    std::error_code none;  // one of them is missing, which makes them different
+    return std::filesystem::equivalent(systemPath(source), systemPath(out), none);
+}
+
+void complainAboutLoss(const QString& path, const Findings& loss) {
+    constexpr int most = 5;
+    for (const QString& text : loss.warnings) complain(QStringLiteral("%1: warning: %2").arg(path, text));
+    const QStringList texts = loss.lossTexts(path);
+    for (const QString& text : texts.mid(0, most)) complain(text);
+    QString summary = path + QStringLiteral(": ") + loss.summary();
+    if (texts.size() > most) summary += QStringLiteral("; 'quarn check' names all of them");
+    complain(summary);
+}
+
 }  // namespace
 
 int runRewrite(const QStringList& arguments) {
+    const QString force = QStringLiteral("force");
     CommandLine commandLine(
         QStringLiteral("rewrite"),
-        QStringLiteral("Loads a project or geometry file and saves it in its canonical form: sections and lines in "
-                       "their order, no\n"
-                       "indentation, numbers in full. What 'quarn check' names as not kept is gone in OUT.\n"
-                       "OUT may be IN; when anything fails, an earlier OUT stays as it was."));
+        QStringLiteral("Loads a project or geometry file and saves it in its canonical form: sections and lines in\n"
+                       "their order, no indentation, numbers in full. What 'quarn check' names as not kept is gone in\n"
+                       "OUT; how much that is, and the first lines of it, are told. OUT may be IN, where something\n"
+                       "would be gone only with --force. When anything fails, an earlier OUT stays as it was.\n"
+                       "Exit status: 0 all is kept, 1 written, but not all is kept, 2 nothing is written."));
+    commandLine.addOption(force, QStringLiteral("Writes into IN itself even where something of it would be gone."));
     commandLine.addFile(QStringLiteral("IN"), QStringLiteral("The project or geometry file to load."));
     commandLine.addFile(QStringLiteral("OUT"), QStringLiteral("The file to write."));
     if (!commandLine.parse(arguments)) return ExitFine;
 
-    writeFile(commandLine.files().at(1), canonicalForm(commandLine.files().at(0)));
-    return ExitFine;
+    const QString in = commandLine.files().at(0);
+    const QString out = commandLine.files().at(1);
+    const CanonicalForm form = canonicalForm(in);
+    if (!form.loss.none()) {
+        complainAboutLoss(in, form.loss);
+        if (isSameFile(in, out) && !commandLine.isSet(force)) {
+            throw FileProblem(out,
+                              QStringLiteral("not written: it is the file that was read, which would lose what is not "
+                                             "kept; write to another file, or add --force"));
+        }
+    }
+    writeFile(out, form.bytes);
+    return form.loss.none() ? ExitFine : ExitFindings;
 }
 
 }  // namespace quarn::tool

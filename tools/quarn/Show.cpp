@@ -12,23 +12,24 @@ namespace quarn::tool {
 
 namespace {
 
-Sheet sheetOf(const QString& path) {
-    const ResultKind result = resultKindOf(path);
-    if (result != ResultKind::None) return sheetOfResult(path, result);
-    const QByteArray content = readFile(path);
+Sheet sheetOf(const QString& name) {
+    const InputFile file(name);
+    const FileKind result = kindOf(file.beginning());
+    if (isResult(result)) return sheetOfResult(file, result);
+    const QByteArray content = readFile(file.path());
     switch (kindOf(content)) {
         case FileKind::Project:
-            return sheetOfProject(path, content);
+            return sheetOfProject(name, content);
         case FileKind::Geometry:
-            return sheetOfGeometry(path, content);
+            return sheetOfGeometry(name, content);
         case FileKind::MeshlessVias:
-            return sheetOfVias(path, content);
+            return sheetOfVias(name, content);
         case FileKind::AntennaPattern:
-            return sheetOfPattern(path, content);
-        case FileKind::Unknown:
-            break;
+            return sheetOfPattern(name, content);
+        default:
+            throw FileProblem(
+                name, QStringLiteral("is of an unknown kind; if it holds records, 'quarn export --as KIND' reads it"));
     }
-    throw FileProblem(path, QStringLiteral("not a kind of file that is known here"));
 }
 
 }  // namespace
@@ -36,11 +37,11 @@ Sheet sheetOf(const QString& path) {
 int runShow(const QStringList& arguments) {
     CommandLine commandLine(
         QStringLiteral("show"),
-        QStringLiteral(
-            "Says what files are and what they hold. Their content tells the kind, their names do not.\n"
-            "Known are project and geometry files, files of meshless vias, NSMA antenna patterns, and of the\n"
-            "engine's results near-zone points, multi-point results (give the BASE_info.bin), SAR planes and\n"
-            "fields on the far-zone box. Files of records do not say what they are: see 'quarn export'."));
+        QStringLiteral("Says what files are and what they hold. Their content tells the kind, their names do not.\n"
+                       "Known are project and geometry files, files of meshless vias, NSMA antenna patterns, and of\n"
+                       "the engine's results near-zone points, multi-point results (give the BASE_info.bin), SAR\n"
+                       "planes and fields on the far-zone box; '-' is standard input. Files of records do not say\n"
+                       "what they are: see 'quarn export'."));
     commandLine.addFiles(QStringLiteral("FILE"), QStringLiteral("The files to show."));
     if (!commandLine.parse(arguments)) return ExitFine;
 

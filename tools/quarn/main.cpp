@@ -93,7 +93,7 @@ int main(int argc, char** argv) {
     const int status = runReportingProblems(QCoreApplication::arguments());
     out().flush();
     if (out().status() != QTextStream::Ok) {
-        complain(QStringLiteral("the results could not be written"));
+        complain(QStringLiteral("the results could not be written to standard output"));
         return ExitUnusable;
     }
     return status;
