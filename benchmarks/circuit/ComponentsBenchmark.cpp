@@ -24,8 +24,7 @@ std::vector<CircuitComponent*> makeComponents() {
         const auto cell = static_cast<unsigned>(i);
         const double x = 1e-3 * i;
         CircuitComponent::ImpedanceLine line;
-        line.nodes[0] = 0;
-        line.nodes[1] = 1;
+        line.nodes = {0, 1};
         line.type = CircuitComponent::ImpedanceLine::Cylindrical;
         line.radius = 1.25e-4;
         const CircuitComponent base(QStringLiteral("R%1").arg(i),

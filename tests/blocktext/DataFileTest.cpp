@@ -34,12 +34,8 @@ TEST_F(DataFile, eachTypeHasItsSize) {
                 writer.write(4LL) && writer.write(1.0F) && writer.write(-2.0));
     EXPECT_TRUE(writer.close());
     EXPECT_EQ(bytes().toHex(),
-              "01"
-              "0200"
-              "03000000"
-              "0400000000000000"
-              "0000803f"
-              "00000000000000c0");
+              "01020003000000040000000000000000"
+              "00803f00000000000000c0");
 
     DataFileReader reader;
     ASSERT_TRUE(reader.open(m_path));

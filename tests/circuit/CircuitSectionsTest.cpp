@@ -95,8 +95,7 @@ Component baseOf(const QString& name, TermType termType = TermType::InputOutput)
 
 Line lineOf(int type, int node) {
     Line line;
-    line.nodes[0] = node;
-    line.nodes[1] = node + 1;
+    line.nodes = {node, node + 1};
     line.type = type;
     return line;
 }

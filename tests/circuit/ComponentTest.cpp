@@ -108,8 +108,7 @@ PinGroup groupOfTwo() {
 
 Line lineOf(int type) {
     Line line;
-    line.nodes[0] = 1;
-    line.nodes[1] = 0;
+    line.nodes = {1, 0};
     line.type = type;
     line.radius = 0.25;
     line.center = {1, 2, 3};
@@ -246,15 +245,10 @@ TEST(ComponentNames, from_file_names) {
     EXPECT_EQ(name("a_b_c_d"), "b c ");
     EXPECT_EQ(name("_x_"), "x ");
     EXPECT_EQ(name("a__b"), " ") << "an empty part counts, and is not an empty name";
-    const QStringList phrases{"passive load ",
-                              "voltage source ",
-                              "current source ",
-                              "switch ",
-                              "nonlinear capacitor ",
-                              "diode ",
-                              "lumped component ",
-                              "S-parameter block ",
-                              ""};
+    const auto phrases = QString(
+                             "passive load |voltage source |current source |switch |nonlinear capacitor |diode |"
+                             "lumped component |S-parameter block |")
+                             .split('|');
     for (int type = 0; type <= 8; ++type) {
         component.m_circuitComponentType = Component::CircuitComponentType(type);
         for (const char* file : {"", "None", "a_b"}) EXPECT_EQ(name(file), phrases[type]);

@@ -104,15 +104,11 @@ TEST(WaveGuidePorts, text_form) {
 
 TEST(WaveGuidePorts, names_from_file_names) {
     WaveGuidePort port;
-    const auto name = [&](const QString& file) {
+    for (const auto& [file, name] :
+         {std::pair("a_b_c_d", "b_c"), {"a__d", ""}, {"a_d", ""}, {"ad", ""}, {"_mode 1_", "mode 1"}}) {
         port.setOutputFilename(file);
-        return port.getWaveGuidePortNameFromFilename();
-    };
-    EXPECT_EQ(name("a_b_c_d"), "b_c");
-    EXPECT_EQ(name("a__d"), "");
-    EXPECT_EQ(name("a_d"), "");
-    EXPECT_EQ(name("ad"), "");
-    EXPECT_EQ(name("_mode 1_"), "mode 1");
+        EXPECT_EQ(port.getWaveGuidePortNameFromFilename(), name) << file;
+    }
 }
 
 }  // namespace
