@@ -11,12 +11,12 @@
 
 namespace quarn::test {
 
-/// Files can be no longer than 8 bytes, also those of processes that are started.
+/// Files can be no longer than 8 bytes or as given, also those of processes that are started.
 class FullDisk {
 public:
-    FullDisk() {
+    explicit FullDisk(rlim_t room = 8) {
         getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit small{8, m_before.rlim_max};
+        const rlimit small{room, m_before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &small);
     }
     ~FullDisk() {

@@ -22,7 +22,8 @@ public:
 
     bool isOpen() const { return m_file != nullptr; }
 
-    /// False when the file ends before or within the number, which then stays as it was, and when no file is open.
+    /// False when the file ends before or within the number, and when no file is open. The number and the position then
+    /// stay as they were: once the file has grown, the next call reads the number.
     bool read(signed char& value);
     bool read(short& value);
     bool read(int& value);
@@ -31,7 +32,7 @@ public:
     bool read(double& value);
 
     /// Reads up to `count` items of `size` bytes, as they are, at the cost of one copy. Returns how many were there as
-    /// a whole; 0 when no file is open.
+    /// a whole and goes behind the last of them; 0 when no file is open.
     std::size_t readBlock(void* items, std::size_t size, std::size_t count);
 
     /// Bytes from the current position to the end of the file; 0 behind the end, for what has no end and when no file

@@ -22,6 +22,12 @@ public:
 QUARN_EXPORT QString resolveLongPath(const QString& path, bool addPrefix);
 QUARN_EXPORT std::string resolveLongPath(const std::string& path, bool addPrefix);
 
+/// Whether openFile refuses the path for its length: 259 characters or more while KIVEN_LONGPATHSUPPORT is not set.
+QUARN_EXPORT bool isPathTooLong(const QString& path);
+
+/// Whether both paths lead to one file that exists, also by symbolic or hard links. Resolves both.
+QUARN_EXPORT bool isSameFile(const QString& a, const QString& b);
+
 /// The resolved path, prefixed where the system wants that, as UTF-16 in a wide string.
 QUARN_EXPORT std::wstring resolveLongPathAndConvertToNative(const std::string& path);
 

@@ -80,8 +80,8 @@ public:
     static void read_binary(std::vector<MeshlessVia>& vias, const std::string& path);
     static void read_binary_stream(std::vector<MeshlessVia>& vias, std::istream& stream);
 
-    /// Makes the file beside `path` and puts it there when it is complete. Otherwise throws a std::runtime_error, and
-    /// an earlier file stays as it was.
+    /// Writes by way of a FileReplacement. Throws a std::runtime_error when that fails; an earlier file then stays as
+    /// it was where it could be replaced.
     static void write_binary(const std::vector<MeshlessVia>& vias, const std::string& path);
     static void write_binary_stream(const std::vector<MeshlessVia>& vias, std::ostream& stream);
 

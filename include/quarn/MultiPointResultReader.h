@@ -24,7 +24,8 @@ namespace quarn {
 ///
 /// A component is read value by value or, at the speed of copying a file into memory, in blocks. While the engine is
 /// still writing, files may be missing or shorter than the result has points: what cannot be opened cannot be begun, a
-/// read fails where a file ends, and a block holds what is there.
+/// read fails where a file ends, and a block holds what is there. A read that fails leaves all components where they
+/// were, behind the last whole value, so that the same call reads on once the engine has gone on.
 class QUARN_EXPORT MultiPointResultReader : public MultiPointResult {
 public:
     /// As many values as there are.

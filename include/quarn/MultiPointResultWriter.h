@@ -23,8 +23,8 @@ class GridIndexBoxes;
 ///     endResultWriting
 ///
 /// Points come in the order of their numbers in the index boxes. What begins before the last of its kind was ended
-/// replaces it. Each operation is false when a file could not be opened or written; what is lost of a group that was
-/// not ended is told by the next begin.
+/// replaces it. Each operation is false when a file could not be opened or written. What is lost of a group that was
+/// not ended is reported by the next begin of a group of the same result, never by beginResultWriting.
 class QUARN_EXPORT MultiPointResultWriter : public MultiPointResult {
 public:
     using MultiPointResult::MultiPointResult;

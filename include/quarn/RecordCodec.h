@@ -21,7 +21,8 @@ public:
     /// Bytes of a record in a file.
     static constexpr std::size_t recordSize = sizeof(Record);
 
-    /// False when the file ends before or within the record, which then holds the numbers that were there.
+    /// False when the file ends before or within the record, which then holds the numbers that were there. The position
+    /// is that of the record again: once the file has grown, the next call reads it.
     static bool readRecord(DataFileReader& reader, Record& record);
 
     static bool writeRecord(DataFileWriter& writer, const Record& record);

@@ -7,6 +7,7 @@
 #include "quarn/DataFileReader.h"
 #include "quarn/DataFileWriter.h"
 #include "quarn/Export.h"
+#include "quarn/ProgressReporter.h"
 #include "quarn/SARPlane.h"
 
 namespace quarn {
@@ -36,22 +37,36 @@ public:
         friend bool operator!=(const Record& a, const Record& b) { return !(a == b); }
     };
 
+    /// Bytes of a file before its records, and of each record.
+    static constexpr int startSize = 28;
+    static constexpr int recordSize = 12;
+
     /// Joins files of one plane, as several processes of the engine wrote them, in the order of the list. Of each file
-    /// as many records are taken as its number says; files that do not exist are passed over. The partial files stay,
-    /// and the output may be one of them. On failure, for want of any file too, `error` says what failed, `warning`
-    /// what comes of it, and a file that was at the place of the output before is as it was.
+    /// as many records are taken as its number says, each time that the file is listed; files that do not exist are
+    /// passed over. The output names the total of these numbers. The partial files stay, and the output may be one of
+    /// them.
     ///
-    /// The result is made beside the output and takes its place once it is complete, unless the output is a device or
-    /// the like, which is written directly. Memory does not depend on the size of the files.
+    /// On failure `error` says what failed and `warning` what comes of it:
+    /// - "SAR data will be incomplete on disk.": a partial file holds fewer records than it says, or the records cannot
+    ///   be written. The output holds the whole records joined so far and names the total all the same (the largest
+    ///   number that the file has room for, if the total is beyond it). Where the output is one of the partial files,
+    ///   or not even the numbers before the records could be written, an earlier output stays as it was.
+    /// - "SAR data will be unavailable on disk.": anything else, such as a partial file that is a pipe or a device, or
+    ///   no partial file at all. An earlier output stays as it was.
+    ///
+    /// The reporter, if given, hears how many records are joined; when it stops the work, combining fails and an
+    /// earlier output stays as it was. Output is written by way of a FileReplacement, so that "stays as it was" does
+    /// not hold where that has to write the target itself. Memory does not depend on the size of the files.
     static bool combineFiles(const QStringList& partialFileNames, const QString& outputFileName, QString& error,
-                             QString& warning);
+                             QString& warning, const ProgressReporter& reporter = nullptr);
 };
 
 /// Writes the file of a plane, from its beginning or at its end.
 class QUARN_EXPORT SarResultWriter {
 public:
     /// Makes a new file. `numRecords` is the number of records that will follow in all, now or by appending. False,
-    /// with no file open, when the file cannot be written, the plane is none or the number is negative.
+    /// with no file open, when the file cannot be written, the plane is not one of the three or the number is negative.
+    /// An earlier file that is still open is closed; what it lost is no failure of this call.
     bool beginResultWriting(const QString& fileName, SARPlane::Plane plane, int planeIndex, int numRecords);
 
     /// Opens a file for more records of its plane, waiting for half a second if another process holds it. Neither is
@@ -85,7 +100,8 @@ public:
     /// How many records the file still holds.
     std::int64_t getNumberOfRecordsLeft();
 
-    /// False, with the record as it was, at the end of the file and when none is open.
+    /// False, with the record as it was, at the end of the file and when none is open. A record that is not there as a
+    /// whole is read by a later call, once the file has grown.
     bool readRecord(SarResult::Record& record);
 
     /// False when no file is open.

@@ -84,7 +84,7 @@ public:
     bool writeHeader(DataFileWriter& writer, const Header& header);
 
     /// Gives both lists the length that the header says. False when the file ends before or within the record, which
-    /// then holds the numbers that were there.
+    /// then holds the numbers that were there; the position is that of the record again.
     bool readRecord(DataFileReader& reader, Record& record) const;
 
     /// Writes as many values of each list as the header says. False, with nothing written, when a list is shorter.

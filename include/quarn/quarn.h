@@ -25,6 +25,7 @@
 #include "quarn/FarZoneRotation.h"
 #include "quarn/FieldsOnSSFarZoneBox.h"
 #include "quarn/FileHeader.h"
+#include "quarn/FileReplacement.h"
 #include "quarn/GeometryFile.h"
 #include "quarn/Grid.h"
 #include "quarn/GridIndexBoxes.h"

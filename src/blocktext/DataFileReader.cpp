@@ -4,9 +4,28 @@
 #include <limits>
 
 #include "blocktext/OwnedStream.h"
+#include "foundation/ScalarCodec.h"
 #include "quarn/BinaryFile.h"
 
 namespace quarn {
+
+using scalar::fileByteOrder;
+
+namespace {
+
+// Over the bytes of a number that is not there as a whole. Seeking also clears the mark that the end was reached, so
+// that a file that has grown is read on.
+void goBack(std::FILE* file, std::size_t count) { stream::seek(file, -static_cast<long>(count), SEEK_CUR); }
+
+template <scalar::ByteOrder order = scalar::ByteOrder::Native, class T>
+bool readOrStay(T& value, std::FILE* file) {
+    const std::size_t count = scalar::readBytes<order>(value, file);
+    if (count == sizeof value) return true;
+    goBack(file, count);
+    return false;
+}
+
+}  // namespace
 
 DataFileReader::~DataFileReader() { close(); }
 
@@ -16,15 +35,18 @@ bool DataFileReader::open(const QString& path) {
     return m_file != nullptr;
 }
 
-bool DataFileReader::read(signed char& value) { return fread_int8(value, m_file); }
-bool DataFileReader::read(short& value) { return fread_int16(value, m_file); }
-bool DataFileReader::read(int& value) { return fread_int32(value, m_file); }
-bool DataFileReader::read(long long& value) { return fread_int64(value, m_file); }
-bool DataFileReader::read(float& value) { return fread_float(value, m_file); }
-bool DataFileReader::read(double& value) { return fread_double(value, m_file); }
+bool DataFileReader::read(signed char& value) { return readOrStay(value, m_file); }
+bool DataFileReader::read(short& value) { return readOrStay<fileByteOrder>(value, m_file); }
+bool DataFileReader::read(int& value) { return readOrStay<fileByteOrder>(value, m_file); }
+bool DataFileReader::read(long long& value) { return readOrStay<fileByteOrder>(value, m_file); }
+bool DataFileReader::read(float& value) { return readOrStay(value, m_file); }
+bool DataFileReader::read(double& value) { return readOrStay(value, m_file); }
 
 std::size_t DataFileReader::readBlock(void* items, std::size_t size, std::size_t count) {
-    return m_file ? std::fread(items, size, count, m_file) : 0;
+    if (!m_file || size == 0) return 0;
+    const std::size_t bytes = std::fread(items, 1, size * count, m_file);
+    if (bytes < size * count) goBack(m_file, bytes % size);
+    return bytes / size;
 }
 
 long DataFileReader::bytesLeft() {

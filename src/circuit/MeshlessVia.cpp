@@ -23,7 +23,7 @@
 #include <tuple>
 #include <type_traits>
 
-#include "foundation/FileReplacement.h"
+#include "quarn/FileReplacement.h"
 #include "quarn/LongPathUtil.h"
 
 namespace quarn {
@@ -163,8 +163,8 @@ void MeshlessVia::read_binary_stream(std::vector<MeshlessVia>& vias, std::istrea
 }
 
 void MeshlessVia::write_binary(const std::vector<MeshlessVia>& vias, const std::string& path) {
-    FileReplacement replacement(resolveLongPath(path, true));
-    std::ofstream file(replacement.path(), std::ios::binary | std::ios::trunc);
+    FileReplacement replacement(std::filesystem::path(resolveLongPath(path, true)));
+    std::ofstream file(replacement.systemPath(), std::ios::binary | std::ios::trunc);
     if (file) {
         write_binary_stream(vias, file);
         file.close();

@@ -21,9 +21,7 @@ static_assert(sizeof(float) == 4 && sizeof(double) == 8);
 
 namespace {
 
-// Of the fixed buffers that an open call takes on systems with a path-length limit, without their final zero. They hold
-// on all systems, so that a run does not depend on the machine that prepared it.
-constexpr int pathLimit = 259;
+// Of the fixed buffer that the mode is copied to where paths have a limit, without its final zero.
 constexpr int modeLimit = 23;
 
 // ENAMETOOLONG where the limits come from; errno.h here may number it otherwise.
@@ -67,7 +65,7 @@ bool fwrite_complex_float(const std::complex<float>& value, std::FILE* file) {
 
 std::FILE* openFile(const QString& path, const QString& mode) {
     if (supportsLongPaths()) return openStream(resolveLongPath(path, true), mode);
-    if (path.size() < pathLimit && mode.size() < modeLimit) return openStream(path, mode);
+    if (!isPathTooLong(path) && mode.size() < modeLimit) return openStream(path, mode);
     errno = nameTooLong;
     return nullptr;
 }

@@ -4,12 +4,17 @@
 #include <cstdlib>
 
 #include "foundation/LongPathText.h"
+#include "foundation/SystemPath.h"
 
 namespace quarn {
 
 namespace {
 
 const QLatin1String longPathPrefix("\\\\?\\");
+
+// Of the fixed buffer that an open call takes on systems with a path-length limit, without its final zero. It holds on
+// all systems, so that a run does not depend on the machine that prepared it.
+constexpr int pathLimit = 259;
 
 QString absolutePath(const QString& path) {
     if (!QDir::isRelativePath(path)) return path;
@@ -21,6 +26,14 @@ QString absolutePath(const QString& path) {
 }  // namespace
 
 bool supportsLongPaths() { return std::getenv("KIVEN_LONGPATHSUPPORT") != nullptr; }
+
+bool isPathTooLong(const QString& path) { return path.size() >= pathLimit && !supportsLongPaths(); }
+
+bool isSameFile(const QString& a, const QString& b) {
+    std::error_code failure;
+    return std::filesystem::equivalent(
+        toSystemPath(resolveLongPath(a, true)), toSystemPath(resolveLongPath(b, true)), failure);
+}
 
 std::string& LongPathUtil::getWorkingDir() {
     static std::string directory;

@@ -47,22 +47,28 @@ inline bool writeByte(unsigned char byte, std::FILE* file) {
     return putIntoBuffer(&byte, 1, file) || std::fwrite(&byte, 1, 1, file) == 1;
 }
 
-/// The value stays as it was when the stream ends within it. In reversed order each byte is tried by itself, whatever
-/// became of the one before.
+/// Reads a number and returns how many of its bytes there were. The value stays as it was unless there were all. In
+/// reversed order each byte is tried by itself, whatever became of the one before.
+template <ByteOrder order = ByteOrder::Native, class T>
+std::size_t readBytes(T& value, std::FILE* file) {
+    static_assert(std::is_trivially_copyable_v<T>);
+    if (!file) return 0;
+    Bytes<T> bytes{};
+    std::size_t count = 0;
+    if constexpr (order == ByteOrder::Native) {
+        if (takeFromBuffer(&value, sizeof value, file)) return sizeof value;
+        count = std::fread(bytes.data(), 1, sizeof value, file);
+    } else {
+        std::for_each(
+            bytes.rbegin(), bytes.rend(), [&](unsigned char& byte) { count += readByte(byte, file) ? 1 : 0; });
+    }
+    if (count == sizeof value) std::memcpy(&value, bytes.data(), sizeof value);
+    return count;
+}
+
 template <ByteOrder order = ByteOrder::Native, class T>
 bool readScalar(T& value, std::FILE* file) {
-    static_assert(std::is_trivially_copyable_v<T>);
-    if (!file) return false;
-    Bytes<T> bytes{};
-    bool complete = true;
-    if constexpr (order == ByteOrder::Native) {
-        if (takeFromBuffer(&value, sizeof value, file)) return true;
-        complete = std::fread(bytes.data(), sizeof value, 1, file) == 1;
-    } else {
-        std::for_each(bytes.rbegin(), bytes.rend(), [&](unsigned char& byte) { complete &= readByte(byte, file); });
-    }
-    if (complete) std::memcpy(&value, bytes.data(), sizeof value);
-    return complete;
+    return readBytes<order>(value, file) == sizeof value;
 }
 
 template <ByteOrder order = ByteOrder::Native, class T>

@@ -15,43 +15,50 @@ namespace {
 
 bool removeFile(const QString& path) { return QFile::remove(resolveLongPath(path, true)); }
 
-/// The files of a result that are there. A list may claim more indices than can be tried one by one.
+// The component files of a result. They are taken from a listing of the folder, as a list may claim more indices than
+// can be tried one by one; where the folder cannot be listed, they are tried up to a bound.
 class ComponentFiles {
 public:
-    explicit ComponentFiles(const QString& baseFileName)
-        : m_folder(baseFileName.chopped(QFileInfo(baseFileName).fileName().size())),
+    explicit ComponentFiles(const MultiPointResult& result)
+        : m_result(result),
+          m_folder(result.getBaseFileName().chopped(QFileInfo(result.getBaseFileName()).fileName().size())),
           m_names(QDir(resolveLongPath(m_folder.isEmpty() ? QStringLiteral(".") : m_folder, true))
                       .entryList(QDir::Files | QDir::System | QDir::Hidden, QDir::Unsorted)) {}
 
-    /// Those that are named as the given one, whose index is 0, up to and without `numIndices`.
-    void remove(const QString& first, int numIndices) const {
+    template <class Groups, class Components>
+    void remove(const Groups& groups, const Components& components, int numIndices) const {
+        // The info file was read, so that a listing without it is none.
+        const bool isListed = m_names.contains(m_result.getInfoFileName().mid(m_folder.size()));
+        const int numTried = std::min(numIndices, MultiPointResultDeleter::mostIndicesTried + 1);
+        for (const auto group : groups) {
+            if (!m_result.collects(group)) continue;
+            for (const auto component : components) {
+                if (isListed) removeListed(m_result.getComponentFileName(group, component, 0), numIndices);
+                for (int i = 0; !isListed && i < numTried; ++i) {
+                    removeFile(m_result.getComponentFileName(group, component, i));
+                }
+            }
+        }
+    }
+
+private:
+    // Those that are named as the given one, whose index is 0, up to and without `numIndices`.
+    void removeListed(const QString& first, int numIndices) const {
         const int at = first.lastIndexOf(u'0') - m_folder.size();
         const QString before = first.mid(m_folder.size(), at), behind = first.mid(m_folder.size() + at + 1);
         for (const QString& name : m_names) {
             if (!name.startsWith(before) || !name.endsWith(behind)) continue;
             const QString index = name.mid(at, name.size() - before.size() - behind.size());
             const unsigned number = index.toUInt();
-            const bool isListed = number < static_cast<unsigned>(numIndices) && index == QString::number(number);
-            if (isListed) removeFile(m_folder + name);
+            const bool isCounted = number < static_cast<unsigned>(numIndices) && index == QString::number(number);
+            if (isCounted) removeFile(m_folder + name);
         }
     }
 
-private:
+    const MultiPointResult& m_result;
     QString m_folder;
     QStringList m_names;
 };
-
-template <class Groups, class Components>
-void removeComponents(const MultiPointResult& result, const QString& baseFileName, const Groups& groups,
-                      const Components& components, int numIndices) {
-    const ComponentFiles files(baseFileName);
-    for (const auto group : groups) {
-        if (!result.collects(group)) continue;
-        for (const auto component : components) {
-            files.remove(result.getComponentFileName(group, component, 0), numIndices);
-        }
-    }
-}
 
 }  // namespace
 
@@ -66,9 +73,10 @@ bool MultiPointResultDeleter::deleteResult(const QString& baseFileName) {
     setBaseFileName(baseFileName);
     if (!readInfo()) return false;
     removeFile(getGeometryFileName());
-    removeComponents(*this, baseFileName, transientGroups, components, numIndices(getTimestepsFileName()));
+    const ComponentFiles files(*this);
+    files.remove(transientGroups, components, numIndices(getTimestepsFileName()));
     removeFile(getTimestepsFileName());
-    removeComponents(*this, baseFileName, steadyGroups, parts, numIndices(getFrequenciesFileName()));
+    files.remove(steadyGroups, parts, numIndices(getFrequenciesFileName()));
     removeFile(getFrequenciesFileName());
     return removeFile(getInfoFileName());
 }

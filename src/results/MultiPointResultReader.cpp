@@ -87,13 +87,15 @@ bool MultiPointResultReader::readSteady(std::complex<float>& x, std::complex<flo
     return true;
 }
 
-// All of the first `count` files, or none.
+// From all of the first `count` files or from none, so that they stay at the same point.
 bool MultiPointResultReader::readEach(float* values, std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) {
         if (!m_components[i].isOpen()) return false;
     }
     for (std::size_t i = 0; i < count; ++i) {
-        if (!m_components[i].read(values[i])) return false;
+        if (m_components[i].read(values[i])) continue;
+        while (i-- > 0) m_components[i].skip(-static_cast<int>(sizeof(float)));
+        return false;
     }
     return true;
 }

@@ -25,7 +25,7 @@ bool MultiPointResultWriter::openFiles(Group group, const Files& files, int inde
 
 bool MultiPointResultWriter::beginResultWriting(const QString& baseFileName, const GridIndexBoxes& boxes) {
     endResultWriting();
-    if (!std::exchange(m_nothingLost, true)) return false;
+    m_nothingLost = true;
     setBaseFileName(baseFileName);
     setNumberOfPoints(boxes.getNumPoints());
     m_timestep = -1;
@@ -121,7 +121,7 @@ bool MultiPointResultWriter::closeComponents(std::size_t count) {
     return complete;
 }
 
-/// What they lost is told where the next files are begun.
+// What they lost is reported where the next group of the result is begun.
 void MultiPointResultWriter::abandonComponents() {
     for (DataFileWriter& file : m_components) {
         if (file.isOpen()) m_nothingLost &= file.close();

@@ -8,13 +8,12 @@
 #include "quarn/SarStatistics.h"
 #include "quarn/SystemResults.h"
 #include "results/BlockReading.h"
-#include "results/RecordFields.h"
 
 namespace quarn {
 
 template <class RecordType>
 bool RecordCodec<RecordType>::readRecord(DataFileReader& reader, Record& record) {
-    return records::readFields(reader, Record::fields(record));
+    return records::readRecord(reader, Record::fields(record));
 }
 
 template <class RecordType>

@@ -4,16 +4,22 @@
 #include <QFileInfo>
 #include <algorithm>
 #include <cstdint>
+#include <filesystem>
 #include <limits>
+#include <system_error>
 #include <vector>
 
-#include "foundation/FileReplacement.h"
+#include "quarn/FileReplacement.h"
 #include "quarn/LongPathUtil.h"
 #include "quarn/SarResult.h"
+#include "results/FarZoneProgress.h"
 
 namespace quarn {
 
 namespace {
+
+constexpr std::int64_t mostRecords = std::numeric_limits<std::int32_t>::max();
+constexpr int recordsPerStep = 4096;  // between two looks at the clock
 
 struct PartialFile {
     QString name;
@@ -29,15 +35,18 @@ public:
     Combination(const QString& output, QString& error, QString& warning)
         : m_output(output), m_error(error), m_warning(warning) {}
 
-    bool run(const QStringList& names) { return inspect(names) && countRecords() && write(); }
+    bool run(const QStringList& names, const ProgressReporter& reporter) {
+        return inspect(names) && countRecords() && write(reporter);
+    }
 
 private:
-    // Every partial file that exists, all of one plane.
+    // Every partial file that exists, all of one plane. Opening a pipe would wait for somebody who writes to it.
     bool inspect(const QStringList& names) {
         for (const QString& name : names) {
-            if (!QFileInfo::exists(resolveLongPath(name, true))) continue;
+            const QFileInfo file(resolveLongPath(name, true));
+            if (!file.exists()) continue;
             SarResultReader reader;
-            if (!reader.beginResultReading(name)) return openingFailed(name);
+            if (!file.isFile() || !reader.beginResultReading(name)) return openingFailed(name);
             const bool complete = reader.getNumberOfRecordsLeft() >= reader.getNumberOfRecords();
             m_parts.push_back({name, reader.getPlane(), reader.getPlaneIndex(), reader.getNumberOfRecords(), complete});
             const PartialFile& first = m_parts.front();
@@ -48,40 +57,63 @@ private:
         return true;
     }
 
-    // More records than one file can have are most likely those that a damaged part claims.
+    // More records than one file can name are most likely those that a damaged part claims. What stands before the
+    // damage can be joined all the same.
     bool countRecords() {
-        std::int64_t total = 0;
-        for (const PartialFile& part : m_parts) total += part.numRecords;
-        const bool fits = total <= std::numeric_limits<int>::max();
-        const auto damaged = std::find_if(m_parts.begin(), m_parts.end(), [](auto& part) { return !part.complete; });
-        if (!fits && damaged != m_parts.end()) return corrupt(damaged->name);
-        if (!fits || m_parts.empty()) return creationFailed();
-        m_numRecords = static_cast<int>(total);
+        for (const PartialFile& part : m_parts) m_total += part.numRecords;
+        const bool isDamaged = std::any_of(m_parts.begin(), m_parts.end(), [](auto& part) { return !part.complete; });
+        if (m_parts.empty() || (m_total > mostRecords && !isDamaged)) return creationFailed();
         return true;
     }
 
-    bool write() {
-        FileReplacement file(toSystemPath(resolveLongPath(m_output, true)));
+    bool write(const ProgressReporter& reporter) {
+        FileReplacement file(m_output);
+        const bool isPart = outputIsPart();
+        if (isPart && file.isTarget()) return creationFailed();
         SarResultWriter writer;
         const PartialFile& first = m_parts.front();
-        if (!writer.beginResultWriting(toQtPath(file.path()), first.plane, first.planeIndex, m_numRecords)) {
-            return creationFailed();
-        }
-        const auto copy = [&](const PartialFile& part) { return copyRecords(part, writer); };
-        if (!std::all_of(m_parts.begin(), m_parts.end(), copy)) return false;
-        if (!writer.endResultWriting()) return writingFailed();
-        return file.takePlace() || creationFailed();
+        const int numRecords = static_cast<int>(std::min(m_total, mostRecords));
+        if (!writer.beginResultWriting(file.path(), first.plane, first.planeIndex, numRecords)) return creationFailed();
+        const bool isJoined = copyParts(writer, reporter);
+        const bool isWritten = writer.endResultWriting() || (isJoined && writingFailed());
+        if (isJoined && isWritten) return file.takePlace() || creationFailed();
+        if (m_isIncomplete && !isPart && cutToWholeRecords(file.systemPath())) file.takePlace();
+        return false;
     }
 
-    bool copyRecords(const PartialFile& part, SarResultWriter& writer) {
+    bool outputIsPart() const {
+        return std::any_of(m_parts.begin(), m_parts.end(), [&](auto& part) { return isSameFile(part.name, m_output); });
+    }
+
+    bool copyParts(SarResultWriter& writer, const ProgressReporter& reporter) {
+        const auto total = static_cast<double>(m_total);
+        farzone::Progress progress(reporter, static_cast<std::size_t>(m_total), total);
+        const auto copy = [&](const PartialFile& part) { return copyRecords(part, writer, progress); };
+        if (!progress.begin()) return stopped();
+        return std::all_of(m_parts.begin(), m_parts.end(), copy) && (progress.end() || stopped());
+    }
+
+    bool copyRecords(const PartialFile& part, SarResultWriter& writer, farzone::Progress& progress) {
         SarResultReader reader;
         if (!reader.beginResultReading(part.name)) return openingFailed(part.name);
         SarResult::Record record;
         for (int i = 0; i < part.numRecords; ++i) {
             if (!reader.readRecord(record)) return corrupt(part.name);
             if (!writer.writeRecord(record)) return writingFailed();
+            const bool isStep = ++m_numCopied % recordsPerStep == 0;
+            if (isStep && !progress.advance(recordsPerStep)) return stopped();
         }
         return true;
+    }
+
+    // A disk that fills up takes any number of bytes. Without the numbers before the records there is nothing to keep.
+    static bool cutToWholeRecords(const std::filesystem::path& path) {
+        std::error_code failure;
+        const std::uintmax_t size = std::filesystem::file_size(path, failure);
+        if (failure || size < SarResult::startSize) return false;
+        const std::uintmax_t incomplete = (size - SarResult::startSize) % SarResult::recordSize;
+        std::filesystem::resize_file(path, size - incomplete, failure);
+        return !failure;
     }
 
     bool openingFailed(const QString& name) {
@@ -113,12 +145,18 @@ private:
         return incomplete();
     }
 
+    bool stopped() {
+        m_error = QStringLiteral("Combining into SAR output file '%1' was stopped.").arg(m_output);
+        return unavailable();
+    }
+
     bool unavailable() {
         m_warning = QStringLiteral("SAR data will be unavailable on disk.");
         return false;
     }
 
     bool incomplete() {
+        m_isIncomplete = true;
         m_warning = QStringLiteral("SAR data will be incomplete on disk.");
         return false;
     }
@@ -127,14 +165,16 @@ private:
     QString& m_error;
     QString& m_warning;
     std::vector<PartialFile> m_parts;
-    int m_numRecords = 0;
+    std::int64_t m_total = 0;
+    std::int64_t m_numCopied = 0;
+    bool m_isIncomplete = false;
 };
 
 }  // namespace
 
 bool SarResult::combineFiles(const QStringList& partialFileNames, const QString& outputFileName, QString& error,
-                             QString& warning) {
-    return Combination(outputFileName, error, warning).run(partialFileNames);
+                             QString& warning, const ProgressReporter& reporter) {
+    return Combination(outputFileName, error, warning).run(partialFileNames, reporter);
 }
 
 }  // namespace quarn

@@ -3,7 +3,7 @@
 #include <tuple>
 
 #include "quarn/FileHeader.h"
-#include "results/RecordFields.h"
+#include "results/BlockReading.h"
 
 namespace quarn {
 
@@ -59,14 +59,14 @@ auto storedFields(SARPlane::Plane plane, Self& r) {
     }
 }
 
-constexpr std::int64_t storedSize =
-    records::sizeOf(static_cast<decltype(storedFields(SARPlane::XY, std::declval<Record&>()))*>(nullptr));
+static_assert(records::sizeOf(static_cast<decltype(storedFields(SARPlane::XY, std::declval<Record&>()))*>(nullptr)) ==
+              SarResult::recordSize);
 
 }  // namespace
 
 bool SarResultWriter::beginResultWriting(const QString& fileName, SARPlane::Plane plane, int planeIndex,
                                          int numRecords) {
-    if (m_writer.isOpen() && !m_writer.close()) return false;
+    m_writer.close();
     const PlaneKind* kind = findKind(&PlaneKind::plane, plane);
     if (!kind || numRecords < 0 || !m_writer.open(fileName, QStringLiteral("wb"))) return false;
     const Start start{kind->code, planeIndex, numRecords};
@@ -110,11 +110,11 @@ bool SarResultReader::beginResultReading(const QString& fileName) {
     return true;
 }
 
-std::int64_t SarResultReader::getNumberOfRecordsLeft() { return m_reader.bytesLeft() / storedSize; }
+std::int64_t SarResultReader::getNumberOfRecordsLeft() { return m_reader.bytesLeft() / SarResult::recordSize; }
 
 bool SarResultReader::readRecord(SarResult::Record& record) {
     Record found;
-    if (!records::readFields(m_reader, storedFields(m_plane, found))) return false;
+    if (!records::readRecord(m_reader, storedFields(m_plane, found))) return false;
     found.*findKind(&PlaneKind::plane, m_plane)->normal = m_planeIndex;
     record = found;
     return true;

@@ -1,7 +1,7 @@
 #include "quarn/DataFileReader.h"
 #include "quarn/DataFileWriter.h"
 #include "quarn/SystemResults.h"
-#include "results/RecordFields.h"
+#include "results/BlockReading.h"
 
 namespace quarn {
 
@@ -20,7 +20,7 @@ bool SystemDissipatedPower::writeHeader(DataFileWriter& writer, const Header& he
 bool SystemDissipatedPower::readRecord(DataFileReader& reader, Record& record) const {
     record.electricByMaterial.resize(m_header.numElectric);
     record.magneticByMaterial.resize(m_header.numMagnetic);
-    return records::readFields(reader, Record::fields(record));
+    return records::readRecord(reader, Record::fields(record));
 }
 
 bool SystemDissipatedPower::writeRecord(DataFileWriter& writer, const Record& record) const {

@@ -1,30 +1,18 @@
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QTemporaryDir>
-
 #include "quarn/DataFileReader.h"
 #include "quarn/DataFileWriter.h"
+#include "results/ResultFolder.h"
 
 namespace quarn::test {
 namespace {
 
 class DataFile : public testing::Test {
 protected:
-    QByteArray bytes() const {
-        QFile file(m_path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
+    QByteArray bytes() const { return m_folder.bytes("data"); }
 
-    void put(const QByteArray& bytes) const {
-        QFile file(m_path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    QTemporaryDir m_folder;
-    QString m_path = m_folder.filePath("data");
+    ResultFolder m_folder;
+    QString m_path = m_folder.path("data");
 };
 
 TEST_F(DataFile, eachTypeHasItsSize) {
@@ -68,7 +56,7 @@ TEST_F(DataFile, closedFilesRefuseEverything) {
 }
 
 TEST_F(DataFile, readerGoesToPositions) {
-    put("0123456789");
+    m_folder.put("data", "0123456789");
     DataFileReader reader;
     ASSERT_TRUE(reader.open(m_path));
     signed char digit = 0;

@@ -1,10 +1,9 @@
 #include <QByteArray>
-#include <QFile>
-#include <QTemporaryDir>
 #include <sstream>
 
 #include "circuit/CircuitTestSupport.h"
 #include "quarn/MeshlessVia.h"
+#include "results/ResultFolder.h"
 
 namespace quarn::test {
 namespace {
@@ -33,20 +32,16 @@ MeshlessVia coaxialVia() {
 class MeshlessViaFile : public testing::Test {
 protected:
     std::string write(const std::string& bytes) {
-        QFile file(m_directory.filePath("vias Ω"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes.data(), bytes.size()) >= 0);
-        return file.fileName().toStdString();
+        return m_folder.put("vias Ω", QByteArray::fromStdString(bytes)).toStdString();
     }
-    QTemporaryDir m_directory;
+    ResultFolder m_folder;
 };
 
 TEST_F(MeshlessViaFile, bytes) {
     const std::vector<MeshlessVia> vias{coaxialVia(), MeshlessVia()};
     const std::string bytes = check + twoVias + coaxialBytes + unsetBytes, path = write(std::string(999, 'x'));
     MeshlessVia::write_binary(vias, path);
-    QFile file(QString::fromStdString(path));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll().toHex().toStdString(), QByteArray::fromStdString(bytes).toHex().toStdString());
+    EXPECT_EQ(m_folder.bytes("vias Ω").toHex().toStdString(), QByteArray::fromStdString(bytes).toHex().toStdString());
     EXPECT_EQ(MeshlessVia::getNbMeshlessVias(path), 2U);
     EXPECT_EQ(MeshlessVia::load_binary(path), vias);
     std::stringstream stream;
@@ -125,7 +120,7 @@ TEST_F(MeshlessViaFile, failures_have_messages_and_leave_the_list_empty) {
 }
 
 TEST_F(MeshlessViaFile, that_cannot_be_opened) {
-    const std::string path = m_directory.filePath("no folder/vias").toStdString();
+    const std::string path = m_folder.path("no folder/vias").toStdString();
     std::vector<MeshlessVia> list(1);
     EXPECT_EQ(MeshlessVia::getNbMeshlessVias(path), 0U);
     EXPECT_EQ(thrownBy([&] { MeshlessVia::read_binary(list, path); }),

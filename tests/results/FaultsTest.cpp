@@ -3,11 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/mount.h>
+
 #include <QFileInfo>
+#include <climits>
 #include <memory>
 
 #include "Faults.h"
 #include "TestSupport.h"
+#include "foundation/PathSettings.h"
 #include "project/GoldenProject.h"
 #include "quarn/quarn.h"
 #include "results/ResultFolder.h"
@@ -135,6 +139,10 @@ protected:
         setPermissions(QByteArray(folder) + "/out", 0666);
     }
 
+    QString filesIn(const char* folder) const {
+        return QDir(m_folder.path(folder)).entryList(QDir::Files | QDir::System).join(' ');
+    }
+
     ResultFolder m_folder;
 };
 
@@ -157,36 +165,51 @@ TEST_P(FailingWriter, in_a_closed_folder_reports_it) {
 }
 
 TEST_P(ReplacingWriter, keeps_an_earlier_file_that_it_has_no_room_or_no_permission_to_replace) {
-    putEarlier("closed", 0555);
-    EXPECT_FALSE(writesWith<WithoutPrivileges>("closed/out"));
-    EXPECT_EQ(m_folder.bytes("closed/out"), "earlier");
-    setPermissions("closed", 0755);
-    EXPECT_FALSE(writesWith<FullDisk>("closed/out"));
-    EXPECT_EQ(m_folder.bytes("closed/out"), "earlier");
-    EXPECT_EQ(QDir(m_folder.path("closed")).entryList(QDir::Files), QStringList("out"));
-}
-
-TEST_P(ReplacingWriter, does_not_write_to_what_is_protected_nor_through_what_is_planted) {
     putEarlier("open", 0777);
-    setPermissions("open/out", 0444);
+    EXPECT_FALSE(writesWith<FullDisk>("open/out"));
+    setPermissions("open/out", 0640);
     EXPECT_FALSE(writesWith<WithoutPrivileges>("open/out"));
     EXPECT_EQ(m_folder.bytes("open/out"), "earlier");
-    QFile::link(m_folder.path("elsewhere"), m_folder.path("target.new0"));
-    m_folder.put("target.new1", "somebody's");
-    EXPECT_TRUE(writes("target.file"));
-    EXPECT_FALSE(m_folder.has("elsewhere"));
-    EXPECT_EQ(m_folder.bytes("target.new1"), "somebody's");
-    EXPECT_FALSE(QFileInfo(m_folder.path("target.file")).isSymLink());
+    EXPECT_EQ(filesIn("open"), "out");
+    QFile::link(m_folder.path("elsewhere"), m_folder.path("open/out.new0"));
+    m_folder.put("open/out.new1", "somebody's");
+    EXPECT_TRUE(writes("open/out"));
+    EXPECT_FALSE(m_folder.has("elsewhere")) << "nor is anything written through what is planted";
+    EXPECT_EQ(m_folder.bytes("open/out.new1"), "somebody's");
+    EXPECT_EQ(QFile::permissions(m_folder.path("open/out")) & 0xFFF, 0x640);
 }
 
-// In a folder of everybody's, what belongs to somebody else cannot be renamed over.
-TEST_P(ReplacingWriter, that_cannot_rename_keeps_an_earlier_file) {
-    if (geteuid() != 0) GTEST_SKIP() << "takes two users";
-    putEarlier("everybody", 01777);
-    EXPECT_TRUE(writesWith<WithoutPrivileges>("everybody/new"));
-    EXPECT_FALSE(writesWith<WithoutPrivileges>("everybody/out"));
-    EXPECT_EQ(m_folder.bytes("everybody/out"), "earlier");
-    EXPECT_EQ(QDir(m_folder.path("everybody")).entryList(QDir::Files), (QStringList{"new", "out"}));
+TEST_P(ReplacingWriter, writes_into_a_file_that_cannot_be_replaced) {
+    putEarlier("linked", 0755);
+    putEarlier("closed", 0555);
+    putEarlier("everybody", 01777);  // only its owner can rename over a file here
+    putEarlier("mounted", 0755);
+    const QByteArray mountPoint = m_folder.path("mounted/out").toLocal8Bit();
+    const QByteArray origin = m_folder.put("mounted/origin", QByteArray(999, 'x')).toLocal8Bit();
+    const bool isMounted = mount(origin, mountPoint, nullptr, MS_BIND, nullptr) == 0;  // where that is permitted
+    ASSERT_TRUE(m_folder.linkHard("linked/out", "linked/2") && writes("plain"));
+    EXPECT_TRUE(writes("linked/out") && writes("mounted/out"));
+    EXPECT_TRUE(writesWith<WithoutPrivileges>("closed/out") && writesWith<WithoutPrivileges>("everybody/out"));
+    EXPECT_TRUE(!isMounted || umount(mountPoint) == 0);
+    for (const char* file : {"linked/2", "closed/out", "everybody/out", isMounted ? "mounted/origin" : "mounted/out"}) {
+        EXPECT_EQ(m_folder.bytes(file), m_folder.bytes("plain")) << file;
+        EXPECT_EQ(QFileInfo(m_folder.path(file)).ownerId(), getuid()) << file;
+    }
+    EXPECT_EQ(filesIn("linked") + filesIn("closed") + filesIn("everybody") + filesIn("mounted"),
+              "2 outoutoutorigin out");
+}
+
+TEST_P(ReplacingWriter, takes_names_as_long_as_can_be_and_follows_links_to_their_end) {
+    const QByteArray longest(NAME_MAX, 'n');
+    const QByteArray longPath = longest.left(259 - m_folder.path("x").size());
+    ASSERT_TRUE(QFile::link("loop", m_folder.path("loop")) && QFile::link(longPath + 'n', m_folder.path("link")));
+    EXPECT_TRUE(writes("plain") && writes(longPath) && writes("link"));
+    EXPECT_FALSE(writes("loop"));
+    EXPECT_TRUE((PathSettings(true, ""), writes(longest)));
+    for (const QByteArray& name : {longPath, longPath + 'n', longest}) {
+        EXPECT_EQ(m_folder.bytes(name), m_folder.bytes("plain"));
+    }
+    EXPECT_EQ(m_folder.names().size(), 5);
 }
 
 INSTANTIATE_TEST_SUITE_P(, FailingWriter, testing::ValuesIn(writers), rowName<Writer>);
@@ -217,8 +240,33 @@ TEST(WriterOfASet, reports_it_when_the_disk_fills_up) {
         writer.beginTransientTotalE();
         for (int i = 0; i < 3; ++i) writer.writeTransient(1, 2, 3);
         done.insert(done.end(), {writer.endTimestep(), writer.beginTransientTotalE(), writer.beginTransientTotalE()});
+        for (int i = 0; i < 3; ++i) writer.writeTransient(1, 2, 3);
+        writer.endTimestep();
     }
+    EXPECT_TRUE(writer.beginResultWriting(folder.path("next"), GridIndexBoxes(std::vector<ivec3>{{1, 2, 3}})))
+        << "what the set before lost is no failure of this one";
+    EXPECT_TRUE(writer.beginTimestep(1) && writer.beginTransientTotalE()) << "nor of its first group";
+    SarResultWriter plane;
+    ASSERT_TRUE(plane.beginResultWriting(folder.path("lost"), SARPlane::XY, 0, 1));
+    EXPECT_TRUE((FullDisk(), plane.beginResultWriting(folder.path("plane"), SARPlane::XY, 0, 1))) << "nor of a plane";
     EXPECT_EQ(done, (std::vector<bool>{true, true, true, false, false, true, true, false, true, false, true}));
+}
+
+// Into a file with two links the content has to be copied.
+TEST(FileReplacement, copies_only_what_there_is_room_for) {
+    const ResultFolder folder;
+    const QString target = folder.put("out", "earlier");
+    ASSERT_TRUE(folder.linkHard("out", "link") && QFile::setPermissions(target, QFile::Permissions(0x600)));
+    for (const QByteArray& content : {QByteArray(200000, 'n'), QByteArray("new")}) {
+        FileReplacement replacement(target);
+        folder.put("out.new0", content);
+        EXPECT_EQ(QFile::permissions(replacement.path()) & 0xFF, 0) << "as of the earlier file";
+        const auto takePlace = [&](rlim_t room) { return FullDisk(room), replacement.takePlace(); };
+        EXPECT_EQ(takePlace(100000), content == "new");
+        EXPECT_EQ(folder.bytes("link"), content == "new" ? content : "earlier");
+        EXPECT_EQ(replacement.errorString(), content == "new" ? "" : "File too large");
+        EXPECT_TRUE(replacement.takePlace() && folder.bytes("link") == content);
+    }
 }
 
 }  // namespace

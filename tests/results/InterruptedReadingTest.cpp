@@ -50,16 +50,6 @@ struct Reading {
 
 void PrintTo(const Reading& row, std::ostream* out) { *out << row.name; }
 
-int readRecords(const QString& path, const std::function<void()>& cut) {
-    DataFileReader reader;
-    FarZoneSSFieldFile::Record record;
-    EXPECT_TRUE(reader.open(path) && FarZoneSSFieldFile::readRecord(reader, record));
-    cut();
-    int count = 1;
-    while (FarZoneSSFieldFile::readRecord(reader, record)) ++count;
-    return count;
-}
-
 int readBlock(const QString& path, const std::function<void()>& cut) {
     DataFileReader reader;
     FarZoneSSFieldFile::Record record;
@@ -68,16 +58,6 @@ int readBlock(const QString& path, const std::function<void()>& cut) {
     cut();
     EXPECT_FALSE(FarZoneSSFieldFile::readRecords(reader, numRecords - 1, records));
     return 1 + static_cast<int>(records.size());
-}
-
-int readSarPlane(const QString& path, const std::function<void()>& cut) {
-    SarResultReader reader;
-    SarResult::Record record;
-    EXPECT_TRUE(reader.beginResultReading(path) && reader.readRecord(record));
-    cut();
-    int count = 1;
-    while (reader.readRecord(record)) ++count;
-    return count;
 }
 
 int readNearZonePoint(const QString& path, const std::function<void()>& cut) {
@@ -93,9 +73,7 @@ int readNearZonePoint(const QString& path, const std::function<void()>& cut) {
 }
 
 const Reading readings[] = {
-    {"records", "", 24, readRecords},
     {"block_of_records", "", 24, readBlock},
-    {"sar_plane", QByteArray("!tavrixfdtdL\x0D\0\0\0\2\0\0\0\5\0\0\0\xA0\x86\1\0", 28), 12, readSarPlane},
     {"near_zone_point", QByteArray("Rnzp\0xxxxyyyyzzzz\0\2", 19), 16, readNearZonePoint},
 };
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "Faults.h"
 #include "quarn/GridIndexBoxes.h"
 #include "quarn/MultiPointResultDeleter.h"
 #include "quarn/MultiPointResultReader.h"
@@ -34,6 +35,13 @@ struct GroupRow {
     bool (MultiPointResult::*collects)() const;
     const char* bits;      // as they stand in the info file
     const char* fileName;  // %1 is for the suffix
+
+    bool isSteady() const { return beginReadingOne.size() == 6; }
+    QStringList files() const {
+        QStringList names(isSteady() ? QStringList{"xr", "xi", "yr", "yi", "zr", "zi"} : QStringList{"x", "y", "z"});
+        for (QString& name : names) name = QString(fileName).arg(name);
+        return names;
+    }
 };
 
 #define QUARN_TRANSIENT(Group, bits, fileName)                                                                         \
@@ -70,6 +78,15 @@ const std::vector<GroupRow> groupRows{
 #undef QUARN_STEADY
 
 struct MultiPoint : testing::Test {
+    // The components of the next point, or none.
+    Floats next(const GroupRow& group) {
+        float x = 0, y = 0, z = 0;
+        std::complex<float> cx, cy, cz;
+        if (!group.isSteady()) return reader.readTransient(x, y, z) ? Floats{x, y, z} : Floats();
+        if (!reader.readSteady(cx, cy, cz)) return {};
+        return {cx.real(), cx.imag(), cy.real(), cy.imag(), cz.real(), cz.imag()};
+    }
+
     ResultFolder folder;
     const QString base = folder.path("b");
     Reader reader;
@@ -80,7 +97,7 @@ TEST_F(MultiPoint, eachGroupHasItsBitAndItsFiles) {
     for (std::size_t row = 0; row < groupRows.size(); ++row) {
         const GroupRow& group = groupRows[row];
         SCOPED_TRACE(group.fileName);
-        const bool steady = group.beginReadingOne.size() == 6;
+        const bool steady = group.isSteady();
         const auto writer = writerOf(static_cast<int>(row));
         ASSERT_TRUE(writer->beginResultWriting(base, twoPoints));
         EXPECT_TRUE(steady ? writer->beginFrequency(1e9F) : writer->beginTimestep(0));
@@ -97,12 +114,7 @@ TEST_F(MultiPoint, eachGroupHasItsBitAndItsFiles) {
             EXPECT_EQ((reader.*other.collects)(), &other == &group);
             EXPECT_EQ((reader.*other.beginReading)(), &other == &group);
         }
-        float x = 0, y = 0, z = 0;
-        std::complex<float> cx, cy, cz;
-        EXPECT_TRUE(steady ? reader.readSteady(cx, cy, cz) : reader.readTransient(x, y, z));
-        const Floats found =
-            steady ? Floats{cx.real(), cx.imag(), cy.real(), cy.imag(), cz.real(), cz.imag()} : Floats{x, y, z};
-        EXPECT_EQ(found, steady ? (Floats{1, 2, 3, 4, 5, 6}) : (Floats{1, 2, 3}));
+        EXPECT_EQ(next(group), steady ? (Floats{1, 2, 3, 4, 5, 6}) : (Floats{1, 2, 3}));
         EXPECT_TRUE(reader.endTimestep());
 
         bool (Reader::*const readParts[])(float&) = {&Reader::readSteadyXr,
@@ -113,18 +125,17 @@ TEST_F(MultiPoint, eachGroupHasItsBitAndItsFiles) {
                                                      &Reader::readSteadyZi};
         bool (Reader::*const readComponents[])(float&) = {
             &Reader::readTransientX, &Reader::readTransientY, &Reader::readTransientZ};
-        const QStringList suffixes =
-            steady ? QStringList{"xr", "xi", "yr", "yi", "zr", "zi"} : QStringList{"x", "y", "z"};
-        for (int i = 0; i < suffixes.size(); ++i) {
-            const QString name = QString(group.fileName).arg(suffixes[i]);
-            EXPECT_EQ(folder.bytes(name).toHex(), floats[i] + (i == 0 ? minusOne : QByteArray(floats[i]))) << i;
+        const QStringList files = group.files();
+        float x = 0;
+        for (int i = 0; i < files.size(); ++i) {
+            EXPECT_EQ(folder.bytes(files[i]).toHex(), floats[i] + (i == 0 ? minusOne : QByteArray(floats[i]))) << i;
             const auto readOne = steady ? readParts[i] : readComponents[i];
             EXPECT_FALSE((reader.*readOne)(x));
             EXPECT_TRUE((reader.*group.beginReadingOne[static_cast<std::size_t>(i)])() && (reader.*readOne)(x));
             EXPECT_EQ(x, i + 1);
         }
         EXPECT_TRUE(reader.endSteady() && reader.endResultReading());
-        EXPECT_EQ(folder.names().size(), 4 + suffixes.size());
+        EXPECT_EQ(folder.names().size(), 4 + files.size());
         EXPECT_TRUE(MultiPointResultDeleter().deleteResult(base));
         EXPECT_EQ(folder.names(), QStringList());
     }
@@ -133,9 +144,8 @@ TEST_F(MultiPoint, eachGroupHasItsBitAndItsFiles) {
 TEST_F(MultiPoint, geometryIsInTheOrderOfTheIndexBoxes) {
     const auto writer = writerOf(0);
     ASSERT_TRUE(writer->beginResultWriting(base, twoPoints));
-    EXPECT_EQ(folder.bytes("b_geom.bin").toHex(),
-              "01000000feffffff03000000"
-              "040000000500000006000000");
+    EXPECT_EQ(folder.bytes("b_geom.bin").toHex(' '),
+              "01 00 00 00 fe ff ff ff 03 00 00 00 04 00 00 00 05 00 00 00 06 00 00 00");
     EXPECT_FALSE(writer->writeGeometry(GridIndexBoxes(std::vector<ivec3>{{1, 1, 1}}))) << "one point is not two";
     std::vector<ivec3> points{{9, 9, 9}};
     EXPECT_TRUE(reader.beginResultReading(base) && reader.readGeometry(points));
@@ -216,6 +226,8 @@ TEST_F(MultiPoint, blocksHoldWhatIsThere) {
     EXPECT_TRUE(reader.readSteadyBlock(Reader::Xi, list));
     EXPECT_EQ(list, (Floats{-1, -2, -3})) << "the fourth is not there as a whole";
     EXPECT_TRUE(reader.readSteadyBlock(Reader::Xi, list) && list.empty());
+    folder.put("b_steady_Exi_total_freq0.bin", folder.bytes("b_steady_Exi_total_freq0.bin") + '\xC0');
+    EXPECT_TRUE(reader.readSteadyBlock(Reader::Xi, list) && list == Floats{-4}) << "now it is";
     EXPECT_TRUE(reader.beginSteadyTotalE() && reader.skipSteady(3) && reader.skipSteady(-1));
     float value = 0;
     EXPECT_TRUE(reader.readSteadyXi(value) && value == -3);
@@ -224,32 +236,40 @@ TEST_F(MultiPoint, blocksHoldWhatIsThere) {
     EXPECT_FALSE(reader.readSteadyXr(value));
 }
 
+// Of an engine that has written all components but the one in turn, which ends within its second value.
+TEST_F(MultiPoint, aReadThatFailsIsRepeatedOnceTheEngineHasGoneOn) {
+    folder.put("b_info.bin", QByteArray::fromHex("526d707400 00000041 03000000"));
+    ASSERT_TRUE(reader.beginResultReading(base) && reader.beginTimestep(0) && reader.beginFrequency(0));
+    const QByteArray values = QByteArray::fromHex(QByteArray(floats[0]) + floats[1] + floats[2]);
+    for (const GroupRow& group : {groupRows[1], groupRows[7]}) {
+        const QStringList files = group.files();
+        const auto point = [&](float value) { return Floats(group.beginReadingOne.size(), value); };
+        for (const QString& shortFile : files) {
+            for (const QString& file : files) folder.put(file, values.left(file == shortFile ? 6 : 12));
+            ASSERT_TRUE((reader.*group.beginReading)());
+            std::vector<Floats> found{next(group), next(group)};
+            for (const int size : {11, 12}) {
+                folder.put(shortFile, values.left(size));
+                found.insert(found.end(), {next(group), next(group)});
+            }
+            EXPECT_EQ(found, (std::vector<Floats>{point(1), {}, point(2), {}, point(3), {}}))
+                << shortFile.toStdString();
+        }
+    }
+}
+
 TEST_F(MultiPoint, refusedInfoFiles) {
     const auto begins = [&](const char* hex) {
         folder.put("b_info.bin", QByteArray::fromHex(hex));
         return reader.beginResultReading(base);
     };
     EXPECT_FALSE(reader.beginResultReading(base)) << "there is none";
-    EXPECT_TRUE(
-        begins("526d707400"
-               "0000e0ff"
-               "02000000"));
-    EXPECT_FALSE(
-        begins("526d707400"
-               "01000040"
-               "03000000"))
-        << "bit 0 is no group";
+    EXPECT_TRUE(begins("526d707400 0000e0ff 02000000"));
+    EXPECT_FALSE(begins("526d707400 01000040 03000000")) << "bit 0 is no group";
     EXPECT_TRUE(reader.collectTransientTotalE() && !reader.collectTransientScatteredE()) << "decoded all the same";
-    EXPECT_FALSE(
-        begins("526d707400"
-               "00001000"
-               "03000000"))
-        << "nor is bit 20";
+    EXPECT_FALSE(begins("526d707400 00001000 03000000")) << "nor is bit 20";
     EXPECT_EQ(reader.getNumberOfPoints(), 2);
-    EXPECT_FALSE(
-        begins("526d707401"
-               "00000040"
-               "02000000"));
+    EXPECT_FALSE(begins("526d707401 00000040 02000000"));
     EXPECT_FALSE(reader.readTimesteps(list)) << "nothing is known of version 1";
     EXPECT_TRUE(MultiPointResult::supportsSerializationVersion(0) &&
                 !MultiPointResult::supportsSerializationVersion(1));
@@ -281,6 +301,22 @@ TEST_F(MultiPoint, deletingTakesOneIndexMoreThanIsListed) {
     EXPECT_TRUE(MultiPointResultDeleter().deleteResult(base)) << "at once, though the list has 2^28 entries";
     EXPECT_FALSE(folder.has("b_transient_Ex_total_ts250000000.bin"));
     EXPECT_TRUE(folder.has("b_transient_Ex_total_ts000.bin") && folder.has("b_transient_Ex_total_ts-1.bin"));
+}
+
+TEST_F(MultiPoint, deletingFromAFolderThatCannotBeListedTriesNames) {
+    const QByteArray path = folder.path("").toLocal8Bit();
+    for (const int numTimes : {2, 1 << 28}) {
+        const auto writer = writerOf(1);
+        ASSERT_TRUE(writer->beginResultWriting(base, twoPoints) && writer->endResultWriting());
+        ASSERT_TRUE(QFile::resize(folder.path("b_timesteps.bin"), 4LL * numTimes));
+        for (const int i : {0, std::min(numTimes, MultiPointResultDeleter::mostIndicesTried), 100001}) {
+            folder.put(QString("b_transient_Ez_total_ts%1.bin").arg(i), "");
+        }
+        ASSERT_EQ(chmod(path, 0333), 0);
+        EXPECT_TRUE((WithoutPrivileges(), MultiPointResultDeleter().deleteResult(base)));
+        ASSERT_EQ(chmod(path, 0700), 0);
+        EXPECT_EQ(folder.names(), QStringList("b_transient_Ez_total_ts100001.bin"));
+    }
 }
 
 }  // namespace

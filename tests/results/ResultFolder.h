@@ -1,6 +1,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QByteArray>
 #include <QDir>
@@ -17,6 +18,10 @@ public:
     QString path(const QString& name) const { return m_folder.filePath(name); }
     bool has(const QString& name) const { return QFile::exists(path(name)); }
     QStringList names() const { return QDir(m_folder.path()).entryList(QDir::Files, QDir::Name); }
+
+    bool linkHard(const QString& file, const QString& link) const {
+        return ::link(path(file).toLocal8Bit(), path(link).toLocal8Bit()) == 0;
+    }
 
     QByteArray bytes(const QString& name) const {
         QFile file(path(name));

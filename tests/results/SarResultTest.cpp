@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 
+#include "Faults.h"
 #include "results/ResultFolder.h"
 
 namespace quarn::test {
@@ -12,10 +13,7 @@ namespace {
 using Records = std::vector<SarResult::Record>;
 
 const QByteArray header("!tavrixfdtdL\x0D\0\0\0", 16);
-const QByteArray record = QByteArray::fromHex(
-    "01000000"
-    "02000000"
-    "00004040");
+const QByteArray record = QByteArray::fromHex("01000000 02000000 00004040");
 
 QByteArray start(const char* hex) { return header + QByteArray::fromHex(hex); }
 
@@ -99,10 +97,7 @@ TEST_F(SarFile, refusedFilesAndPlanes) {
 }
 
 TEST_F(SarFile, combiningTakesAsManyRecordsAsAFileSays) {
-    const QByteArray other = QByteArray::fromHex(
-        "07000000"
-        "08000000"
-        "000080bf");
+    const QByteArray other = QByteArray::fromHex("07000000 08000000 000080bf");
     folder.put("a", plane(2, record + other + other));
     folder.put("b", plane(0, record));
     folder.put("c", plane(1, record));
@@ -118,24 +113,26 @@ TEST_F(SarFile, combiningTakesAsManyRecordsAsAFileSays) {
     EXPECT_EQ(folder.bytes("c").toHex(), plane(2, record + record).toHex()) << "a link stays one";
 }
 
-TEST_F(SarFile, failedCombinationsChangeNothing) {
+TEST_F(SarFile, failedCombinationsKeepWhatIsJoinedOrChangeNothing) {
     const QString a = folder.put("%2a", plane(1, record));
     const QString output = folder.put("out", "earlier");
     const QString incompatible = "Incompatible plane data found when combining output file '%1' into '%2'.";
     const QString unopened = "Failed to open temporary SAR output file '%1' for combining into '%2'.";
     const QString corrupt = "Partial SAR data file '%1' is corrupt or missing data needed for SAR output file '%2'.";
+    const QByteArray tooMany = start("0200000009000000ffffff7f");
     struct Row {
         const char* name;
         QByteArray second;
         QString error;
         const char* consequence;
+        QByteArray output = "earlier";
     };
     const Row rows[] = {
         {"another plane", start("010000000900000000000000"), incompatible, "unavailable"},
         {"another index", start("020000000800000000000000"), incompatible, "unavailable"},
         {"an empty file", "", unopened, "unavailable"},
-        {"a short file", plane(2, record + record).chopped(1), corrupt, "incomplete"},
-        {"too large a number", start("0200000009000000ffffff7f") + record, corrupt, "incomplete"},
+        {"a short file", plane(2, record + record).chopped(1), corrupt, "incomplete", plane(3, record + record)},
+        {"too large a number", tooMany + record, corrupt, "incomplete", tooMany + record + record},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -143,11 +140,19 @@ TEST_F(SarFile, failedCombinationsChangeNothing) {
         EXPECT_FALSE(combine({"%2a", "b%1"}, output));
         EXPECT_EQ(error, QString(row.error).arg(b, output));
         EXPECT_EQ(warning, QString("SAR data will be %1 on disk.").arg(row.consequence));
-        EXPECT_FALSE(combine({"%2a", "b%1"}, b)) << "the output is one of them";
-        EXPECT_EQ(folder.bytes("b%1"), row.second);
-        EXPECT_EQ(folder.bytes("out"), "earlier");
-        EXPECT_EQ(folder.names(), (QStringList{"%2a", "b%1", "out"}));
+        EXPECT_EQ(folder.bytes("out"), row.output);
+        folder.put("out", "earlier");
+        ASSERT_TRUE(QFile::link(b, folder.path("symlink")) && folder.linkHard("b%1", "link"));
+        for (const char* same : {"b%1", "./b%1", "symlink", "link"}) {
+            EXPECT_FALSE(combine({"%2a", "b%1"}, folder.path(same))) << "the output is one of them";
+            EXPECT_EQ(folder.bytes("b%1"), row.second);
+        }
+        EXPECT_EQ(folder.names(), (QStringList{"%2a", "b%1", "link", "out", "symlink"}));
+        EXPECT_TRUE(QFile::remove(folder.path("link")) && QFile::remove(folder.path("symlink")));
     }
+    ASSERT_EQ(mkfifo(folder.path("pipe").toLocal8Bit(), 0600), 0);
+    EXPECT_FALSE(combine({"%2a", "pipe"}, output)) << "and nobody is waited for";
+    EXPECT_EQ(error, unopened.arg(folder.path("pipe"), output));
     const QString creation = "Failed to create SAR output file '%1'.";
     for (const QString& nowhere : {folder.path("no/out"), folder.path(".")}) {
         EXPECT_FALSE(combine({"%2a"}, nowhere));
@@ -157,6 +162,33 @@ TEST_F(SarFile, failedCombinationsChangeNothing) {
     EXPECT_FALSE(combine({"missing"}, output)) << "there is nothing to combine";
     EXPECT_EQ(error, creation.arg(output));
     EXPECT_EQ(folder.bytes("%2a"), plane(1, record));
+}
+
+TEST_F(SarFile, combiningReportsHowManyRecordsAreJoinedUntilItIsStopped) {
+    const QString a = folder.put("a", start("0200000009000000a0860100") + record.repeated(100000));
+    const QString output = folder.put("out", "earlier");
+    for (const bool goesOn : {false, true}) {
+        std::vector<std::size_t> steps;
+        const auto reporter = [&](std::size_t done, std::size_t total) {
+            steps.push_back(done);
+            return total == 100000 && (goesOn || done == 0);
+        };
+        EXPECT_EQ(SarResult::combineFiles({a}, output, error, warning, reporter), goesOn);
+        EXPECT_EQ(steps.front() + (goesOn ? steps.back() : 100000), 100000U);
+        EXPECT_EQ(folder.bytes("out") == "earlier", !goesOn);
+    }
+    EXPECT_EQ(error + warning,
+              "Combining into SAR output file '" + output + "' was stopped.SAR data will be unavailable on disk.");
+}
+
+TEST_F(SarFile, aDiskThatFillsUpLeavesTheWholeRecordsThatFit) {
+    folder.put("a", plane(9, record.repeated(9)));
+    const QString output = folder.put("out", "earlier");
+    for (const rlim_t room : {28 + 2 * 12 + 5, 28, 27}) {
+        EXPECT_FALSE((FullDisk(room), combine({"a"}, output)));
+        EXPECT_EQ(error, QString("Failed to write data to SAR output file '%1'.").arg(output));
+        EXPECT_EQ(folder.bytes("out").toHex(), plane(9, record.repeated(room > 28 ? 2 : 0)).toHex()) << room;
+    }
 }
 
 #ifdef Q_OS_LINUX

@@ -1,29 +1,27 @@
 #include "OutputFile.h"
 
-#include <QFileInfo>
-#include <QSaveFile>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include "Console.h"
+#include "DeferredSignals.h"
 #include "InputFile.h"
+#include "quarn/FileReplacement.h"
 
 namespace quarn::tool {
 
 namespace {
 
-bool finish(QSaveFile& file) { return file.commit(); }
-
-bool finish(QFile& file) {
+bool closes(QFile& file) {
     file.close();
     return file.error() == QFileDevice::NoError;
 }
 
-template <class File>
-void writeAs(const QString& path, const QByteArray& bytes) {
-    File file(path);
-    // A commit does not look whether what is still in the buffer could be written.
+// Writes the file that stands for `path`, which is what messages name.
+void writeFor(const QString& path, const QString& fileName, const QByteArray& bytes) {
+    QFile file(fileName);
     const bool isWritten =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && finish(file);
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && closes(file);
     if (isWritten) return;
     // A disk that takes a part only gives no reason; then the text is that of a file without an error.
     const bool hasReason = file.errorString() != QFile().errorString();
@@ -34,21 +32,21 @@ void writeAs(const QString& path, const QByteArray& bytes) {
 
 void writeFile(const QString& path, const QByteArray& bytes) {
     checkName(path);
-    const QFileInfo target(path);
-    if (!target.exists() || target.isFile()) {
-        writeAs<QSaveFile>(path, bytes);
-    } else {
-        writeAs<QFile>(path, bytes);
-    }
+    const DeferredSignals deferred(path);
+    FileReplacement replacement(path);
+    if (replacement.path().isEmpty()) throw FileProblem(path, replacement.errorString());
+    writeFor(path, replacement.path(), bytes);
+    if (!deferred.isPending() && !replacement.takePlace()) throw FileProblem(path, replacement.errorString());
 }
 
 void writeFile(const QString& path, const std::function<bool(const QString& path)>& make) {
+    const DeferredSignals deferred(path);
     const QTemporaryDir folder;
     QFile made(folder.filePath(QStringLiteral("made")));
     if (!folder.isValid() || !make(made.fileName()) || !made.open(QIODevice::ReadOnly)) {
         throw FileProblem(path, QStringLiteral("no temporary file can be written for it"));
     }
-    writeFile(path, made.readAll());
+    if (!deferred.isPending()) writeFile(path, made.readAll());
 }
 
 }  // namespace quarn::tool

@@ -6,8 +6,9 @@
 
 namespace quarn::tool {
 
-/// Writes the file so that an earlier one stays as it is on any failure. What is there and no regular file, such as a
-/// device or a pipe, stays too and is written into. Throws a FileProblem.
+/// Writes the file by way of a FileReplacement: an earlier one stays as it is on any failure where it can be replaced,
+/// and a device or a pipe is written into. SIGINT and SIGTERM take effect when the file is whole or given up. Throws a
+/// FileProblem.
 void writeFile(const QString& path, const QByteArray& bytes);
 
 /// Likewise, with what `make` writes to the file that it is given; it returns false when it cannot.

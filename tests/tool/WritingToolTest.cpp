@@ -1,0 +1,98 @@
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <csignal>
+
+#include "tool/ToolFixture.h"
+
+namespace quarn::test {
+namespace {
+
+// Parts of the plane x = 7: `a` with one record, `bb` with two.
+class WritingTool : public Tool {
+protected:
+    void SetUp() override {
+        write("a", plane(1));
+        write("bb", plane(2));
+        for (const auto& [to, name] : {std::pair("a", "link"), {"loop", "loop"}, {"new", "to"}}) {
+            ASSERT_TRUE(QFile::link(to, path(name)));
+        }
+        ASSERT_EQ(link(path("a").toLocal8Bit(), path("hard").toLocal8Bit()), 0);
+        ASSERT_EQ(mkfifo(path("pipe").toLocal8Bit(), 0600), 0);
+    }
+
+    static QByteArray plane(char numRecords) {
+        const QByteArray start("!tavrixfdtdL\x0D\0\0\0\0\0\0\0\7\0\0\0", 24);
+        return start + numRecords + QByteArray(3 + 12 * numRecords, '\0');
+    }
+    QString path(const QString& name) const { return folder.filePath(name); }
+    QStringList names() const { return QDir(folder.path()).entryList(QDir::Files | QDir::System, QDir::Name); }
+};
+
+TEST_F(WritingTool, sar_combine_names_what_is_odd_and_what_is_written) {
+    const std::string none = ": does not exist; its records are not in the output\n";
+    const std::string twice =
+        ": is the same file as 'a'; its records are in the output once for each time it was given. Name each part "
+        "once.\n";
+    const std::string action =
+        "quarn: sar: Unknown action 'join'; the only one is 'combine'. See 'quarn sar --help'.\n";
+    const std::string cure = ": to use paths of 259 and more, set the environment variable KIVEN_LONGPATHSUPPORT.\n";
+    const std::string written = "out: SAR plane YZ, index 7, ";
+    const std::tuple<QString, std::string, int> rows[] = {
+        {"combine out a bb", written + "3 records\n", 0},
+        {"combine out no a never", written + "1 record\nquarn: no" + none + "quarn: never" + none, 1},
+        {"combine out ./a bb hard", written + "4 records\nquarn: hard: is the same file as './a'; its records", 1},
+        {"combine out a link bb a", written + "5 records\nquarn: link" + twice + "quarn: a" + twice, 1},
+        {"combine other no", "quarn: no" + none + "quarn: other: not written, as none of the parts exists\n", 2},
+        {"join other a", action, 2},
+        {"join", action, 2},
+        {"combine out LONGbb", "bb' has 260 characters" + cure, 2},
+        {"combine LONGother a", "other' has 263 characters" + cure, 2},
+        {"combine other a pipe", "'pipe' is not a regular file: copy what it holds into one.\n", 2},
+        {"combine loop a", "'loop': the symbolic link leads back to itself; remove it or choose another file.\n", 2},
+        {"combine no/out a", "'no/out': No such file or directory.\n", 2},
+    };
+    write("out", "");
+    const QStringList before = names();
+    for (const auto& [words, printed, status] : rows) {
+        QStringList arguments = ("sar " + words).split(' ');
+        const ToolResult result = run(arguments.replaceInStrings("LONG", QString("./").repeated(129)));
+        EXPECT_THAT(result.out + result.err, testing::HasSubstr(printed));
+        EXPECT_EQ(result.status, status);
+        EXPECT_EQ(names(), before);
+    }
+    EXPECT_EQ(read("out"), plane(5)) << "what is refused leaves it as it was";
+}
+
+// The part has holes and takes no room; joining it would take seconds.
+TEST_F(WritingTool, an_interrupted_sar_combine_leaves_the_earlier_output_alone) {
+    write("out", "earlier");
+    write("part", plane(0).replace(24, 4, QByteArray::fromHex("00e1f505")));
+    ASSERT_TRUE(QFile::resize(path("part"), 28 + 12LL * 100000000));
+    const QStringList before = names();
+    for (const int signal : {SIGINT, SIGTERM}) {
+        QProcess process;
+        process.setWorkingDirectory(folder.path());
+        process.start(QUARN_TOOL_PATH, {"sar", "combine", "out", "part"});
+        while (!QFile::exists(path("out.new0"))) ASSERT_FALSE(process.waitForFinished(1));
+        ASSERT_EQ(kill(static_cast<pid_t>(process.processId()), signal), 0);
+        ASSERT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitStatus(), QProcess::CrashExit) << "as every process that a signal ends";
+        EXPECT_EQ(process.exitCode(), signal);
+        EXPECT_EQ(process.readAll() + process.readAllStandardError(), "");
+        EXPECT_EQ(read("out"), "earlier");
+        EXPECT_EQ(names(), before);
+    }
+}
+
+TEST_F(WritingTool, rewrite_writes_to_the_end_of_links_and_for_all_hard_links) {
+    write("in", clean.toUtf8());
+    EXPECT_EQ(run({"rewrite", "in", "hard"}).status + run({"rewrite", "in", "to"}).status, 0);
+    EXPECT_EQ(read("a") + read("new"), clean.toUtf8() + clean.toUtf8());
+    EXPECT_THAT(run({"rewrite", "in", "loop"}).err, testing::StartsWith("quarn: loop: the symbolic link leads back"));
+    EXPECT_EQ(names().join(' '), "a bb hard in link loop new pipe to");
+}
+
+}  // namespace
+}  // namespace quarn::test
