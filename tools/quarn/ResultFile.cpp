@@ -31,7 +31,12 @@ ResultKind resultKindOf(const QString& path) {
     if (!isMultiPoint && magic != "!tav") return ResultKind::None;
     // That it opens is known; but a reader takes no path of any length.
     DataFileReader reader;
-    if (!reader.open(path)) throw FileProblem(path, QStringLiteral("the path is too long for a file of results"));
+    if (!reader.open(path)) {
+        throw FileProblem(path,
+                          QStringLiteral("the path of %1 characters is too long for a file of results; set the "
+                                         "environment variable KIVEN_LONGPATHSUPPORT to any value to open it")
+                              .arg(path.size()));
+    }
     return isMultiPoint ? ResultKind::MultiPoint : kindByHeader(reader);
 }
 
