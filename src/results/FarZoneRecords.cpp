@@ -12,7 +12,7 @@ namespace {
 using Angles = std::vector<FarZoneRequest::Angle>;
 using Records = std::vector<FarZoneSSFieldFile::Record>;
 
-constexpr std::size_t anglesAtOnce = 1U << 12;
+constexpr std::size_t itemsAtOnce = 1U << 12;
 constexpr double nsPerCellOfAxis = 10.0;
 constexpr double nsPerAngleChecked = 40.0;
 constexpr double nsPerRecordCopied = 10.0;
@@ -54,27 +54,28 @@ std::complex<float> narrowed(const Complex& value) {
     return {static_cast<float>(value.real()), static_cast<float>(value.imag())};
 }
 
-/// Calls `use(begin, end)` for a few thousand items after the other, each costing so many ns. False when the work was
-/// stopped.
+/// Calls `use(begin, end)` for a few thousand items at a time; an item takes so many ns beside the work that `use`
+/// reports itself. False when the work was stopped.
 template <class Use>
 bool inPieces(std::size_t count, double nsPerItem, Progress& progress, Use use) {
-    for (std::size_t begin = 0; begin < count; begin += anglesAtOnce) {
-        const std::size_t end = std::min(begin + anglesAtOnce, count);
+    for (std::size_t begin = 0; begin < count; begin += itemsAtOnce) {
+        const std::size_t end = std::min(begin + itemsAtOnce, count);
         if (!use(begin, end) || !progress.advance(static_cast<double>(end - begin) * nsPerItem)) return false;
     }
     return true;
 }
 
+/// Makes the records of a list of angles. All functions return false when the work was stopped.
 class RecordMaker {
 public:
     RecordMaker(const FarZoneBox& box, const Angles& angles, Progress& progress)
         : m_box(box), m_angles(angles), m_progress(progress) {}
 
-    /// How many directions do not point behind a conducting plane.
-    bool countAudible(std::size_t& audible) const {
-        audible = 0;
+    /// Counts the directions that do not point behind a conducting plane, where fields are 0.
+    bool countInFront(std::size_t& inFront) const {
+        inFront = 0;
         return inPieces(m_angles.size(), nsPerAngleChecked, m_progress, [&](std::size_t begin, std::size_t end) {
-            for (std::size_t i = begin; i < end; ++i) audible += isSilent(i) ? 0 : 1;
+            for (std::size_t i = begin; i < end; ++i) inFront += isBehindPlane(i) ? 0 : 1;
             return true;
         });
     }
@@ -92,12 +93,12 @@ public:
         return inPieces(m_angles.size(), nsPerRecordMade, m_progress, [&](std::size_t begin, std::size_t end) {
             directions.clear();
             for (std::size_t i = begin; i < end; ++i) {
-                if (!isSilent(i)) directions.emplace_back(m_angles[i].theta, m_angles[i].phi);
+                if (!isBehindPlane(i)) directions.emplace_back(m_angles[i].theta, m_angles[i].phi);
             }
             if (!transform.apply(directions, fields, m_progress)) return false;
             auto field = fields.cbegin();
             for (std::size_t i = begin; i < end; ++i) {
-                const FarField value = isSilent(i) ? FarField{} : *field++;
+                const FarField value = isBehindPlane(i) ? FarField{} : *field++;
                 records.push_back({m_angles[i].theta, m_angles[i].phi, narrowed(value.theta), narrowed(value.phi)});
             }
             return true;
@@ -105,7 +106,7 @@ public:
     }
 
 private:
-    bool isSilent(std::size_t i) const { return m_box.isAngleUnderGround(m_angles[i].phi, m_angles[i].theta); }
+    bool isBehindPlane(std::size_t i) const { return m_box.isAngleUnderGround(m_angles[i].phi, m_angles[i].theta); }
 
     const FarZoneBox& m_box;
     const Angles& m_angles;
@@ -117,16 +118,16 @@ private:
 bool appendFarFields(const FieldsOnSSFarZoneBox& fields, double frequency, const Angles& angles, Records& records,
                      Progress& progress) {
     const RecordMaker maker(fields.getFarZoneBox(), angles, progress);
-    std::size_t audible = 0;
-    if (!progress.begin() || !maker.countAudible(audible)) return false;
+    std::size_t inFront = 0;
+    if (!progress.begin() || !maker.countInFront(inFront)) return false;
 
     const Surface surface = surfaceOf(fields);
     for (const Axis& axis : surface.axes) {
         if (!progress.advance(static_cast<double>(axis.cells()) * nsPerCellOfAxis)) return false;
     }
     const double waveNumber = waveNumberOf(frequency);
-    const Method method = fasterMethod(surface, waveNumber, audible);
-    progress.expect(costOf(method, surface, waveNumber, audible) +
+    const Method method = fasterMethod(surface, waveNumber, inFront);
+    progress.expect(costOf(method, surface, waveNumber, inFront) +
                     static_cast<double>(angles.size()) * nsPerRecordMade +
                     static_cast<double>(records.size()) * nsPerRecordCopied);
 
