@@ -165,7 +165,9 @@ FarZoneOptions optionsFrom(const CommandLine& commandLine) {
     const auto format = imageFormatOf(options.plot);
     if (!format) throw WrongUsage(QStringLiteral("--plot needs the name of a file that ends in .svg or .png."));
     if (!canPlot(*format)) {
-        throw WrongUsage(QStringLiteral("--plot needs gnuplot, which is not installed or cannot draw such images."));
+        throw WrongUsage(
+            QStringLiteral("--plot needs gnuplot, which is not installed or cannot draw such images; install it, or "
+                           "leave --plot out."));
     }
     return options;
 }
