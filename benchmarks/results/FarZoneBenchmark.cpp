@@ -40,9 +40,11 @@ std::vector<Direction> sphere() {
 }
 
 std::vector<FarField> fieldsBy(Method method, const Surface& surface, const std::vector<Direction>& directions) {
-    Progress progress(nullptr, directions.size(), costOf(method, surface, waveNumber, directions.size()));
-    std::vector<FarField> fields(directions.size());
-    transform(surface, waveNumber, method, directions, progress, fields);
+    Progress progress(nullptr);
+    std::vector<FarField> fields;
+    Transform transform(surface, waveNumber, method);
+    transform.prepare(progress);
+    transform.apply(directions, fields, progress);
     return fields;
 }
 
@@ -53,10 +55,11 @@ struct Reference {
 
     Reference(const Surface& surface, const std::vector<Direction>& directions) {
         constexpr std::size_t count = 6;
-        Progress progress(nullptr, 1, 1.0);
+        Progress progress(nullptr);
         DirectSum direct(surface, waveNumber);
         Spectrum spectrum(surface, waveNumber);
-        spectrum.sample(progress);
+        direct.prepare(progress);
+        spectrum.prepare(progress);
         double peaks[6] = {};
         double byDirect[6] = {};
         double bySampled[6] = {};
@@ -69,7 +72,8 @@ struct Reference {
             FaceSums sums;
             direct.evaluate(&direction, 1, &sums, progress);
             compare(expected, sums, byDirect, peaks);
-            compare(expected, spectrum.sumsAt(direction), bySampled, peaks);
+            spectrum.evaluate(&direction, 1, &sums, progress);
+            compare(expected, sums, bySampled, peaks);
         }
         secondsPerDirection = seconds / static_cast<double>(count);
         isMet = true;
@@ -114,9 +118,9 @@ void transformToDirections(benchmark::State& state, std::vector<Direction> direc
     state.counters["model ms"] = costOf(method, surface, waveNumber, directions.size()) * 1e-6;
     if (method == Method::Sampled) {
         const double start = processorSeconds();
-        Progress progress(nullptr, 1, 1.0);
+        Progress progress(nullptr);
         Spectrum spectrum(surface, waveNumber);
-        spectrum.sample(progress);
+        spectrum.prepare(progress);
         state.counters["share sampling"] = (processorSeconds() - start) / seconds;
     }
 }

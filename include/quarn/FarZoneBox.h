@@ -20,6 +20,9 @@ public:
     /// A face of the box. The face of an invalid box may be one that was considered before it turned out invalid.
     enum Face : std::uint32_t { XLower = 0, YLower = 1, ZLower = 2, XUpper = 3, YUpper = 4, ZUpper = 5, NoFace = 6 };
 
+    /// An invalid box.
+    FarZoneBox() = default;
+
     /// The boundary conditions answer for the types that they have cached.
     FarZoneBox(const BoundaryConditions& boundaries, const Grid& grid);
 
@@ -73,7 +76,7 @@ private:
     void useImageAt(Face face);
     void setCenter(const Grid& grid);
 
-    bool m_isValid = true;
+    bool m_isValid = false;
     bool m_useImage = false;
     Face m_imageFace = NoFace;
     Axis m_x;

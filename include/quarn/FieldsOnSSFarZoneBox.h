@@ -35,6 +35,13 @@ public:
     /// more than the file holds. An invalid box has no cells.
     FieldsOnSSFarZoneBox(const Grid& grid, const QString& path, const FarZoneBox& box, QString& errorMessage);
 
+    FieldsOnSSFarZoneBox(const FieldsOnSSFarZoneBox& other) = default;
+    FieldsOnSSFarZoneBox& operator=(const FieldsOnSSFarZoneBox& other) = default;
+
+    /// What is moved from holds an invalid box, no cells and no fields, and is not complete.
+    FieldsOnSSFarZoneBox(FieldsOnSSFarZoneBox&& other) noexcept;
+    FieldsOnSSFarZoneBox& operator=(FieldsOnSSFarZoneBox&& other) noexcept;
+
     /// To be called, for a box that touches a perfectly conducting plane, before its far fields are computed. The
     /// mirrored fields need no lists of their own, as the box's own are summed a second time with the signs of the
     /// image; this makes sure that they can be.
@@ -51,13 +58,13 @@ public:
     std::uint32_t getNumberInY() const { return m_box.getNumberInY(); }
     std::uint32_t getNumberInZ() const { return m_box.getNumberInZ(); }
 
-    /// The sizes of the cells, from the lower face to the upper one. Indices are not checked.
+    /// The sizes of the cells, from the lower face to the upper one; 0 where there is no cell of that index.
     const std::vector<float>& getXDeltas() const { return m_axes[0].deltas; }
     const std::vector<float>& getYDeltas() const { return m_axes[1].deltas; }
     const std::vector<float>& getZDeltas() const { return m_axes[2].deltas; }
-    float getXDelta(int i) const { return m_axes[0].deltas[static_cast<std::size_t>(i)]; }
-    float getYDelta(int j) const { return m_axes[1].deltas[static_cast<std::size_t>(j)]; }
-    float getZDelta(int k) const { return m_axes[2].deltas[static_cast<std::size_t>(k)]; }
+    float getXDelta(int i) const { return m_axes[0].delta(i); }
+    float getYDelta(int j) const { return m_axes[1].delta(j); }
+    float getZDelta(int k) const { return m_axes[2].delta(k); }
 
     /// From the box's lower face to its centre, and from the centre to its upper face. They differ on a graded grid.
     double getXDistanceToX() const { return m_axes[0].toLowerFace; }
@@ -114,6 +121,11 @@ private:
         std::vector<double> toMiddles;
         double toLowerFace = 0.0;
         double toUpperFace = 0.0;
+
+        float delta(int cell) const {
+            const auto index = static_cast<std::size_t>(cell);
+            return index < deltas.size() ? deltas[index] : 0.0F;
+        }
     };
 
     QString build(const Grid& grid, const QString& path);

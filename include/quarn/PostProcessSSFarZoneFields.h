@@ -35,8 +35,9 @@ public:
     /// exact to 1e-7 of the largest field. The faster way is taken.
     ///
     /// False, with the records as they were, when there are no fields, when they are not complete
-    /// (FieldsOnSSFarZoneBox::isComplete), or when the reporter asked to stop. The reporter hears of directions, or of
-    /// the equivalent share of the preparations for them.
+    /// (FieldsOnSSFarZoneBox::isComplete), or when the reporter asked to stop. The reporter is called at the beginning,
+    /// at the end and about twenty times a second in between, preparations included; it is told a number of directions,
+    /// or the equivalent share of the preparations for them.
     bool computeFields(const std::vector<FarZoneRequest::Angle>& angles,
                        std::vector<FarZoneSSFieldFile::Record>& records,
                        const ProgressReporter& reporter = nullptr) const;

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "results/FarZoneLanes.h"
-#include "results/FarZoneProgress.h"
-#include "results/FarZoneSurface.h"
+#include "results/FarZoneSummation.h"
 
 namespace quarn::farzone {
 
@@ -11,21 +10,19 @@ namespace quarn::farzone {
 /// The phase of a cell is the sum of one phase for each axis, and its weight the product of one for each in-plane axis.
 /// So a direction needs a table of phasors for each axis, and a face becomes a sum over the rows of sums along the
 /// rows. The cost is that of one phasor for each cell and direction, about 4 ns.
-class DirectSum {
+class DirectSum : public FaceSummation {
 public:
-    /// Directions that share the conversion of a row.
-    static constexpr std::size_t blockSize = 16;
-
     /// The surface must outlive the sum.
-    DirectSum(const Surface& surface, double waveNumber);
+    DirectSum(const Surface& surface, double waveNumber) : m_surface(surface), m_waveNumber(waveNumber) {}
 
-    /// Fills `sums` for `count` unit vectors, at most blockSize. False when the work was stopped.
-    bool evaluate(const Vector* directions, std::size_t count, FaceSums* sums, Progress& progress);
+    bool prepare(Progress& progress) override;
+    bool evaluate(const Vector* directions, std::size_t count, FaceSums* sums, Progress& progress) override;
 
     /// Estimated time in ns for all directions.
     static double cost(const Surface& surface, double numDirections);
 
 private:
+    bool fillPhasors(std::size_t axis, double u, Phasor* phasors, Progress& progress) const;
     bool sumRows(std::size_t normal, Side side, std::size_t count, Progress& progress);
     ComponentSums faceSum(std::size_t normal, Side side, std::size_t d, const Vector& direction);
     Phasor* phasors(std::size_t axis, std::size_t d) {

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstddef>
-#include <vector>
 
 #include "results/FarZoneSurface.h"
 
@@ -50,14 +49,14 @@ inline LaneSums sumOf(const Lanes* samples, const Phasor* phasors, std::size_t c
     return sums;
 }
 
-/// One row of a face along its lower in-plane axis, the components of a cell side by side.
-inline void gatherRow(const Face& face, std::size_t row, std::vector<Lanes>& samples) {
-    const std::size_t begin = row * samples.size();
+/// One row of a face along its lower in-plane axis, which has so many cells, the components of a cell side by side.
+inline void gatherRow(const Face& face, std::size_t row, std::size_t cells, Lanes* samples) {
+    const std::size_t begin = row * cells;
     const auto* const first = face.samples[0] + begin;
     const auto* const second = face.samples[1] + begin;
     const auto* const third = face.samples[2] + begin;
     const auto* const fourth = face.samples[3] + begin;
-    for (std::size_t i = 0; i < samples.size(); ++i) {
+    for (std::size_t i = 0; i < cells; ++i) {
         samples[i] = {first[i].real(),
                       first[i].imag(),
                       second[i].real(),

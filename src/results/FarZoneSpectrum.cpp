@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace quarn::farzone {
@@ -67,7 +68,26 @@ double lastSample(const Axis& axis, double waveNumber) {
     return std::ceil(samplesWithin(extentOf(axis).half, waveNumber)) + static_cast<double>(halfTaps);
 }
 
+/// Those of the three axes.
+std::array<double, numAxes> lastSamples(const Surface& surface, double waveNumber) {
+    return {lastSample(surface.axes[0], waveNumber),
+            lastSample(surface.axes[1], waveNumber),
+            lastSample(surface.axes[2], waveNumber)};
+}
+
 double cellsOf(const Surface& surface, std::size_t axis) { return static_cast<double>(surface.axes[axis].cells()); }
+
+double memoryFor(const Surface& surface, const std::array<double, numAxes>& last) {
+    double bytes = 0.0;
+    for (std::size_t normal = 0; normal < numAxes; ++normal) {
+        const auto [a, b] = inPlaneAxes(normal);
+        const double samplesA = 2.0 * last[a] + 1.0;
+        const double samplesB = 2.0 * last[b] + 1.0;
+        bytes += samplesA * (samplesB * 2.0 * sizeof(Lanes) + cellsOf(surface, b) * sizeof(Lanes));
+        bytes += (last[normal] + 1.0) * cellsOf(surface, normal) * sizeof(Phasor);
+    }
+    return bytes;
+}
 
 double costOfRow(double cellsA, double lastA) { return cellsA * (nsPerGatheredCell + (lastA + 1.0) * nsPerPhasor); }
 double costOfColumn(double cellsB, double lastB) { return cellsB * (lastB + 1.0) * nsPerPhasor; }
@@ -82,6 +102,17 @@ void addPhasors(double amplitude, double angle, std::size_t stride, std::size_t 
         column[m * stride].sine += phasor.sine;
         phasor = {phasor.cosine * cosine - phasor.sine * sine, phasor.cosine * sine + phasor.sine * cosine};
     }
+}
+
+bool isFinite(const Vector& v) { return std::isfinite(v[0] + v[1] + v[2]); }
+
+FaceSums notNumbers() {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    FaceSums sums;
+    for (auto& pair : sums) {
+        for (ComponentSums& face : pair) face.fill({nan, nan});
+    }
+    return sums;
 }
 
 /// The weighted sum of rows of numbers that begin `stride` numbers apart. All numbers of a row are summed side by side,
@@ -103,21 +134,18 @@ Spectrum::Spectrum(const Surface& surface, double waveNumber) : m_surface(surfac
         m_samplings[axis] = {waveNumber * extent.middle,
                              1.0 / samplesWithin(extent.half, waveNumber),
                              static_cast<std::size_t>(lastSample(surface.axes[axis], waveNumber))};
-        fillPhasors(axis, waveNumber);
     }
 }
 
 double Spectrum::samplingCost(const Surface& surface, double waveNumber) {
-    double cost = nsPerWindow;
+    const auto last = lastSamples(surface, waveNumber);
+    double cost = nsPerWindow + memoryFor(surface, last) * nsPerNewByte;
     for (std::size_t normal = 0; normal < numAxes; ++normal) {
         const auto [a, b] = inPlaneAxes(normal);
-        const double lastA = lastSample(surface.axes[a], waveNumber);
-        const double lastB = lastSample(surface.axes[b], waveNumber);
-        const double lastN = lastSample(surface.axes[normal], waveNumber);
         cost += static_cast<double>(surface.pairs[normal].numberSummed()) *
-                (cellsOf(surface, b) * costOfRow(cellsOf(surface, a), lastA) +
-                 (2.0 * lastA + 1.0) * costOfColumn(cellsOf(surface, b), lastB));
-        cost += (cellsOf(surface, normal) + lastN) * (lastN + 1.0) * nsPerTabulatedPhasor;
+                (cellsOf(surface, b) * costOfRow(cellsOf(surface, a), last[a]) +
+                 (2.0 * last[a] + 1.0) * costOfColumn(cellsOf(surface, b), last[b]));
+        cost += (cellsOf(surface, normal) + last[normal]) * (last[normal] + 1.0) * nsPerTabulatedPhasor;
     }
     return cost;
 }
@@ -127,24 +155,18 @@ double Spectrum::lookupCost() {
 }
 
 double Spectrum::memory(const Surface& surface, double waveNumber) {
-    double bytes = 0.0;
-    for (std::size_t normal = 0; normal < numAxes; ++normal) {
-        const auto [a, b] = inPlaneAxes(normal);
-        const double samplesA = 2.0 * lastSample(surface.axes[a], waveNumber) + 1.0;
-        const double samplesB = 2.0 * lastSample(surface.axes[b], waveNumber) + 1.0;
-        bytes += samplesA * (samplesB * sizeof(Sample) + cellsOf(surface, b) * sizeof(Lanes));
-        bytes += samplesA * cellsOf(surface, a) * sizeof(Phasor);
-    }
-    return bytes;
+    return memoryFor(surface, lastSamples(surface, waveNumber));
 }
 
 // A cell counts as a whole: panels of quadrature, short enough for the fastest sample, run over it. At each point the
 // window's transform is divided out.
-void Spectrum::fillPhasors(std::size_t axis, double waveNumber) {
+bool Spectrum::fillPhasors(std::size_t axis, Progress& progress) {
     const Axis& cells = m_surface.axes[axis];
     const Sampling& sampling = m_samplings[axis];
-    m_phasors[axis].assign((sampling.last + 1) * cells.cells(), {});
-    const double anglePerLength = waveNumber * sampling.spacing;
+    const std::size_t count = sampling.last + 1;
+    if (!fillWithZeros(m_phasors[axis], count * cells.cells(), progress)) return false;
+    const double costOfPoint = static_cast<double>(count) * nsPerTabulatedPhasor / (2.0 * std::size(gauss));
+    const double anglePerLength = m_waveNumber * sampling.spacing;
     const double fastest = (static_cast<double>(sampling.last) + windowSlope) * anglePerLength;
     for (std::size_t i = 0; i < cells.cells(); ++i) {
         const double halfSize = 0.5 * cells.sizes[i];
@@ -156,22 +178,31 @@ void Spectrum::fillPhasors(std::size_t axis, double waveNumber) {
                 for (const double side : {-1.0, 1.0}) {
                     const double angle =
                         anglePerLength * (middle + side * point * halfPanel) - sampling.centre * sampling.spacing;
-                    addPhasors(weight * halfPanel / Window::transform(angle),
-                               angle,
-                               cells.cells(),
-                               sampling.last + 1,
-                               m_phasors[axis].data() + i);
+                    const double amplitude = weight * halfPanel / Window::transform(angle);
+                    addPhasors(amplitude, angle, cells.cells(), count, m_phasors[axis].data() + i);
+                    if (!progress.advance(costOfPoint)) return false;
                 }
             }
         }
     }
+    return true;
 }
 
-bool Spectrum::sample(Progress& progress) {
+bool Spectrum::prepare(Progress& progress) {
+    if (!progress.advance(nsPerWindow)) return false;
+    std::size_t longest = 0;
+    for (std::size_t axis = 0; axis < numAxes; ++axis) {
+        if (!fillPhasors(axis, progress)) return false;
+        longest = std::max(longest, m_surface.axes[axis].cells());
+    }
+    if (!fillWithZeros(m_row, longest, progress)) return false;
     for (std::size_t normal = 0; normal < numAxes; ++normal) {
         const auto [a, b] = inPlaneAxes(normal);
-        m_samples[normal].assign(m_samplings[a].samples() * m_samplings[b].samples() * sampleSize, 0.0);
-        m_columns.resize(m_samplings[a].samples() * m_surface.axes[b].cells());
+        const std::size_t samplesA = m_samplings[a].samples();
+        if (!fillWithZeros(m_samples[normal], samplesA * m_samplings[b].samples() * sampleSize, progress) ||
+            !fillWithZeros(m_columns, samplesA * m_surface.axes[b].cells(), progress)) {
+            return false;
+        }
         for (const Side side : {Lower, Upper}) {
             if (!m_surface.pairs[normal].faces[side].isSummed) continue;
             if (!sampleRows(normal, side, progress) || !sampleColumns(normal, side, progress)) return false;
@@ -186,16 +217,15 @@ bool Spectrum::sampleRows(std::size_t normal, Side side, Progress& progress) {
     const std::size_t cells = m_surface.axes[a].cells();
     const std::size_t rows = m_surface.axes[b].cells();
     const std::size_t last = m_samplings[a].last;
-    const double rowCost = costOfRow(static_cast<double>(cells), static_cast<double>(last));
-    m_row.resize(cells);
     for (std::size_t row = 0; row < rows; ++row) {
-        gatherRow(m_surface.pairs[normal].faces[side], row, m_row);
+        gatherRow(m_surface.pairs[normal].faces[side], row, cells, m_row.data());
+        if (!progress.advance(static_cast<double>(cells) * nsPerGatheredCell)) return false;
         for (std::size_t m = 0; m <= last; ++m) {
             const LaneSums sums = sumOf(m_row.data(), m_phasors[a].data() + m * cells, cells);
             m_columns[(last + m) * rows + row] = sums.withPhase();
             m_columns[(last - m) * rows + row] = sums.withOppositePhase();
+            if (!progress.advance(static_cast<double>(cells) * nsPerPhasor)) return false;
         }
-        if (!progress.advance(rowCost)) return false;
     }
     return true;
 }
@@ -206,7 +236,6 @@ bool Spectrum::sampleColumns(std::size_t normal, Side side, Progress& progress) 
     const std::size_t cells = m_surface.axes[b].cells();
     const std::size_t columns = m_samplings[a].samples();
     const std::size_t last = m_samplings[b].last;
-    const double columnCost = costOfColumn(static_cast<double>(cells), static_cast<double>(last));
     const auto store = [&](std::size_t row, std::size_t column, const Lanes& lanes) {
         double* const sample = m_samples[normal].data() + (row * columns + column) * sampleSize;
         std::copy(lanes.begin(), lanes.end(), sample + side * numLanes);
@@ -216,10 +245,15 @@ bool Spectrum::sampleColumns(std::size_t normal, Side side, Progress& progress) 
             const LaneSums sums = sumOf(m_columns.data() + column * cells, m_phasors[b].data() + m * cells, cells);
             store(last + m, column, sums.withPhase());
             store(last - m, column, sums.withOppositePhase());
+            if (!progress.advance(static_cast<double>(cells) * nsPerPhasor)) return false;
         }
-        if (!progress.advance(columnCost)) return false;
     }
     return true;
+}
+
+bool Spectrum::evaluate(const Vector* directions, std::size_t count, FaceSums* sums, Progress& progress) {
+    for (std::size_t d = 0; d < count; ++d) sums[d] = isFinite(directions[d]) ? sumsAt(directions[d]) : notNumbers();
+    return progress.advance(static_cast<double>(count) * lookupCost());
 }
 
 // The in-plane components of the direction choose the samples, the phase of the cells' middle and of the two faces

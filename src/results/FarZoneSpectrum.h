@@ -1,8 +1,7 @@
 #pragma once
 
 #include "results/FarZoneLanes.h"
-#include "results/FarZoneProgress.h"
-#include "results/FarZoneSurface.h"
+#include "results/FarZoneSummation.h"
 #include "results/FarZoneWindow.h"
 
 namespace quarn::farzone {
@@ -19,18 +18,16 @@ namespace quarn::farzone {
 /// The interpolation's error is some exp(-pi taps sqrt(1 - 1/oversampling)) of the sum of all samples' magnitudes. Ten
 /// taps keep it below 1e-7 of a face's largest sum, whatever the cells and the size of the box, even where the samples
 /// cancel to a hundredth: it is 1e-9 where they do not.
-class Spectrum {
+class Spectrum : public FaceSummation {
 public:
     /// The surface must outlive the sampling. The wave number is above 0.
     Spectrum(const Surface& surface, double waveNumber);
 
-    /// To be done once, before anything is looked up. False when the work was stopped.
-    bool sample(Progress& progress);
+    /// Takes the samples.
+    bool prepare(Progress& progress) override;
+    bool evaluate(const Vector* directions, std::size_t count, FaceSums* sums, Progress& progress) override;
 
-    /// For a unit vector of finite components.
-    FaceSums sumsAt(const Vector& direction) const;
-
-    /// Estimated time in ns of sampling, and of one lookup; bytes that the samples take.
+    /// Estimated time in ns of taking the samples, and of looking one direction up; bytes that the samples take.
     static double samplingCost(const Surface& surface, double waveNumber);
     static double lookupCost();
     static double memory(const Surface& surface, double waveNumber);
@@ -56,9 +53,10 @@ private:
     static constexpr std::size_t sampleSize = 2 * numLanes;
     using Sample = std::array<double, sampleSize>;
 
-    void fillPhasors(std::size_t axis, double waveNumber);
+    bool fillPhasors(std::size_t axis, Progress& progress);
     bool sampleRows(std::size_t normal, Side side, Progress& progress);
     bool sampleColumns(std::size_t normal, Side side, Progress& progress);
+    FaceSums sumsAt(const Vector& direction) const;
     Neighbours neighboursOf(std::size_t axis, double component) const;
     Sample interpolated(std::size_t normal, const Neighbours& a, const Neighbours& b) const;
 

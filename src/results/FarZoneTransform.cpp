@@ -24,7 +24,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "results/FarZoneDirectSum.h"
 #include "results/FarZoneSpectrum.h"
@@ -96,10 +95,9 @@ FarField farFieldOf(const Radiation& radiation, const Direction& direction, doub
 /// What is looked up: the box in the direction, and where there is an image, in the mirrored direction next to it.
 std::size_t lookupsPerDirection(const Surface& surface) { return surface.isMirrored() ? 2 : 1; }
 
-std::size_t putLookups(const Surface& surface, const Direction& direction, Vector* lookups) {
+void putLookups(const Surface& surface, const Direction& direction, Vector* lookups) {
     lookups[0] = direction.r;
     if (surface.isMirrored()) lookups[1] = mirrored(direction.r, surface.mirrorAxis);
-    return lookupsPerDirection(surface);
 }
 
 FarField farFieldFrom(const Surface& surface, double waveNumber, const Direction& direction, const FaceSums* sums) {
@@ -108,51 +106,9 @@ FarField farFieldFrom(const Surface& surface, double waveNumber, const Direction
     return farFieldOf(radiation, direction, waveNumber);
 }
 
-bool transformDirectly(const Surface& surface, double waveNumber, const std::vector<Direction>& directions,
-                       Progress& progress, std::vector<FarField>& fields) {
-    DirectSum direct(surface, waveNumber);
-    std::array<Vector, DirectSum::blockSize> lookups;
-    std::array<FaceSums, DirectSum::blockSize> sums;
-    const std::size_t step = lookupsPerDirection(surface);
-    const std::size_t block = DirectSum::blockSize / step;
-    for (std::size_t begin = 0; begin < directions.size(); begin += block) {
-        const std::size_t count = std::min(block, directions.size() - begin);
-        for (std::size_t i = 0; i < count; ++i) putLookups(surface, directions[begin + i], &lookups[i * step]);
-        if (!direct.evaluate(lookups.data(), count * step, sums.data(), progress)) return false;
-        for (std::size_t i = 0; i < count; ++i) {
-            fields[begin + i] = farFieldFrom(surface, waveNumber, directions[begin + i], &sums[i * step]);
-        }
-    }
-    return true;
-}
-
-bool isFinite(const Vector& v) { return std::isfinite(v[0] + v[1] + v[2]); }
-
-FarField notANumber() {
-    const Complex nan(std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::quiet_NaN());
-    return {nan, nan};
-}
-
-bool transformSampled(const Surface& surface, double waveNumber, const std::vector<Direction>& directions,
-                      Progress& progress, std::vector<FarField>& fields) {
-    Spectrum spectrum(surface, waveNumber);
-    if (!spectrum.sample(progress)) return false;
-    constexpr std::size_t directionsPerReport = 256;
-    const double cost =
-        Spectrum::lookupCost() * static_cast<double>(directionsPerReport * lookupsPerDirection(surface));
-    for (std::size_t i = 0; i < directions.size(); ++i) {
-        if (i % directionsPerReport == directionsPerReport - 1 && !progress.advance(cost)) return false;
-        if (!isFinite(directions[i].r)) {
-            fields[i] = notANumber();
-            continue;
-        }
-        Vector lookups[2];
-        FaceSums sums[2];
-        const std::size_t count = putLookups(surface, directions[i], lookups);
-        for (std::size_t lookup = 0; lookup < count; ++lookup) sums[lookup] = spectrum.sumsAt(lookups[lookup]);
-        fields[i] = farFieldFrom(surface, waveNumber, directions[i], sums);
-    }
-    return true;
+std::unique_ptr<FaceSummation> summationBy(Method method, const Surface& surface, double waveNumber) {
+    if (method == Method::Direct) return std::make_unique<DirectSum>(surface, waveNumber);
+    return std::make_unique<Spectrum>(surface, waveNumber);
 }
 
 }  // namespace
@@ -182,10 +138,24 @@ double costOf(Method method, const Surface& surface, double waveNumber, std::siz
     return Spectrum::samplingCost(surface, waveNumber) + lookups * Spectrum::lookupCost();
 }
 
-bool transform(const Surface& surface, double waveNumber, Method method, const std::vector<Direction>& directions,
-               Progress& progress, std::vector<FarField>& fields) {
-    return method == Method::Direct ? transformDirectly(surface, waveNumber, directions, progress, fields)
-                                    : transformSampled(surface, waveNumber, directions, progress, fields);
+Transform::Transform(const Surface& surface, double waveNumber, Method method)
+    : m_surface(surface), m_waveNumber(waveNumber), m_summation(summationBy(method, surface, waveNumber)) {}
+
+bool Transform::apply(const std::vector<Direction>& directions, std::vector<FarField>& fields, Progress& progress) {
+    std::array<Vector, FaceSummation::blockSize> lookups;
+    std::array<FaceSums, FaceSummation::blockSize> sums;
+    const std::size_t step = lookupsPerDirection(m_surface);
+    const std::size_t block = FaceSummation::blockSize / step;
+    fields.resize(directions.size());
+    for (std::size_t begin = 0; begin < directions.size(); begin += block) {
+        const std::size_t count = std::min(block, directions.size() - begin);
+        for (std::size_t i = 0; i < count; ++i) putLookups(m_surface, directions[begin + i], &lookups[i * step]);
+        if (!m_summation->evaluate(lookups.data(), count * step, sums.data(), progress)) return false;
+        for (std::size_t i = 0; i < count; ++i) {
+            fields[begin + i] = farFieldFrom(m_surface, m_waveNumber, directions[begin + i], &sums[i * step]);
+        }
+    }
+    return true;
 }
 
 }  // namespace quarn::farzone

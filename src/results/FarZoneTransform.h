@@ -1,10 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <vector>
 
-#include "results/FarZoneProgress.h"
-#include "results/FarZoneSurface.h"
+#include "results/FarZoneSummation.h"
 
 namespace quarn::farzone {
 
@@ -37,9 +37,23 @@ double waveNumberOf(double frequency);
 /// Estimated time in ns of all directions, the work that a transformation reports.
 double costOf(Method method, const Surface& surface, double waveNumber, std::size_t numDirections);
 
-/// The far fields of the surface's currents, with those of its mirror image if it has one; `fields` has as many as
-/// there are directions. False when the work was stopped, which leaves the fields in any state.
-bool transform(const Surface& surface, double waveNumber, Method method, const std::vector<Direction>& directions,
-               Progress& progress, std::vector<FarField>& fields);
+/// The far fields of a surface's currents, with those of its mirror image if it has one.
+class Transform {
+public:
+    /// The surface must outlive the transformation.
+    Transform(const Surface& surface, double waveNumber, Method method);
+
+    /// To be done once, before apply(). False when the work was stopped.
+    bool prepare(Progress& progress) { return m_summation->prepare(progress); }
+
+    /// Puts a field for each direction in place of what the list held. False when the work was stopped, which leaves
+    /// the fields in any state.
+    bool apply(const std::vector<Direction>& directions, std::vector<FarField>& fields, Progress& progress);
+
+private:
+    const Surface& m_surface;
+    double m_waveNumber;
+    std::unique_ptr<FaceSummation> m_summation;
+};
 
 }  // namespace quarn::farzone

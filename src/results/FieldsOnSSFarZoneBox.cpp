@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <iterator>
 #include <new>
+#include <utility>
 
 #include "quarn/DataFileReader.h"
 #include "quarn/FarZoneFieldFiles.h"
@@ -78,6 +79,22 @@ FieldsOnSSFarZoneBox::FieldsOnSSFarZoneBox(const Grid& grid, const QString& path
     const QString problem = build(grid, path);
     m_isComplete = problem.isEmpty();
     if (!m_isComplete) errorMessage = problem;
+}
+
+FieldsOnSSFarZoneBox::FieldsOnSSFarZoneBox(FieldsOnSSFarZoneBox&& other) noexcept
+    : m_box(std::exchange(other.m_box, FarZoneBox())),
+      m_axes(std::exchange(other.m_axes, {})),
+      m_faces(std::exchange(other.m_faces, {})),
+      m_isComplete(std::exchange(other.m_isComplete, false)) {}
+
+// By way of a third object, so that one that is assigned to itself stays as it is.
+FieldsOnSSFarZoneBox& FieldsOnSSFarZoneBox::operator=(FieldsOnSSFarZoneBox&& other) noexcept {
+    FieldsOnSSFarZoneBox taken(std::move(other));
+    m_box = taken.m_box;
+    m_axes.swap(taken.m_axes);
+    m_faces.swap(taken.m_faces);
+    m_isComplete = taken.m_isComplete;
+    return *this;
 }
 
 // Returns what went wrong.

@@ -74,17 +74,18 @@ class FarZoneSums : public testing::TestWithParam<Shape> {
 protected:
     SampledBox box{GetParam().sizes, GetParam().corner, twoPi};
     Surface& surface = box.surface();
-    farzone::Progress progress{nullptr, 1, 1.0};
     std::vector<Direction> directions = randomDirections(300);
 
     /// The largest deviation of a face's sums from the reference, in units of the largest sum of that face.
-    template <class SumsOf>
-    double deviation(SumsOf sumsOf) const {
+    double deviation(farzone::FaceSummation&& summation) const {
+        farzone::Progress progress(nullptr);
+        EXPECT_TRUE(summation.prepare(progress));
         double peaks[6] = {};
         double deviations[6] = {};
         for (const Direction& direction : directions) {
             const FaceSums expected = referenceSums(surface, twoPi, direction.r);
-            const FaceSums found = sumsOf(direction.r);
+            FaceSums found;
+            EXPECT_TRUE(summation.evaluate(&direction.r, 1, &found, progress));
             for (std::size_t face = 0; face < 6; ++face) {
                 for (std::size_t component = 0; component < farzone::numComponents; ++component) {
                     const auto& value = expected[face / 2][face % 2][component];
@@ -102,28 +103,19 @@ protected:
     }
 };
 
-TEST_P(FarZoneSums, are_exact_when_summed_directly) {
-    farzone::DirectSum direct(surface, twoPi);
-    EXPECT_LT(deviation([&](const Vector& direction) {
-                  FaceSums sums;
-                  EXPECT_TRUE(direct.evaluate(&direction, 1, &sums, progress));
-                  return sums;
-              }),
-              1e-12);
-}
+TEST_P(FarZoneSums, are_exact_when_summed_directly) { EXPECT_LT(deviation(farzone::DirectSum(surface, twoPi)), 1e-12); }
 
 TEST_P(FarZoneSums, are_within_the_error_bound_when_sampled) {
-    farzone::Spectrum spectrum(surface, twoPi);
-    ASSERT_TRUE(spectrum.sample(progress));
-    EXPECT_LT(deviation([&](const Vector& direction) { return spectrum.sumsAt(direction); }), 2e-9);
+    EXPECT_LT(deviation(farzone::Spectrum(surface, twoPi)), 2e-9);
 }
 
 INSTANTIATE_TEST_SUITE_P(, FarZoneSums, testing::ValuesIn(shapes), rowName<Shape>);
 
 std::vector<FarField> fieldsBy(Method method, const Surface& surface, const std::vector<Direction>& directions) {
-    std::vector<FarField> fields(directions.size());
-    farzone::Progress progress(nullptr, directions.size(), farzone::costOf(method, surface, twoPi, directions.size()));
-    EXPECT_TRUE(farzone::transform(surface, twoPi, method, directions, progress, fields));
+    std::vector<FarField> fields;
+    farzone::Progress progress(nullptr);
+    farzone::Transform transform(surface, twoPi, method);
+    EXPECT_TRUE(transform.prepare(progress) && transform.apply(directions, fields, progress));
     return fields;
 }
 
@@ -194,26 +186,6 @@ TEST(FarZoneTransform, does_not_sample_cells_that_are_nowhere) {
     SampledBox box(shapes[0].sizes, shapes[0].corner, twoPi);
     box.surface().axes[1].middles[3] = std::numeric_limits<double>::quiet_NaN();
     EXPECT_EQ(farzone::fasterMethod(box.surface(), twoPi, 65160), Method::Direct);
-}
-
-TEST(FarZoneTransform, stops_at_once_when_told_to) {
-    SampledBox box(shapes[3].sizes, shapes[3].corner, twoPi);
-    const std::vector<Direction> directions = randomDirections(2000);
-    for (const Method method : {Method::Direct, Method::Sampled}) {
-        int calls = 0;
-        std::size_t last = 0;
-        const auto stop = [&](std::size_t done, std::size_t) {
-            ++calls;
-            last = done;
-            return false;
-        };
-        const double cost = farzone::costOf(method, box.surface(), twoPi, directions.size());
-        farzone::Progress progress(stop, directions.size(), cost);
-        std::vector<FarField> fields(directions.size());
-        EXPECT_FALSE(farzone::transform(box.surface(), twoPi, method, directions, progress, fields));
-        EXPECT_EQ(calls, 1);
-        EXPECT_LT(last, directions.size() / 10);
-    }
 }
 
 }  // namespace

@@ -165,15 +165,37 @@ TEST(FieldsOnSSFarZoneBox, says_when_memory_cannot_be_had) {
     EXPECT_EQ(problem, "Unable to allocate arrays for loading far zone fields.");
 }
 
-TEST(FieldsOnSSFarZoneBox, copies_are_independent) {
+void expectWhole(const FieldsOnSSFarZoneBox& fields) {
+    EXPECT_TRUE(fields.isComplete());
+    EXPECT_EQ(fields.getNumberInX(), 10U);
+    EXPECT_EQ(fields.getXDelta(9), 1.0F);
+    EXPECT_EQ(fields.getHy_onZUpper().back(), Complex(8 * numRecords - 2, 8 * numRecords - 1));
+}
+
+void expectEmpty(const FieldsOnSSFarZoneBox& fields) {
+    EXPECT_FALSE(fields.isComplete());
+    EXPECT_FALSE(fields.getFarZoneBox().isValid());
+    EXPECT_EQ(fields.getNumberInX(), 0U);
+    for (const int cell : {-1, 0}) EXPECT_EQ(fields.getXDelta(cell) + fields.getYDelta(cell), 0.0F);
+    EXPECT_TRUE(fields.getZDeltas().empty() && fields.getYDistanceToX().empty() && fields.getHy_onZUpper().empty());
+    EXPECT_EQ(fields.getXDistanceToX() + fields.getXDistanceToXUpper(), 0.0);
+    std::vector<FarZoneSSFieldFile::Record> records;
+    EXPECT_FALSE(PostProcessSSFarZoneFields(&fields, 1e8F, 0, 0).computeFields({{1, 2}}, records));
+}
+
+TEST(FieldsOnSSFarZoneBox, is_copied_whole_and_moved_whole_leaving_nothing) {
     auto loaded = std::make_unique<Loaded>(boxFile(numRecords));
     const FieldsOnSSFarZoneBox copy = loaded->fields;
-    const FieldsOnSSFarZoneBox moved = std::move(loaded->fields);
+    FieldsOnSSFarZoneBox moved = std::move(loaded->fields);
+    expectEmpty(loaded->fields);
+    FieldsOnSSFarZoneBox assigned = Loaded("").fields;
+    assigned = std::move(moved);
+    expectEmpty(moved);
+    FieldsOnSSFarZoneBox& itself = assigned;
+    assigned = std::move(itself);
+    moved = copy;
     loaded.reset();
-    for (const FieldsOnSSFarZoneBox* fields : {&copy, &moved}) {
-        EXPECT_TRUE(fields->isComplete());
-        EXPECT_EQ(fields->getHy_onZUpper().back(), Complex(8 * numRecords - 2, 8 * numRecords - 1));
-    }
+    for (const auto& fields : {copy, assigned, moved}) expectWhole(fields);
 }
 
 TEST(FieldsOnSSFarZoneBox, has_image_fields_where_the_plane_is_that_of_the_grid) {

@@ -151,8 +151,8 @@ bool showDipole(const QString& projectPath, const QDir& folder) {
         return exact::writeBoxFields(path, geometry.grid, box, dipole, static_cast<double>(frequency));
     });
 
-    QStringList arguments{QStringLiteral("--frequency"), QStringLiteral("1e9"), QStringLiteral("--out"), folder.path()};
-    if (canPlot()) {
+    QStringList arguments{QStringLiteral("--out"), folder.path()};
+    if (canPlot(ImageFormat::Svg)) {
         arguments << QStringLiteral("--plot") << folder.filePath(QStringLiteral("dipole.svg"));
     } else {
         complain(QStringLiteral("no plot is made: gnuplot is not installed"));

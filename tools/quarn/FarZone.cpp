@@ -1,12 +1,12 @@
 #include <QDir>
 #include <QFileInfo>
-#include <algorithm>
 #include <cmath>
 
 #include "CommandLine.h"
 #include "Console.h"
-#include "CsvWriter.h"
-#include "FarZonePattern.h"
+#include "FarZoneBoxFile.h"
+#include "FarZoneOutput.h"
+#include "FarZonePlan.h"
 #include "GeometryOnDisk.h"
 #include "InputFile.h"
 #include "OutputFile.h"
@@ -16,85 +16,11 @@
 #include "Quantity.h"
 #include "Sheet.h"
 #include "Subcommands.h"
-#include "quarn/quarn.h"
+#include "quarn/BoundaryConditions.h"
 
 namespace quarn::tool {
 
 namespace {
-
-struct Options {
-    float frequency = 0.0F;
-    double step = 0.0;  ///< degrees; 0 for what the project asks for
-    QDir folder;
-    QString plot;
-};
-
-double numberFrom(const CommandLine& commandLine, const QString& option, double least, double most) {
-    bool isNumber = false;
-    const double value = commandLine.value(option).toDouble(&isNumber);
-    if (isNumber && value >= least && value <= most) return value;
-    throw WrongUsage(
-        QStringLiteral("--%1 needs a number from %2 to %3.").arg(option, numberText(least), numberText(most)));
-}
-
-const QString defaultRecordFile = QStringLiteral("farzone.uan");
-
-/// A list of directions and the files for their fields, which differ in the ending.
-struct Pattern {
-    Pattern(const QDir& folder, const QString& recordFile, FarZoneAngles directions)
-        : name(QFileInfo(recordFile).completeBaseName()),
-          recordPath(QDir::cleanPath(folder.filePath(recordFile))),
-          csvPath(QDir::cleanPath(folder.filePath(name + QStringLiteral(".csv")))),
-          angles(std::move(directions)) {}
-
-    QString name;
-    QString recordPath;
-    QString csvPath;
-    FarZoneAngles angles;
-};
-
-Pattern patternOf(const FarZoneRequest& request, const QString& path, const QDir& folder) {
-    // Only the name counts: a project from elsewhere does not choose the folder.
-    const QString file = QFileInfo(request.getUANOutputFileName()).fileName();
-    const QString shown = printable(file);
-    if (file != shown) {
-        throw FileProblem(
-            path, QStringLiteral("the file name \"%1\" of a far-zone request has control characters").arg(shown));
-    }
-    return {folder, file.isEmpty() ? defaultRecordFile : file, request.getAngles()};
-}
-
-std::vector<Pattern> patternsFor(const ProjectFile& project, const QString& path, const Options& options) {
-    constexpr double defaultStep = 5.0;
-    const auto& requests = project.getSteadyStateFarZoneRequests();
-    if (options.step > 0.0 || requests.empty()) {
-        return {{options.folder, defaultRecordFile, sphereOf(options.step > 0.0 ? options.step : defaultStep)}};
-    }
-    std::vector<Pattern> patterns;
-    QStringList names;
-    for (const FarZoneRequest& request : requests) {
-        patterns.push_back(patternOf(request, path, options.folder));
-        const QString name = patterns.back().name;
-        if (names.contains(name)) {
-            throw FileProblem(path, QStringLiteral("two far-zone requests write to \"%1\"; use --step").arg(name));
-        }
-        names << name;
-    }
-    return patterns;
-}
-
-/// Throws a FileProblem when an output is one of the inputs, which would be lost.
-void keepInputs(const QStringList& inputs, const std::vector<Pattern>& patterns, const QString& plot) {
-    QStringList outputs{plot};
-    for (const Pattern& pattern : patterns) outputs << pattern.recordPath << pattern.csvPath;
-    for (const QString& output : outputs) {
-        const QString place = QFileInfo(output).canonicalFilePath();
-        const bool isInput = std::any_of(inputs.begin(), inputs.end(), [&place](const QString& input) {
-            return !place.isEmpty() && place == QFileInfo(input).canonicalFilePath();
-        });
-        if (isInput) throw FileProblem(output, QStringLiteral("is an input and would be overwritten"));
-    }
-}
 
 FarZoneBox boxOf(const ProjectFile& project, const QString& path, const Grid& grid) {
     if (!project.getBoundaryConditions()) {
@@ -112,142 +38,138 @@ FarZoneBox boxOf(const ProjectFile& project, const QString& path, const Grid& gr
     return box;
 }
 
-/// Throws a FileProblem when the waves turn within a cell. Such fields mean nothing, and their pattern would take more
-/// directions than anybody waits for.
-void checkCells(const FieldsOnSSFarZoneBox& fields, const QString& path, float frequency) {
-    const double waveLength = waveLengthAt(frequency);
-    for (const auto* sizes : {&fields.getXDeltas(), &fields.getYDeltas(), &fields.getZDeltas()}) {
-        for (const float size : *sizes) {
-            if (2.0 * std::abs(static_cast<double>(size)) <= waveLength) continue;
-            throw FileProblem(
-                path,
-                QStringLiteral("has a cell of %1 on the far-zone box, more than half the wavelength of %2")
-                    .arg(withPrefix(static_cast<double>(size), QStringLiteral("m")),
-                         withPrefix(waveLength, QStringLiteral("m"))));
-        }
+/// The far fields of one frequency.
+class FarZone {
+public:
+    FarZone(const FieldsOnSSFarZoneBox& fields, float frequency)
+        : m_processor(&fields, frequency, 0, 0), m_power(powerOf(fields, m_processor)) {}
+
+    const RadiatedPower& power() const { return m_power; }
+
+    FarZoneRecords in(const FarZoneAngles& directions) const {
+        ProgressBar bar(QStringLiteral("Far field"));
+        FarZoneRecords records;
+        if (m_processor.computeFields(directions, records, bar.reporter())) return records;
+        throw std::runtime_error("the far field was not computed, as the fields on the box are not complete");
     }
-}
 
-void writeRecords(const QString& path, const FarZoneRecords& records) {
-    writeFile(path, [&records](const QString& made) {
-        DataFileWriter writer;
-        bool isWritten = writer.open(made, QStringLiteral("wb"));
-        for (const auto& record : records) isWritten = isWritten && FarZoneSSFieldFile::writeRecord(writer, record);
-        return writer.close() && isWritten;
-    });
-}
-
-void writeCsv(const QString& path, const FarZoneRecords& records, const RadiatedPower& power) {
-    QByteArray text;
-    {
-        CsvWriter csv(text);
-        csv.addHeader({QStringLiteral("theta_deg"),
-                       QStringLiteral("phi_deg"),
-                       QStringLiteral("e_theta_re"),
-                       QStringLiteral("e_theta_im"),
-                       QStringLiteral("e_phi_re"),
-                       QStringLiteral("e_phi_im"),
-                       QStringLiteral("directivity_dbi"),
-                       QStringLiteral("axial_ratio_db")});
-        for (const auto& record : records) {
-            csv.add(static_cast<float>(toDegrees(record.theta)));
-            csv.add(static_cast<float>(toDegrees(record.phi)));
-            csv.add(record.eTheta);
-            csv.add(record.ePhi);
-            csv.add(static_cast<float>(power.directivity(record)));
-            csv.add(static_cast<float>(axialRatio(record)));
-            csv.endRow();
-        }
+private:
+    static RadiatedPower powerOf(const FieldsOnSSFarZoneBox& fields, const PostProcessSSFarZoneFields& processor) {
+        ProgressBar bar(QStringLiteral("Radiated power"));
+        return radiatedPower(fields, processor, bar.reporter());
     }
-    writeFile(path, text);
-}
 
-FarZoneRecords fieldsIn(const PostProcessSSFarZoneFields& processor, const FarZoneAngles& angles) {
-    ProgressBar bar(QStringLiteral("Far field"));
-    FarZoneRecords records;
-    processor.computeFields(angles, records, bar.reporter());
-    return records;
-}
+    PostProcessSSFarZoneFields m_processor;
+    RadiatedPower m_power;
+};
 
-RadiatedPower powerOf(const FieldsOnSSFarZoneBox& fields, const PostProcessSSFarZoneFields& processor) {
-    ProgressBar bar(QStringLiteral("Radiated power"));
-    return radiatedPower(fields, processor, bar.reporter());
-}
-
-PolarCurve curveOf(const PostProcessSSFarZoneFields& processor, const RadiatedPower& power, double azimuth) {
+PolarCurve curveOf(const FarZone& farZone, double azimuth) {
     PolarCurve curve{QStringLiteral("phi = %1°").arg(azimuth), {}, {}};
-    for (const auto& record : fieldsIn(processor, polarCut(azimuth))) {
+    for (const auto& record : farZone.in(polarCut(azimuth))) {
         curve.angles.push_back(toDegrees(record.theta));
-        curve.values.push_back(power.directivity(record));
+        curve.values.push_back(farZone.power().directivity(record));
     }
     return curve;
 }
 
-QString peakText(const FarZoneSSFieldFile::Record& record, const RadiatedPower& power) {
+QString peakText(const RadiatedPower& power) {
+    const auto rounded = [](double value) { return std::round(100.0 * value) / 100.0; };
     return QStringLiteral("%1 dBi at theta %2, phi %3")
-        .arg(numberText(std::round(100.0 * power.directivity(record)) / 100.0),
-             degrees(std::round(100.0 * toDegrees(record.theta)) / 100.0),
-             degrees(std::round(100.0 * toDegrees(record.phi)) / 100.0));
+        .arg(numberText(rounded(power.directivity(power.peak))),
+             degrees(rounded(toDegrees(power.peak.theta))),
+             degrees(rounded(toDegrees(power.peak.phi))));
 }
 
-void writePattern(const Pattern& pattern, const PostProcessSSFarZoneFields& processor, const RadiatedPower& power,
-                  Sheet& sheet) {
-    const FarZoneRecords records = fieldsIn(processor, pattern.angles);
-    writeRecords(pattern.recordPath, records);
-    writeCsv(pattern.csvPath, records, power);
-    sheet.add(QStringLiteral("Pattern"), counted(records.size(), QStringLiteral("direction")));
-    sheet.addDetail(QStringLiteral("Records"), pattern.recordPath);
-    sheet.addDetail(QStringLiteral("Table"), pattern.csvPath);
+void makeFolderOf(const QString& file) {
+    const QString folder = QFileInfo(file).path();
+    if (!QDir().mkpath(folder)) throw FileProblem(folder, QStringLiteral("the folder cannot be made"));
 }
 
-Options optionsFrom(const CommandLine& commandLine) {
-    Options options;
-    if (!commandLine.isSet(QStringLiteral("frequency"))) throw WrongUsage(QStringLiteral("--frequency is missing."));
-    options.frequency = static_cast<float>(numberFrom(commandLine, QStringLiteral("frequency"), 1.0, 1e15));
+void writePlot(const QString& path, const FarZone& farZone, const QString& frequency) {
+    const QString title = QStringLiteral("Directivity in dBi at ") + frequency;
+    const std::vector<PolarCurve> curves{curveOf(farZone, 0.0), curveOf(farZone, 90.0)};
+    writeFile(path, polarPlot(*imageFormatOf(path), title, curves));
+}
+
+void writeFarFields(const FarZoneJob& job, const std::vector<FarZoneAngles>& directions,
+                    const FieldsOnSSFarZoneBox& fields) {
+    const QString frequency = withPrefix(job.frequency, QStringLiteral("Hz"));
+    const FarZone farZone(fields, job.frequency);
+    Sheet sheet(QStringLiteral("%1: far field at %2").arg(job.boxFile, frequency));
+    sheet.add(QStringLiteral("Radiated power"), withPrefix(farZone.power().watts, QStringLiteral("W")));
+    if (farZone.power().watts > 0.0) sheet.add(QStringLiteral("Peak directivity"), peakText(farZone.power()));
+    for (std::size_t i = 0; i < directions.size(); ++i) {
+        const auto& [recordFile, tableFile] = job.patterns[i];
+        const FarZoneRecords records = farZone.in(directions[i]);
+        writeRecords(recordFile, records);
+        writeTable(tableFile, records, farZone.power());
+        sheet.add(QStringLiteral("Pattern"), counted(records.size(), QStringLiteral("direction")));
+        sheet.addDetail(QStringLiteral("Records"), recordFile);
+        sheet.addDetail(QStringLiteral("Table"), tableFile);
+    }
+    if (!job.plot.isEmpty()) {
+        writePlot(job.plot, farZone, frequency);
+        sheet.add(QStringLiteral("Plot"), job.plot);
+    }
+    sheet.print();
+}
+
+int run(const QStringList& files, const FarZoneOptions& options) {
+    const QString& projectPath = files.at(0);
+    const QString& geometryPath = files.at(1);
+    const LoadedProject project(projectPath, readFile(projectPath));
+    const LoadedGeometry geometry(geometryPath, readFile(geometryPath));
+    const FarZoneBox box = boxOf(project.project, projectPath, geometry.grid);
+    const auto fieldsFor = [&](const FarZoneJob& job) {
+        return loadBoxFields(job.boxFile, box, geometry.grid, geometryPath, job.frequency);
+    };
+
+    const FarZonePlan plan = planFarZone(project.project, projectPath, files.mid(2), options);
+    QStringList inputs{projectPath, geometryPath};
+    for (const FarZoneJob& job : plan.jobs) inputs << job.boxFile;
+    checkOutputs(plan, inputs);
+    // The fields of all frequencies together may not fit in memory: they are loaded once to be checked and once more.
+    if (plan.jobs.size() > 1) {
+        for (const FarZoneJob& job : plan.jobs) fieldsFor(job);
+    }
+
+    for (const FarZoneJob& job : plan.jobs) {
+        const FieldsOnSSFarZoneBox fields = fieldsFor(job);
+        for (const QString& output : job.outputs()) makeFolderOf(output);
+        if (&job != &plan.jobs.front()) out() << '\n';
+        writeFarFields(job, plan.directions, fields);
+    }
+    return ExitFine;
+}
+
+double numberFrom(const CommandLine& commandLine, const QString& option, double least, double most) {
+    bool isNumber = false;
+    const double value = commandLine.value(option).toDouble(&isNumber);
+    if (isNumber && value >= least && value <= most) return value;
+    throw WrongUsage(
+        QStringLiteral("--%1 needs a number from %2 to %3.").arg(option, numberText(least), numberText(most)));
+}
+
+FarZoneOptions optionsFrom(const CommandLine& commandLine) {
+    FarZoneOptions options;
+    if (commandLine.isSet(QStringLiteral("frequency"))) {
+        options.frequency = numberFrom(commandLine, QStringLiteral("frequency"), 1.0, 1e15);
+    }
+    options.takesAnyFrequency = commandLine.isSet(QStringLiteral("force"));
     if (commandLine.isSet(QStringLiteral("step"))) {
         options.step = numberFrom(commandLine, QStringLiteral("step"), 0.1, 90.0);
     }
-    if (commandLine.isSet(QStringLiteral("out"))) options.folder = QDir(commandLine.value(QStringLiteral("out")));
+    options.folder = commandLine.value(QStringLiteral("out"));
+    if (!commandLine.isSet(QStringLiteral("plot"))) return options;
     options.plot = commandLine.value(QStringLiteral("plot"));
+    const auto format = imageFormatOf(options.plot);
+    if (!format) throw WrongUsage(QStringLiteral("--plot needs the name of a file that ends in .svg or .png."));
+    if (!canPlot(*format)) {
+        throw WrongUsage(
+            QStringLiteral("--plot needs gnuplot, which is not installed or cannot draw such images; install it, or "
+                           "leave --plot out."));
+    }
     return options;
-}
-
-int run(const QStringList& files, const Options& options) {
-    if (!options.plot.isEmpty() && !canPlot()) {
-        complain(QStringLiteral("--plot needs gnuplot, which is not installed"));
-        return ExitUnusable;
-    }
-    const LoadedProject project(files.at(0), readFile(files.at(0)));
-    const LoadedGeometry geometry(files.at(1), readFile(files.at(1)));
-    const FarZoneBox box = boxOf(project.project, files.at(0), geometry.grid);
-    const std::vector<Pattern> patterns = patternsFor(project.project, files.at(0), options);
-    keepInputs(files, patterns, options.plot);
-    QString problem;
-    const FieldsOnSSFarZoneBox fields(geometry.grid, files.at(2), box, problem);
-    if (!fields.isComplete() || !fields.setupImageFields(geometry.grid)) {
-        complain(problem);
-        return ExitUnusable;
-    }
-    checkCells(fields, files.at(1), options.frequency);
-    if (!options.folder.mkpath(QStringLiteral("."))) {
-        throw FileProblem(options.folder.path(), QStringLiteral("the folder cannot be made"));
-    }
-
-    const PostProcessSSFarZoneFields processor(&fields, options.frequency, 0, 0);
-    const RadiatedPower power = powerOf(fields, processor);
-    Sheet sheet(
-        QStringLiteral("%1: far field at %2").arg(files.at(2), withPrefix(options.frequency, QStringLiteral("Hz"))));
-    sheet.add(QStringLiteral("Radiated power"), withPrefix(power.watts, QStringLiteral("W")));
-    if (power.watts > 0.0) sheet.add(QStringLiteral("Peak directivity"), peakText(power.peak, power));
-    for (const Pattern& pattern : patterns) writePattern(pattern, processor, power, sheet);
-    if (!options.plot.isEmpty()) {
-        const QString title =
-            QStringLiteral("Directivity in dBi at ") + withPrefix(options.frequency, QStringLiteral("Hz"));
-        writeFile(options.plot, polarPlot(title, {curveOf(processor, power, 0.0), curveOf(processor, power, 90.0)}));
-        sheet.add(QStringLiteral("Plot"), options.plot);
-    }
-    sheet.print();
-    return ExitFine;
 }
 
 }  // namespace
@@ -255,12 +177,19 @@ int run(const QStringList& files, const Options& options) {
 int runFarZone(const QStringList& arguments) {
     CommandLine commandLine(
         QStringLiteral("farzone"),
-        QStringLiteral("Transforms the steady-state fields on the far-zone box of a run into far fields, in the\n"
-                       "directions of the project's far-zone requests, or of a sphere where it has none. Each list of\n"
-                       "directions gives a file of records (.uan) and a table of comma-separated values: distance\n"
-                       "times field in volts by real and imaginary part, directivity, axial ratio. Radiated power and\n"
-                       "peak directivity go to standard output."));
-    commandLine.addOption(QStringLiteral("frequency"), QStringLiteral("Of the fields, in Hz."), QStringLiteral("HZ"));
+        QStringLiteral("Transforms the steady-state fields on the far-zone box of a run into far fields, for each\n"
+                       "steady-state frequency of the project, in the directions of its far-zone requests, or of a\n"
+                       "sphere where it has none. Each list of directions gives a file of records (.uan) and a table\n"
+                       "of comma-separated values: the angles in degrees; distance times field in volts by component,\n"
+                       "real and imaginary part (e_theta_re, e_theta_im, e_phi_re, e_phi_im); directivity; axial\n"
+                       "ratio. Radiated power and peak directivity go to standard output.\n\n"
+                       "The names of the files hold the frequency unless it is the only one of the project. Nothing\n"
+                       "is written before all box files have been checked."));
+    commandLine.addOption(QStringLiteral("frequency"),
+                          QStringLiteral("Computes this one of the project's frequencies only, in Hz."),
+                          QStringLiteral("HZ"));
+    commandLine.addOption(QStringLiteral("force"),
+                          QStringLiteral("Takes a --frequency that is not one of the project's."));
     commandLine.addOption(QStringLiteral("step"),
                           QStringLiteral("A sphere at this step instead of the requests."),
                           QStringLiteral("DEGREES"));
@@ -268,11 +197,14 @@ int runFarZone(const QStringList& arguments) {
                           QStringLiteral("The folder for the files; made if there is none."),
                           QStringLiteral("DIR"));
     commandLine.addOption(QStringLiteral("plot"),
-                          QStringLiteral("An SVG image of the cuts at the azimuths 0 and 90 degrees. Needs gnuplot."),
+                          QStringLiteral("An image of the cuts at the azimuths 0 and 90 degrees, as SVG or PNG by the "
+                                         "ending of the name (.svg, .png). Needs gnuplot."),
                           QStringLiteral("FILE"));
     commandLine.addFile(QStringLiteral("PROJECT"), QStringLiteral("The project file of the run."));
     commandLine.addFile(QStringLiteral("GEOMETRY"), QStringLiteral("Its geometry file."));
-    commandLine.addFile(QStringLiteral("BOXFILE"), QStringLiteral("The fields on the far-zone box."));
+    commandLine.addFiles(QStringLiteral("BOXFILE"),
+                         QStringLiteral("The fields on the far-zone box: a file for each frequency, in the order of "
+                                        "the project, or the folder that holds the folders of the frequencies."));
     if (!commandLine.parse(arguments)) return ExitFine;
     return run(commandLine.files(), optionsFrom(commandLine));
 }

@@ -1,5 +1,6 @@
 #include "PolarPlot.h"
 
+#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QStringList>
@@ -38,10 +39,10 @@ QString scriptFor(const QString& title, const std::vector<PolarCurve>& curves) {
     const double outer = outerCircle(curves);
     const double inner = outer - range;
     QString script = QStringLiteral(
-                         "set terminal svg size 640,680 dynamic font 'sans,12' background 'white'\n"
                          "set title %1 noenhanced\nset polar\nset angles degrees\nset theta top clockwise\n"
                          "set size square\nunset border\nunset xtics\nunset ytics\nset key outside bottom center\n"
-                         "set grid polar 30 linecolor '#c0c0c0'\nset rrange [%2:%3]\nset rtics %4\nset ttics 30\n")
+                         "set grid polar 30 linetype 1 linewidth 0.5 linecolor '#c0c0c0'\nset rrange [%2:%3]\nset "
+                         "rtics %4\nset ttics 30\n")
                          .arg(quoted(title))
                          .arg(inner)
                          .arg(outer)
@@ -63,20 +64,45 @@ QString scriptFor(const QString& title, const std::vector<PolarCurve>& curves) {
     return script;
 }
 
-}  // namespace
+QString terminalFor(ImageFormat format) {
+    return format == ImageFormat::Svg
+               ? QStringLiteral("set terminal svg size 640,680 dynamic font 'sans,12' background 'white'\n")
+               : QStringLiteral("set terminal pngcairo size 960,1020 font 'sans,18' background 'white'\n");
+}
 
-bool canPlot() { return !QStandardPaths::findExecutable(program).isEmpty(); }
+struct Outcome {
+    bool isDone;
+    QByteArray image;
+    QByteArray message;
+};
 
-QByteArray polarPlot(const QString& title, const std::vector<PolarCurve>& curves) {
+Outcome runGnuplot(const QString& script) {
     QProcess process;
     process.start(program, QStringList());
-    process.write(scriptFor(title, curves).toUtf8());
+    process.write(script.toUtf8());
     process.closeWriteChannel();
     const bool isDone =
         process.waitForFinished() && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    QByteArray image = process.readAllStandardOutput();
+    return {isDone, process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+}  // namespace
+
+std::optional<ImageFormat> imageFormatOf(const QString& path) {
+    const QString ending = QFileInfo(path).suffix().toLower();
+    if (ending == QLatin1String("svg")) return ImageFormat::Svg;
+    if (ending == QLatin1String("png")) return ImageFormat::Png;
+    return std::nullopt;
+}
+
+bool canPlot(ImageFormat format) {
+    return !QStandardPaths::findExecutable(program).isEmpty() && runGnuplot(terminalFor(format)).isDone;
+}
+
+QByteArray polarPlot(ImageFormat format, const QString& title, const std::vector<PolarCurve>& curves) {
+    const auto [isDone, image, message] = runGnuplot(terminalFor(format) + scriptFor(title, curves));
     if (isDone && !image.isEmpty()) return image;
-    throw std::runtime_error("gnuplot failed: " + process.readAllStandardError().trimmed().toStdString());
+    throw std::runtime_error("no plot was made, as gnuplot failed: " + message.trimmed().toStdString());
 }
 
 }  // namespace quarn::tool

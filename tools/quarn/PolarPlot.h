@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <optional>
 #include <vector>
 
 namespace quarn::tool {
@@ -13,10 +14,15 @@ struct PolarCurve {
     std::vector<double> values;
 };
 
-/// Whether gnuplot, which draws the plots, is installed.
-bool canPlot();
+enum class ImageFormat { Svg, Png };
 
-/// An SVG image of the curves, from 40 dB below the largest value. Throws std::runtime_error when gnuplot fails.
-QByteArray polarPlot(const QString& title, const std::vector<PolarCurve>& curves);
+/// By the ending of the file's name; none for other endings.
+std::optional<ImageFormat> imageFormatOf(const QString& path);
+
+/// Whether gnuplot, which draws the plots, is installed and knows the format.
+bool canPlot(ImageFormat format);
+
+/// An image of the curves, from 40 dB below the largest value. Throws std::runtime_error when gnuplot fails.
+QByteArray polarPlot(ImageFormat format, const QString& title, const std::vector<PolarCurve>& curves);
 
 }  // namespace quarn::tool
