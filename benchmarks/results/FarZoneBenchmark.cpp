@@ -40,7 +40,7 @@ std::vector<Direction> sphere() {
 }
 
 std::vector<FarField> fieldsBy(Method method, const Surface& surface, const std::vector<Direction>& directions) {
-    Progress progress(nullptr);
+    quarn::Progress progress(nullptr);
     std::vector<FarField> fields;
     Transform transform(surface, waveNumber, method);
     transform.prepare(progress);
@@ -55,7 +55,7 @@ struct Reference {
 
     Reference(const Surface& surface, const std::vector<Direction>& directions) {
         constexpr std::size_t count = 6;
-        Progress progress(nullptr);
+        quarn::Progress progress(nullptr);
         DirectSum direct(surface, waveNumber);
         Spectrum spectrum(surface, waveNumber);
         direct.prepare(progress);
@@ -118,7 +118,7 @@ void transformToDirections(benchmark::State& state, std::vector<Direction> direc
     state.counters["model ms"] = costOf(method, surface, waveNumber, directions.size()) * 1e-6;
     if (method == Method::Sampled) {
         const double start = processorSeconds();
-        Progress progress(nullptr);
+        quarn::Progress progress(nullptr);
         Spectrum spectrum(surface, waveNumber);
         spectrum.prepare(progress);
         state.counters["share sampling"] = (processorSeconds() - start) / seconds;

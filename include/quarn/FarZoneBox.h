@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 
 #include "quarn/Export.h"
 
@@ -45,11 +47,10 @@ public:
     std::uint32_t getNumberInY() const { return m_y.cells; }
     std::uint32_t getNumberInZ() const { return m_z.cells; }
 
-    /// Cells on a face that is normal to the axis. These have 64 bits, as no product of two numbers of cells wraps
-    /// then.
-    std::uint64_t getNumberOnXFace() const { return std::uint64_t{m_z.cells} * m_y.cells; }
-    std::uint64_t getNumberOnYFace() const { return std::uint64_t{m_z.cells} * m_x.cells; }
-    std::uint64_t getNumberOnZFace() const { return std::uint64_t{m_y.cells} * m_x.cells; }
+    /// Cells on a face that is normal to the axis; the largest number where there are more.
+    std::uint32_t getNumberOnXFace() const { return product(m_y.cells, m_z.cells); }
+    std::uint32_t getNumberOnYFace() const { return product(m_x.cells, m_z.cells); }
+    std::uint32_t getNumberOnZFace() const { return product(m_x.cells, m_y.cells); }
 
     /// The phase reference in metres: the middle of the grid's bounding box, which on a graded grid is not the middle
     /// of this box. With a PEC plane it lies on that side of the bounding box.
@@ -72,6 +73,9 @@ private:
         double center = 0.0;
     };
 
+    static std::uint32_t product(std::uint64_t a, std::uint64_t b) {
+        return static_cast<std::uint32_t>(std::min<std::uint64_t>(a * b, std::numeric_limits<std::uint32_t>::max()));
+    }
     bool placeFaces(const BoundaryConditions& boundaries, const Grid& grid);
     void useImageAt(Face face);
     void setCenter(const Grid& grid);

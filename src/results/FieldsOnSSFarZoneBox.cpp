@@ -67,8 +67,8 @@ std::array<Span, numAxes> spansOf(const FarZoneBox& box) {
 }
 
 std::uint64_t cellsOn(const FarZoneBox& box, FarZoneBox::Face face) {
-    const std::uint64_t cells[numAxes] = {box.getNumberOnXFace(), box.getNumberOnYFace(), box.getNumberOnZFace()};
-    return cells[face % numAxes];
+    const std::uint64_t cells[numAxes] = {box.getNumberInX(), box.getNumberInY(), box.getNumberInZ()};
+    return cells[(face + 1) % numAxes] * cells[(face + 2) % numAxes];
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ bool PostProcessSSFarZoneFields::computeFields(const std::vector<FarZoneRequest:
                                                const ProgressReporter& reporter) const {
     if (!m_fields || !m_fields->isComplete()) return false;
     if (angles.empty()) return true;
-    farzone::Progress progress(reporter, angles.size());
+    Progress progress(reporter, angles.size());
     return farzone::appendFarFields(*m_fields, m_frequency, angles, records, progress);
 }
 

@@ -12,14 +12,14 @@
 #include "quarn/FileReplacement.h"
 #include "quarn/LongPathUtil.h"
 #include "quarn/SarResult.h"
-#include "results/FarZoneProgress.h"
+#include "results/Progress.h"
 
 namespace quarn {
 
 namespace {
 
 constexpr std::int64_t mostRecords = std::numeric_limits<std::int32_t>::max();
-constexpr int recordsPerStep = 4096;  // between two looks at the clock
+constexpr double nsPerRecord = 40.0;  // an estimate
 
 struct PartialFile {
     QString name;
@@ -86,22 +86,21 @@ private:
     }
 
     bool copyParts(SarResultWriter& writer, const ProgressReporter& reporter) {
-        const auto total = static_cast<double>(m_total);
-        farzone::Progress progress(reporter, static_cast<std::size_t>(m_total), total);
+        Progress progress(reporter, static_cast<std::size_t>(m_total));
+        progress.expect(static_cast<double>(m_total) * nsPerRecord);
         const auto copy = [&](const PartialFile& part) { return copyRecords(part, writer, progress); };
         if (!progress.begin()) return stopped();
         return std::all_of(m_parts.begin(), m_parts.end(), copy) && (progress.end() || stopped());
     }
 
-    bool copyRecords(const PartialFile& part, SarResultWriter& writer, farzone::Progress& progress) {
+    bool copyRecords(const PartialFile& part, SarResultWriter& writer, Progress& progress) {
         SarResultReader reader;
         if (!reader.beginResultReading(part.name)) return openingFailed(part.name);
         SarResult::Record record;
         for (int i = 0; i < part.numRecords; ++i) {
             if (!reader.readRecord(record)) return corrupt(part.name);
             if (!writer.writeRecord(record)) return writingFailed();
-            const bool isStep = ++m_numCopied % recordsPerStep == 0;
-            if (isStep && !progress.advance(recordsPerStep)) return stopped();
+            if (!progress.advance(nsPerRecord)) return stopped();
         }
         return true;
     }
@@ -166,7 +165,6 @@ private:
     QString& m_warning;
     std::vector<PartialFile> m_parts;
     std::int64_t m_total = 0;
-    std::int64_t m_numCopied = 0;
     bool m_isIncomplete = false;
 };
 

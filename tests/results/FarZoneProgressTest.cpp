@@ -10,7 +10,6 @@
 namespace quarn::test {
 namespace {
 
-using farzone::Progress;
 using Clock = Progress::Clock;
 using testing::ElementsAre;
 

@@ -78,7 +78,7 @@ protected:
 
     /// The largest deviation of a face's sums from the reference, in units of the largest sum of that face.
     double deviation(farzone::FaceSummation&& summation) const {
-        farzone::Progress progress(nullptr);
+        Progress progress(nullptr);
         EXPECT_TRUE(summation.prepare(progress));
         double peaks[6] = {};
         double deviations[6] = {};
@@ -113,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(, FarZoneSums, testing::ValuesIn(shapes), rowName<Shape
 
 std::vector<FarField> fieldsBy(Method method, const Surface& surface, const std::vector<Direction>& directions) {
     std::vector<FarField> fields;
-    farzone::Progress progress(nullptr);
+    Progress progress(nullptr);
     farzone::Transform transform(surface, twoPi, method);
     EXPECT_TRUE(transform.prepare(progress) && transform.apply(directions, fields, progress));
     return fields;

@@ -188,7 +188,7 @@ TEST_P(Exporting, keeps_to_what_a_file_says_it_is) {
     const std::string unknown =
         "is a result of an unknown type or version, or cut short in its header; it cannot be exported";
     const ExportRow rows[] = {
-        {"far-zone-box", fourFloats, "", "is not a far-zone box file: it does not begin with the header of one"},
+        {"far-zone-box", fourFloats, "", "is of an unknown kind; a far-zone box file of version 0 is needed"},
         {"far-zone-box", emptyPlane, "", "is a SAR plane; leave --as out"},
         {"eigenmode", box, "", "is a far-zone box file; leave --as out"},
         {"eigenmode", "Rnzp" + QByteArray(15, '\0'), "", "is a near-zone point; leave --as out"},

@@ -50,7 +50,7 @@ TEST_F(WritingTool, sar_combine_names_what_is_odd_and_what_is_written) {
         {"combine out LONGbb", "bb' has 260 characters" + cure, 2},
         {"combine LONGother a", "other' has 263 characters" + cure, 2},
         {"combine other a pipe", "'pipe' is not a regular file: copy what it holds into one.\n", 2},
-        {"combine loop a", "'loop': the symbolic link leads back to itself; remove it or choose another file.\n", 2},
+        {"combine loop a", "loop: is a link that leads nowhere but to itself; remove it or give another name\n", 2},
         {"combine no/out a", "'no/out': No such file or directory.\n", 2},
     };
     write("out", "");
@@ -90,7 +90,8 @@ TEST_F(WritingTool, rewrite_writes_to_the_end_of_links_and_for_all_hard_links) {
     write("in", clean.toUtf8());
     EXPECT_EQ(run({"rewrite", "in", "hard"}).status + run({"rewrite", "in", "to"}).status, 0);
     EXPECT_EQ(read("a") + read("new"), clean.toUtf8() + clean.toUtf8());
-    EXPECT_THAT(run({"rewrite", "in", "loop"}).err, testing::StartsWith("quarn: loop: the symbolic link leads back"));
+    EXPECT_THAT(run({"rewrite", "in", "loop"}).err,
+                testing::StartsWith("quarn: loop: is a link that leads nowhere but to itself"));
     EXPECT_EQ(names().join(' '), "a bb hard in link loop new pipe to");
 }
 

@@ -11,7 +11,6 @@
 #include "ResultFile.h"
 #include "quarn/DataFileReader.h"
 #include "quarn/FarZoneFieldFiles.h"
-#include "quarn/FileHeader.h"
 #include "quarn/Grid.h"
 
 namespace quarn::tool {
@@ -22,28 +21,19 @@ constexpr std::uint64_t headerSize = 16;
 
 void checkHeader(const QString& path) {
     checkName(path);
-    QFile file(path);
-    if (file.exists() && !QFileInfo(path).isFile()) {
+    const QFileInfo file(path);
+    if (file.exists() && !file.isFile()) {
         throw FileProblem(path, QStringLiteral("is not a regular file; a box file is needed"));
     }
-    if (!file.open(QIODevice::ReadOnly)) throw FileProblem(path, file.errorString());
-    if (resultKindOf(path) != ResultKind::FarZoneBox) {
-        throw FileProblem(path,
-                          QStringLiteral("is not a far-zone box file: it does not begin with a header of type 8"));
-    }
     DataFileReader reader;
-    FileHeader header;
-    if (reader.open(path) && header.read(reader) && header.version != 0) {
-        throw FileProblem(
-            path,
-            QStringLiteral("is a far-zone box file of version %1; only version 0 can be read").arg(header.version));
-    }
+    openFarZoneBox(reader, InputFile(path));
 }
 
 void checkNumberOfRecords(const QString& path, const FarZoneBox& box) {
     constexpr std::uint64_t recordSize = FieldsOnSteadyStateFarZoneBoxFile::recordSize;
-    const std::uint64_t needed = 2 * (box.getNumberOnXFace() + box.getNumberOnYFace() + box.getNumberOnZFace());
-    const std::uint64_t bytes = static_cast<std::uint64_t>(sizeOfFile(path)) - headerSize;
+    const std::uint64_t x = box.getNumberInX(), y = box.getNumberInY(), z = box.getNumberInZ();
+    const std::uint64_t needed = 2 * (y * z + x * z + x * y);
+    const std::uint64_t bytes = static_cast<std::uint64_t>(QFileInfo(path).size()) - headerSize;
     if (bytes == needed * recordSize) return;
     QString found = counted(bytes / recordSize, QStringLiteral("record"));
     if (bytes % recordSize != 0) {
@@ -110,7 +100,8 @@ QString boxFileIn(const QString& base, const QString& folder, const QString& fre
     }
     QStringList found;
     for (const QString& name : searched.entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
-        if (resultKindOf(searched.filePath(name)) == ResultKind::FarZoneBox) found << name;
+        const QFileInfo file(searched.filePath(name));
+        if (file.isFile() && kindOf(InputFile(file.filePath()).beginning()) == FileKind::FarZoneBox) found << name;
     }
     if (found.size() == 1) return searched.filePath(found.first());
     throw FileProblem(

@@ -10,6 +10,7 @@
 #include "CommandLine.h"
 #include "Console.h"
 #include "FarZoneBoxFile.h"
+#include "quarn/LongPathUtil.h"
 
 namespace quarn::tool {
 
@@ -243,10 +244,8 @@ void checkOutputs(const FarZonePlan& plan, const QStringList& inputs) {
     for (const FarZoneJob& job : plan.jobs) outputs << job.outputs();
     for (const QString& output : outputs) {
         checkPlace(output);
-        const QString place = QFileInfo(output).canonicalFilePath();
-        const bool isInput = std::any_of(inputs.begin(), inputs.end(), [&place](const QString& input) {
-            return !place.isEmpty() && place == QFileInfo(input).canonicalFilePath();
-        });
+        const bool isInput = std::any_of(
+            inputs.begin(), inputs.end(), [&output](const QString& input) { return isSameFile(input, output); });
         if (isInput)
             throw FileProblem(output, QStringLiteral("is an input and would be overwritten; use another --out"));
     }

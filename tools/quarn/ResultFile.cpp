@@ -5,19 +5,17 @@
 #include "Console.h"
 #include "quarn/DataFileReader.h"
 #include "quarn/FileHeader.h"
+#include "quarn/LongPathUtil.h"
 #include "quarn/SarResult.h"
 
 namespace quarn::tool {
 
 void checkPathLength(const QString& path) {
-    constexpr int pathLimit = 259;
-    const char* variable = "KIVEN_LONGPATHSUPPORT";
-    if (path.size() < pathLimit || qEnvironmentVariableIsSet(variable)) return;
+    if (!isPathTooLong(path)) return;
     throw FileProblem(path,
-                      QStringLiteral("the path has %1 characters or more; set the environment variable %2 to 1 to have "
-                                     "such paths opened, or give a shorter one")
-                          .arg(pathLimit)
-                          .arg(QLatin1String(variable)));
+                      QStringLiteral("the path has %1 characters; set the environment variable KIVEN_LONGPATHSUPPORT "
+                                     "to 1 to have such long paths opened, or give a shorter one")
+                          .arg(path.size()));
 }
 
 FileProblem unreadable(const QString& path) {
@@ -32,10 +30,11 @@ void open(DataFileReader& reader, const InputFile& file) {
 
 void openFarZoneBox(DataFileReader& reader, const InputFile& file) {
     FileHeader header;
+    const FileKind kind = kindOf(file.beginning());
     open(reader, file);
-    if (kindOf(file.beginning()) == FileKind::FarZoneBox && header.read(reader)) return;
+    if (kind == FileKind::FarZoneBox && header.read(reader)) return;
     throw FileProblem(file.name(),
-                      QStringLiteral("is not a far-zone box file: it does not begin with the header of one"));
+                      QStringLiteral("is %1; a far-zone box file of version 0 is needed").arg(description(kind)));
 }
 
 void open(SarResultReader& reader, const InputFile& file) {

@@ -1,6 +1,3 @@
-#include <QFile>
-#include <filesystem>
-
 #include "CommandLine.h"
 #include "Console.h"
 #include "Findings.h"
@@ -9,6 +6,7 @@
 #include "OutputFile.h"
 #include "ProjectOnDisk.h"
 #include "Subcommands.h"
+#include "quarn/LongPathUtil.h"
 
 namespace quarn::tool {
 
@@ -36,16 +34,6 @@ CanonicalForm canonicalForm(const QString& path) {
     } catch (const std::runtime_error& problem) {
         throw FileProblem(path, QString::fromUtf8(problem.what()));
     }
-}
-
-/// Whether both are names of one file, however many links there are between.
-bool isSameFile(const QString& in, const QString& out) {
-    const auto systemPath = [](const QString& path) {
-        return std::filesystem::path(QFile::encodeName(path).toStdString());
-    };
-    const QString source = in == QLatin1String("-") ? QStringLiteral("/dev/stdin") : in;
-    std::error_code none;  // one of them is missing, which makes them different
-    return std::filesystem::equivalent(systemPath(source), systemPath(out), none);
 }
 
 void complainAboutLoss(const QString& path, const Findings& loss) {
@@ -79,7 +67,8 @@ int runRewrite(const QStringList& arguments) {
     const CanonicalForm form = canonicalForm(in);
     if (!form.loss.none()) {
         complainAboutLoss(in, form.loss);
-        if (isSameFile(in, out) && !commandLine.isSet(force)) {
+        const QString source = in == QLatin1String("-") ? QStringLiteral("/dev/stdin") : in;
+        if (isSameFile(source, out) && !commandLine.isSet(force)) {
             throw FileProblem(out,
                               QStringLiteral("not written: it is the file that was read, which would lose what is not "
                                              "kept; write to another file, or add --force"));

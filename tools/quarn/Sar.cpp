@@ -5,6 +5,7 @@
 #include "Console.h"
 #include "DeferredSignals.h"
 #include "InputFile.h"
+#include "Quantity.h"
 #include "Subcommands.h"
 #include "quarn/FileReplacement.h"
 #include "quarn/LongPathUtil.h"
@@ -25,11 +26,6 @@ void checkAction(const QStringList& arguments) {
 }
 
 bool isFile(const QString& path) { return QFileInfo(resolveLongPath(path, true)).isFile(); }
-
-QString nameOf(SARPlane::Plane plane) {
-    if (plane == SARPlane::XY) return QStringLiteral("XY");
-    return plane == SARPlane::YZ ? QStringLiteral("YZ") : QStringLiteral("ZX");
-}
 
 // Names each part that does not exist or was given before. Throws a FileProblem when none exists.
 ExitStatus checkParts(const QStringList& parts, const QString& output) {
@@ -91,7 +87,7 @@ void printWhatWasWritten(const QString& output) {
     const QString records = counted(static_cast<std::size_t>(reader.getNumberOfRecords()), QStringLiteral("record"));
     const QString index = QString::number(reader.getPlaneIndex());
     const QString text = QStringLiteral("%1: SAR plane %2, index %3, %4");
-    out() << printable(text.arg(output, nameOf(reader.getPlane()), index, records)) << '\n';
+    out() << printable(text.arg(output, planeName(reader.getPlane()), index, records)) << '\n';
 }
 
 }  // namespace
