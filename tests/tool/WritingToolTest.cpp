@@ -90,6 +90,7 @@ TEST_F(WritingTool, rewrite_writes_to_the_end_of_links_and_for_all_hard_links) {
     write("in", clean.toUtf8());
     EXPECT_EQ(run({"rewrite", "in", "hard"}).status + run({"rewrite", "in", "to"}).status, 0);
     EXPECT_EQ(read("a") + read("new"), clean.toUtf8() + clean.toUtf8());
+    EXPECT_EQ(run({"rewrite", "in", "-"}).out, clean.toStdString());
     EXPECT_THAT(run({"rewrite", "in", "loop"}).err,
                 testing::StartsWith("quarn: loop: is a link that leads nowhere but to itself"));
     EXPECT_EQ(names().join(' '), "a bb hard in link loop new pipe to");

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <cstdio>
 
 #include "Console.h"
 #include "DeferredSignals.h"
@@ -17,25 +18,33 @@ bool closes(QFile& file) {
     return file.error() == QFileDevice::NoError;
 }
 
-// Writes the file that stands for `path`, which is what messages name.
-void writeFor(const QString& path, const QString& fileName, const QByteArray& bytes) {
-    QFile file(fileName);
-    const bool isWritten =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && closes(file);
+// Messages name `path`, for which the file stands.
+void write(const QString& path, QFile& file, const QByteArray& bytes) {
+    const bool isWritten = file.isOpen() && file.write(bytes) == bytes.size() && file.flush() && closes(file);
     if (isWritten) return;
     // A disk that takes a part only gives no reason; then the text is that of a file without an error.
     const bool hasReason = file.errorString() != QFile().errorString();
     throw FileProblem(path, hasReason ? file.errorString() : QStringLiteral("cannot be written"));
 }
 
+void writeToStandardOutput(const QByteArray& bytes) {
+    out().flush();
+    QFile file;
+    file.open(stdout, QIODevice::WriteOnly);
+    write(QStringLiteral("standard output"), file, bytes);
+}
+
 }  // namespace
 
 void writeFile(const QString& path, const QByteArray& bytes) {
+    if (path == QLatin1String("-")) return writeToStandardOutput(bytes);
     checkName(path);
     const DeferredSignals deferred(path);
     FileReplacement replacement(path);
     if (replacement.path().isEmpty()) throw FileProblem(path, replacement.errorString());
-    writeFor(path, replacement.path(), bytes);
+    QFile file(replacement.path());
+    file.open(QIODevice::WriteOnly);
+    write(path, file, bytes);
     if (!deferred.isPending() && !replacement.takePlace()) throw FileProblem(path, replacement.errorString());
 }
 

@@ -59,7 +59,7 @@ int runRewrite(const QStringList& arguments) {
                        "Exit status: 0 all is kept, 1 written, but not all is kept, 2 nothing is written."));
     commandLine.addOption(force, QStringLiteral("Writes into IN itself even where something of it would be gone."));
     commandLine.addFile(QStringLiteral("IN"), QStringLiteral("The project or geometry file to load."));
-    commandLine.addFile(QStringLiteral("OUT"), QStringLiteral("The file to write."));
+    commandLine.addFile(QStringLiteral("OUT"), QStringLiteral("The file to write; '-' is standard output."));
     if (!commandLine.parse(arguments)) return ExitFine;
 
     const QString in = commandLine.files().at(0);
