@@ -32,6 +32,12 @@ static_assert(allCompare<Material, ElectricFreeSpace, ElectricPerfectConductor, 
                          ElectricSurfaceResistance, MagneticFreeSpace, MagneticPerfectConductor, MagneticNormal,
                          MagneticFerrite, MagneticDebye, Magnetic7PoleDebye, MagneticNonlinear, MagneticSampled>);
 
+static_assert(std::is_same_v<decltype(std::declval<FarZoneBox>().getNumberOnXFace()), std::uint32_t> &&
+              std::is_same_v<decltype(std::declval<FarZoneBox>().getNumberOnYFace()), std::uint32_t> &&
+              std::is_same_v<decltype(std::declval<FarZoneBox>().getNumberOnZFace()), std::uint32_t>);
+static_assert(std::is_same_v<decltype(CircuitComponent::ImpedanceLine::nodes), std::array<int, 2>>);
+static_assert(std::has_virtual_destructor_v<GeometryFile> && !std::has_virtual_destructor_v<ProjectFile>);
+
 TEST(MaterialComparison, finds_materials_in_lists) {
     const std::list<ElectricThinWire> wires{ElectricThinWire("thin", 1), ElectricThinWire("thick", 2)};
     const Material& thick = wires.back();

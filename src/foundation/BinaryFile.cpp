@@ -21,7 +21,7 @@ static_assert(sizeof(float) == 4 && sizeof(double) == 8);
 
 namespace {
 
-// Of the fixed buffer that the mode is copied to where paths have a limit, without its final zero.
+// The size of the fixed buffer for the mode on systems with a path-length limit, without its final zero.
 constexpr int modeLimit = 23;
 
 // ENAMETOOLONG where the limits come from; errno.h here may number it otherwise.

@@ -12,7 +12,7 @@ namespace {
 
 const QLatin1String longPathPrefix("\\\\?\\");
 
-// Of the fixed buffer that an open call takes on systems with a path-length limit, without its final zero. It holds on
+// The size of the fixed buffer of an open call on systems with a path-length limit, without its final zero. It holds on
 // all systems, so that a run does not depend on the machine that prepared it.
 constexpr int pathLimit = 259;
 

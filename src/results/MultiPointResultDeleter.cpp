@@ -27,7 +27,7 @@ public:
 
     template <class Groups, class Components>
     void remove(const Groups& groups, const Components& components, int numIndices) const {
-        // The info file was read, so that a listing without it is none.
+        // The info file was read, so that a listing without it has failed.
         const bool isListed = m_names.contains(m_result.getInfoFileName().mid(m_folder.size()));
         const int numTried = std::min(numIndices, MultiPointResultDeleter::mostIndicesTried + 1);
         for (const auto group : groups) {

@@ -236,7 +236,7 @@ TEST_F(MultiPoint, blocksHoldWhatIsThere) {
     EXPECT_FALSE(reader.readSteadyXr(value));
 }
 
-// Of an engine that has written all components but the one in turn, which ends within its second value.
+// The engine has written all components but one, each in turn, which ends within its second value.
 TEST_F(MultiPoint, aReadThatFailsIsRepeatedOnceTheEngineHasGoneOn) {
     folder.put("b_info.bin", QByteArray::fromHex("526d707400 00000041 03000000"));
     ASSERT_TRUE(reader.beginResultReading(base) && reader.beginTimestep(0) && reader.beginFrequency(0));

@@ -167,15 +167,15 @@ TEST_F(SarFile, failedCombinationsKeepWhatIsJoinedOrChangeNothing) {
 TEST_F(SarFile, combiningReportsHowManyRecordsAreJoinedUntilItIsStopped) {
     const QString a = folder.put("a", start("0200000009000000a0860100") + record.repeated(100000));
     const QString output = folder.put("out", "earlier");
-    for (const bool goesOn : {false, true}) {
+    for (const bool continues : {false, true}) {
         std::vector<std::size_t> steps;
         const auto reporter = [&](std::size_t done, std::size_t total) {
             steps.push_back(done);
-            return total == 100000 && (goesOn || done == 0);
+            return total == 100000 && (continues || done == 0);
         };
-        EXPECT_EQ(SarResult::combineFiles({a}, output, error, warning, reporter), goesOn);
-        EXPECT_EQ(steps.front() + (goesOn ? steps.back() : 100000), 100000U);
-        EXPECT_EQ(folder.bytes("out") == "earlier", !goesOn);
+        EXPECT_EQ(SarResult::combineFiles({a}, output, error, warning, reporter), continues);
+        EXPECT_EQ(steps.front() + (continues ? steps.back() : 100000), 100000U);
+        EXPECT_EQ(folder.bytes("out") == "earlier", !continues);
     }
     EXPECT_EQ(error + warning,
               "Combining into SAR output file '" + output + "' was stopped.SAR data will be unavailable on disk.");

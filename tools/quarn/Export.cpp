@@ -200,7 +200,7 @@ struct Choice {
     QString group;
     QString index;
 
-    bool isMade() const { return !group.isNull() || !index.isNull(); }
+    bool hasAny() const { return !group.isNull() || !index.isNull(); }
 };
 
 const SetGroup& chosenGroup(const MultiPointSet& set, const Choice& choice, const QString& name) {
@@ -250,7 +250,7 @@ int exportMultiPoint(const InputFile& file, const Choice& choice) {
 int exportByContent(const InputFile& file, const Choice& choice) {
     const FileKind kind = kindOf(file.beginning());
     if (kind == FileKind::MultiPoint) return exportMultiPoint(file, choice);
-    if (choice.isMade()) {
+    if (choice.hasAny()) {
         throw WrongUsage(QStringLiteral("--group and --index are for multi-point results, but '%1' is %2.")
                              .arg(file.name(), description(kind)));
     }
@@ -300,7 +300,7 @@ int runExport(const QStringList& arguments) {
     const QString name = commandLine.files().constFirst();
     const Choice choice{commandLine.value(group), commandLine.value(index)};
     if (!commandLine.isSet(as)) return exportByContent(InputFile(name), choice);
-    if (choice.isMade()) {
+    if (choice.hasAny()) {
         throw WrongUsage(QStringLiteral("--group and --index are for multi-point results, not for records (--as)."));
     }
     return exportRecordsAs(recordKindNamed(commandLine.value(as)), InputFile(name));
