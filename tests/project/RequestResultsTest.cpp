@@ -303,7 +303,8 @@ void expectLines(const std::vector<Request>& requests, const QString& lines, Put
         for (const QString& line : blank) added.removeOne(line);
         const QString& expected = expectedLines[static_cast<int>(i) - 1];
         EXPECT_EQ(added.join("; "), expected);
-        Project project, loaded;
+        Project project;
+        OwningProject loaded;
         put(project, requests[i]);
         load(loaded, saved(project));
         EXPECT_EQ(get(loaded) == requests[i], !expected.isEmpty()) << expected.toStdString();
