@@ -123,7 +123,8 @@ private:
 };
 
 /// Compares objects of any two classes of materials by the operator of the left one. Without it C++20 would find that
-/// the operators of both classes match a comparison equally well.
+/// the operators of both classes match a comparison equally well. Where the left one is known as a Material only, C++20
+/// may take the operator of the right one; with the classes of the library both give the same.
 template <class Left, class Right>
 std::enable_if_t<std::is_base_of_v<Material, Left> && std::is_base_of_v<Material, Right>, bool> operator==(
     const Left& left, const Right& right) {

@@ -54,11 +54,15 @@ public:
     /// - "SAR data will be unavailable on disk.": anything else, such as a partial file that is a pipe or a device, or
     ///   no partial file at all. An earlier output stays as it was.
     ///
-    /// The reporter, if given, hears how many records are joined; when it stops the work, combining fails and an
-    /// earlier output stays as it was. Output is written by way of a FileReplacement, so that "stays as it was" does
-    /// not hold where that has to write the target itself. Memory does not depend on the size of the files.
+    /// A reporter hears how many records are joined; when it stops the work, combining fails and an earlier output
+    /// stays as it was. Output is written by way of a FileReplacement, so that "stays as it was" does not hold where
+    /// that has to write the target itself. Memory does not depend on the size of the files.
+    /// @{
     static bool combineFiles(const QStringList& partialFileNames, const QString& outputFileName, QString& error,
-                             QString& warning, const ProgressReporter& reporter = nullptr);
+                             QString& warning);
+    static bool combineFiles(const QStringList& partialFileNames, const QString& outputFileName, QString& error,
+                             QString& warning, const ProgressReporter& reporter);
+    /// @}
 };
 
 /// Writes the file of a plane, from its beginning or at its end.

@@ -171,6 +171,11 @@ private:
 }  // namespace
 
 bool SarResult::combineFiles(const QStringList& partialFileNames, const QString& outputFileName, QString& error,
+                             QString& warning) {
+    return combineFiles(partialFileNames, outputFileName, error, warning, nullptr);
+}
+
+bool SarResult::combineFiles(const QStringList& partialFileNames, const QString& outputFileName, QString& error,
                              QString& warning, const ProgressReporter& reporter) {
     return Combination(outputFileName, error, warning).run(partialFileNames, reporter);
 }

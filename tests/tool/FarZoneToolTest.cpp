@@ -201,6 +201,10 @@ TEST_P(FarZoneRefusal, says_why_and_writes_nothing) {
     write("long", box + QByteArray(64, '\0'));
     write("nan", QByteArray(box).replace(16 + 4700 * 32, 12, reinterpret_cast<const char*>(bad), 12));
     write("zero", box.left(16) + QByteArray(box.size() - 16, '\0'));
+    QByteArray huge = box.left(16);
+    const float largest = 3e38F;
+    while (huge.size() < box.size()) huge.append(reinterpret_cast<const char*>(&largest), sizeof largest);
+    write("huge", huge);
     write("sar", QByteArray(box).replace(12, 1, "\x0d"));
     write("later", QByteArray(box).replace(14, 1, "\1"));
     const QString deep = QString(130, 'd') + '/' + QString(130, 'd');
@@ -208,10 +212,14 @@ TEST_P(FarZoneRefusal, says_why_and_writes_nothing) {
     makeFolder(deep);
     for (const QString path : {"runs/one/x", "runs/two/x", "runs/two/y"}) write(path, box);
     write("runs/none/notes", "none");
+    write("cut.csv", "earlier");
+    QFile::link("cut.csv", folder.filePath("linked.svg"));
+    QFile::link("nowhere/plot", folder.filePath("dangling.svg"));
     write(deep + "/box", box);
 
     const auto before = everything();
-    const ToolResult result = farzone("--out new/results " + QString(GetParam().arguments).replace("DEEP", deep));
+    const QString arguments = QString(GetParam().arguments).replace("DEEP", deep);
+    const ToolResult result = farzone(arguments.contains("--out") ? arguments : "--out new/results " + arguments);
     EXPECT_THAT(result.err, HasSubstr(GetParam().message));
     EXPECT_EQ(result.out, "");
     EXPECT_EQ(result.status, 2);
@@ -227,6 +235,13 @@ const RefusalRow refusals[] = {
     {"two_records_more", "3e8 a", "long", "long: holds 4706 records, but the far-zone box of this geometry has 4704 "},
     {"no_numbers", "3e8 a", "nan", "nan: holds 2 values that are not finite numbers;"},
     {"no_fields", "3e8 a", "zero", "zero: all fields are zero;"},
+    {"no_power", "3e8 a", "huge", "huge: the fields give a radiated power of "},
+    {"no_power_of_the_last", "3e8 a,2e8 b", "box huge", "huge: the fields give a radiated power of "},
+    {"standard_input", "3e8 a", "-", "-: is not a regular file; a box file is needed"},
+    {"a_hundred_hertz_more", "1e9 a", "box --frequency 1000000100", "1.0000001 GHz is not one of"},
+    {"an_option_twice", "3e8 a", "box --step 5 --step 10", "--step is given more than once."},
+    {"a_link_to_nowhere", "3e8 a", "box --plot dangling.svg", "dangling.svg: cannot be written, as "},
+    {"linked_outputs", "3e8 a", "box --plot linked.svg --out .", "is the same file as linked.svg, another output;"},
     {"the_last_of_several", "3e8 a,2e8 b", "box zero", "zero: all fields are zero;"},
     {"another_type", "3e8 a", "sar", "sar: is a SAR plane; a far-zone box file of version 0 is needed"},
     {"another_version",
@@ -270,7 +285,7 @@ const RefusalRow refusals[] = {
     {"a_plot_of_another_kind", "3e8 a", "box --plot cuts.pdf", "--plot needs the name of a file that ends in .svg or "},
     {"a_step_of_zero", "3e8 a", "box --step 0", "--step needs a number from 0.1 to 90."},
     {"a_folder_within_a_file", "3e8 a", "box --out box/new", "box/new/cut.uan: cannot be written, as "},
-    {"a_folder_in_place_of_an_output", "3e8 a", "box --out runs", "runs/cut.uan: is a folder; a file is to be written"},
+    {"a_folder_in_place_of_an_output", "3e8 a", "box --out runs", "runs/cut.uan: is not a file that can be written; "},
     {"waves_that_the_cells_cannot_carry",
      "3e9 a",
      "box",

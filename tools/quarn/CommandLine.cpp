@@ -18,6 +18,7 @@ void CommandLine::addOption(const QString& name, const QString& description) {
 }
 
 void CommandLine::addOption(const QString& name, const QString& description, const QString& valueName) {
+    m_valueOptions << name;
     m_parser.addOption({name, description, valueName});
 }
 
@@ -38,6 +39,11 @@ bool CommandLine::parse(const QStringList& arguments) {
     if (m_parser.isSet(help)) {
         out() << helpText();
         return false;
+    }
+    for (const QString& option : m_valueOptions) {
+        if (m_parser.values(option).size() > 1) {
+            throw WrongUsage(QStringLiteral("--%1 is given more than once.").arg(option));
+        }
     }
     checkNumberOfFiles();
     return true;

@@ -36,6 +36,7 @@ private:
 
     QString m_subcommand;
     QCommandLineParser m_parser;
+    QStringList m_valueOptions;
     QStringList m_fileNames;
     bool m_takesMoreFiles = false;
 };

@@ -41,8 +41,14 @@ FarZoneBox boxOf(const ProjectFile& project, const QString& path, const Grid& gr
 /// The far fields of one frequency.
 class FarZone {
 public:
-    FarZone(const FieldsOnSSFarZoneBox& fields, float frequency)
-        : m_processor(&fields, frequency, 0, 0), m_power(powerOf(fields, m_processor)) {}
+    /// Throws a FileProblem for fields that are too large or too small for their power to be a positive number.
+    FarZone(const FieldsOnSSFarZoneBox& fields, const FarZoneJob& job)
+        : m_processor(&fields, job.frequency, 0, 0), m_power(powerOf(fields, m_processor)) {
+        if (std::isfinite(m_power.watts) && m_power.watts > 0.0) return;
+        throw FileProblem(job.boxFile,
+                          QStringLiteral("the fields give a radiated power of %1 W; the run has probably diverged")
+                              .arg(m_power.watts));
+    }
 
     const RadiatedPower& power() const { return m_power; }
 
@@ -85,30 +91,36 @@ void makeFolderOf(const QString& file) {
     if (!QDir().mkpath(folder)) throw FileProblem(folder, QStringLiteral("the folder cannot be made"));
 }
 
-void writePlot(const QString& path, const FarZone& farZone, const QString& frequency) {
+/// An image of the principal cuts; null when none is wanted.
+QByteArray plotOf(const FarZoneJob& job, const FarZone& farZone, const QString& frequency) {
+    if (job.plot.isEmpty()) return {};
     const QString title = QStringLiteral("Directivity in dBi at ") + frequency;
-    const std::vector<PolarCurve> curves{curveOf(farZone, 0.0), curveOf(farZone, 90.0)};
-    writeFile(path, polarPlot(*imageFormatOf(path), title, curves));
+    return polarPlot(*imageFormatOf(job.plot), title, {curveOf(farZone, 0.0), curveOf(farZone, 90.0)});
 }
 
+/// Everything is computed before the first file is written.
 void writeFarFields(const FarZoneJob& job, const std::vector<FarZoneAngles>& directions,
                     const FieldsOnSSFarZoneBox& fields) {
     const QString frequency = withPrefix(job.frequency, QStringLiteral("Hz"));
-    const FarZone farZone(fields, job.frequency);
+    const FarZone farZone(fields, job);
+    const QByteArray plot = plotOf(job, farZone, frequency);
+    std::vector<FarZoneRecords> patterns;
+    for (const FarZoneAngles& angles : directions) patterns.push_back(farZone.in(angles));
+
+    for (const QString& output : job.outputs()) makeFolderOf(output);
     Sheet sheet(QStringLiteral("%1: far field at %2").arg(job.boxFile, frequency));
     sheet.add(QStringLiteral("Radiated power"), withPrefix(farZone.power().watts, QStringLiteral("W")));
-    if (farZone.power().watts > 0.0) sheet.add(QStringLiteral("Peak directivity"), peakText(farZone.power()));
-    for (std::size_t i = 0; i < directions.size(); ++i) {
+    sheet.add(QStringLiteral("Peak directivity"), peakText(farZone.power()));
+    for (std::size_t i = 0; i < patterns.size(); ++i) {
         const auto& [recordFile, tableFile] = job.patterns[i];
-        const FarZoneRecords records = farZone.in(directions[i]);
-        writeRecords(recordFile, records);
-        writeTable(tableFile, records, farZone.power());
-        sheet.add(QStringLiteral("Pattern"), counted(records.size(), QStringLiteral("direction")));
+        writeRecords(recordFile, patterns[i]);
+        writeTable(tableFile, patterns[i], farZone.power());
+        sheet.add(QStringLiteral("Pattern"), counted(patterns[i].size(), QStringLiteral("direction")));
         sheet.addDetail(QStringLiteral("Records"), recordFile);
         sheet.addDetail(QStringLiteral("Table"), tableFile);
     }
     if (!job.plot.isEmpty()) {
-        writePlot(job.plot, farZone, frequency);
+        writeFile(job.plot, plot);
         sheet.add(QStringLiteral("Plot"), job.plot);
     }
     sheet.print();
@@ -130,12 +142,11 @@ int run(const QStringList& files, const FarZoneOptions& options) {
     checkOutputs(plan, inputs);
     // The fields of all frequencies together may not fit in memory: they are loaded once to be checked and once more.
     if (plan.jobs.size() > 1) {
-        for (const FarZoneJob& job : plan.jobs) fieldsFor(job);
+        for (const FarZoneJob& job : plan.jobs) FarZone(fieldsFor(job), job);
     }
 
     for (const FarZoneJob& job : plan.jobs) {
         const FieldsOnSSFarZoneBox fields = fieldsFor(job);
-        for (const QString& output : job.outputs()) makeFolderOf(output);
         if (&job != &plan.jobs.front()) out() << '\n';
         writeFarFields(job, plan.directions, fields);
     }

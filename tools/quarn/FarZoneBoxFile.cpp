@@ -22,7 +22,7 @@ constexpr std::uint64_t headerSize = 16;
 void checkHeader(const QString& path) {
     checkName(path);
     const QFileInfo file(path);
-    if (file.exists() && !file.isFile()) {
+    if (path == QLatin1String("-") || (file.exists() && !file.isFile())) {
         throw FileProblem(path, QStringLiteral("is not a regular file; a box file is needed"));
     }
     DataFileReader reader;

@@ -10,6 +10,7 @@
 #include "CommandLine.h"
 #include "Console.h"
 #include "FarZoneBoxFile.h"
+#include "InputFile.h"
 #include "quarn/LongPathUtil.h"
 
 namespace quarn::tool {
@@ -47,18 +48,11 @@ void checkRange(const std::vector<Frequency>& frequencies, const QString& projec
     }
 }
 
-/// The frequency that the number stands for, which may differ by the rounding of a float; null when there is none.
+/// The frequency that is the same as a float, which is what the project holds; null when there is none.
 const Frequency* find(const std::vector<Frequency>& frequencies, double hertz) {
-    const double tolerance = static_cast<double>(std::numeric_limits<float>::epsilon()) * hertz;
-    const Frequency* nearest = nullptr;
-    double smallest = tolerance;
-    for (const Frequency& frequency : frequencies) {
-        const double distance = std::abs(static_cast<double>(frequency.frequency) - hertz);
-        if (!(distance <= smallest)) continue;
-        nearest = &frequency;
-        smallest = distance;
-    }
-    return nearest;
+    const auto isSame = [hertz](const Frequency& listed) { return listed.frequency == static_cast<float>(hertz); };
+    const auto found = std::find_if(frequencies.begin(), frequencies.end(), isSame);
+    return found == frequencies.end() ? nullptr : &*found;
 }
 
 [[noreturn]] void refuseFrequency(double hertz, const std::vector<Frequency>& listed, const QString& projectPath) {
@@ -187,9 +181,14 @@ void keepOutputsOfOnlyFrequency(const FarZoneJob& job, const FarZoneJob& ofOnlyF
 
 /// Throws a FileProblem when there is no place for the file, though its folder may be still to be made.
 void checkPlace(const QString& output) {
-    if (QFileInfo(output).isDir()) throw FileProblem(output, QStringLiteral("is a folder; a file is to be written"));
-    QFileInfo folder(QFileInfo(output).absolutePath());
-    while (!folder.exists() && !folder.isRoot()) folder = QFileInfo(folder.absolutePath());
+    checkName(output);
+    const QFileInfo file(output);
+    if (file.isFile() && file.isWritable()) return;
+    if (file.exists()) {
+        throw FileProblem(output, QStringLiteral("is not a file that can be written; use another --out or --plot"));
+    }
+    QFileInfo folder(file.isSymLink() ? QFileInfo(file.symLinkTarget()).absolutePath() : file.absolutePath());
+    while (!file.isSymLink() && !folder.exists() && !folder.isRoot()) folder = QFileInfo(folder.absolutePath());
     if (folder.isDir() && folder.isWritable()) return;
     throw FileProblem(output,
                       QStringLiteral("cannot be written, as %1 is not a folder that can be written to; use another "
@@ -244,6 +243,13 @@ void checkOutputs(const FarZonePlan& plan, const QStringList& inputs) {
     for (const FarZoneJob& job : plan.jobs) outputs << job.outputs();
     for (const QString& output : outputs) {
         checkPlace(output);
+        const QStringList others = outputs.mid(outputs.indexOf(output) + 1);
+        const auto other = std::find_if(
+            others.begin(), others.end(), [&output](const QString& path) { return isSameFile(path, output); });
+        if (other != others.end()) {
+            throw FileProblem(output,
+                              QStringLiteral("is the same file as %1, another output; remove the link").arg(*other));
+        }
         const bool isInput = std::any_of(
             inputs.begin(), inputs.end(), [&output](const QString& input) { return isSameFile(input, output); });
         if (isInput)

@@ -63,7 +63,8 @@ bool isStandardInput(const QString& path) { return path == QLatin1String("-"); }
 void openForReading(QFile& file) {
     const QString path = file.fileName();
     checkName(path);
-    if (QFileInfo(path).isDir()) throw FileProblem(path, QStringLiteral("is a folder, not a file"));
+    if (!isStandardInput(path) && QFileInfo(path).isDir())
+        throw FileProblem(path, QStringLiteral("is a folder, not a file"));
     const bool isOpen = isStandardInput(path) ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!isOpen) throw FileProblem(path, file.errorString());
 }

@@ -1,3 +1,5 @@
+#include <QFileInfo>
+
 #include "CommandLine.h"
 #include "Console.h"
 #include "Findings.h"
@@ -36,6 +38,13 @@ CanonicalForm canonicalForm(const QString& path) {
     }
 }
 
+/// Whether both are names of one file, which writing would change. A terminal may be both standard input and output.
+bool isSameStoredFile(const QString& in, const QString& out) {
+    const QString source = in == QLatin1String("-") ? QStringLiteral("/dev/stdin") : in;
+    const QString target = out == QLatin1String("-") ? QStringLiteral("/dev/stdout") : out;
+    return QFileInfo(source).isFile() && isSameFile(source, target);
+}
+
 void complainAboutLoss(const QString& path, const Findings& loss) {
     constexpr int most = 5;
     for (const QString& text : loss.warnings) complain(QStringLiteral("%1: warning: %2").arg(path, text));
@@ -67,8 +76,7 @@ int runRewrite(const QStringList& arguments) {
     const CanonicalForm form = canonicalForm(in);
     if (!form.loss.none()) {
         complainAboutLoss(in, form.loss);
-        const QString source = in == QLatin1String("-") ? QStringLiteral("/dev/stdin") : in;
-        if (isSameFile(source, out) && !commandLine.isSet(force)) {
+        if (!commandLine.isSet(force) && isSameStoredFile(in, out)) {
             throw FileProblem(out,
                               QStringLiteral("not written: it is the file that was read, which would lose what is not "
                                              "kept; write to another file, or add --force"));

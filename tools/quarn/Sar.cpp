@@ -1,5 +1,7 @@
+#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <filesystem>
 
 #include "CommandLine.h"
 #include "Console.h"
@@ -25,9 +27,24 @@ void checkAction(const QStringList& arguments) {
     throw WrongUsage(QStringLiteral("Unknown action '%1'; the only one is '%2'.").arg(*given, action));
 }
 
+// The library reads and writes files by name.
+QString withStandardStreams(const QString& name, const QString& stream) {
+    return name == QLatin1String("-") ? stream : name;
+}
+
 bool isFile(const QString& path) { return QFileInfo(resolveLongPath(path, true)).isFile(); }
 
-// Names each part that does not exist or was given before. Throws a FileProblem when none exists.
+// Throws a FileProblem when it cannot be told whether there is such a file.
+bool exists(const QString& path) {
+    std::error_code failure;
+    const auto status = std::filesystem::status(QFile::encodeName(resolveLongPath(path, true)).toStdString(), failure);
+    if (status.type() == std::filesystem::file_type::not_found) return false;
+    if (status_known(status)) return true;
+    throw FileProblem(path, QStringLiteral("cannot be opened: ") + QString::fromStdString(failure.message()));
+}
+
+// Names each part that does not exist, was given before or holds more than is joined of it. Throws a FileProblem when
+// none exists.
 ExitStatus checkParts(const QStringList& parts, const QString& output) {
     ExitStatus status = ExitFine;
     QStringList found;
@@ -36,9 +53,15 @@ ExitStatus checkParts(const QStringList& parts, const QString& output) {
         status = ExitFindings;
     };
     for (const QString& part : parts) {
-        if (!QFileInfo::exists(resolveLongPath(part, true))) {
+        if (!exists(part)) {
             name(part, QStringLiteral("does not exist; its records are not in the output"));
             continue;
+        }
+        SarResultReader reader;
+        if (isFile(part) && reader.beginResultReading(part)) {
+            const std::int64_t held = reader.getNumberOfRecordsLeft();
+            const QString text = QStringLiteral("holds %1 records, but its header says %2; only these are joined");
+            if (held > reader.getNumberOfRecords()) name(part, text.arg(held).arg(reader.getNumberOfRecords()));
         }
         const auto same = [&](const QString& other) { return isSameFile(other, part); };
         const auto earlier = std::find_if(found.begin(), found.end(), same);
@@ -64,9 +87,18 @@ QString cureFor(const QStringList& parts, const QString& output) {
             .arg(path, QString::number(path.size()));
     }
     for (const QString& part : parts) {
-        if (isFile(part) || !QFileInfo::exists(resolveLongPath(part, true))) continue;
-        return QStringLiteral(" '%1' is not a regular file: copy what it holds into one.").arg(part);
+        SarResultReader reader;
+        if (!exists(part) || (isFile(part) && reader.beginResultReading(part))) continue;
+        if (!isFile(part)) {
+            return QStringLiteral(" '%1' is not a regular file: copy what it holds into one.").arg(part);
+        }
+        const FileKind kind = kindOf(InputFile(part).beginning());
+        return QStringLiteral(" '%1' is %2%3.")
+            .arg(part,
+                 description(kind),
+                 QLatin1String(kind == FileKind::SarPlane ? " whose header is damaged" : ", not a SAR plane"));
     }
+    if (QFileInfo(output).isDir()) return QStringLiteral(" '%1' is a folder.").arg(output);
     const QString reason = FileReplacement(output).errorString();
     return reason.isEmpty() ? QString() : QStringLiteral(" '%1': %2.").arg(output, reason);
 }
@@ -108,8 +140,11 @@ int runSar(const QStringList& arguments) {
     checkAction(arguments);
     if (!commandLine.parse(arguments)) return ExitFine;
 
-    const QString output = commandLine.files().at(1);
-    const QStringList parts = commandLine.files().mid(2);
+    const QString output = withStandardStreams(commandLine.files().at(1), QStringLiteral("/dev/stdout"));
+    QStringList parts;
+    for (const QString& part : commandLine.files().mid(2)) {
+        parts << withStandardStreams(part, QStringLiteral("/dev/stdin"));
+    }
     checkName(output);
     const ExitStatus status = checkParts(parts, output);
     combine(parts, output);
