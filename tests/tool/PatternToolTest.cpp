@@ -121,12 +121,40 @@ const ShowRow showRows[] = {
     {"the_same_with_the_number_behind_the_range_and_comments_among_the_samples",
      patternWith("NUPOIN:,3\nFSTLST:,-90,90\n-90,-2,5\n", "FSTLST:,-90,90\nNUPOIN:,3\n-90,-2,5\n! two\n\n"),
      firstCut + changed(secondCut, "line 11", "line 13")},
+    {"where_samples_go_on_behind_a_keyword",
+     patternWith("0,0,\n", "0,0,\nCOMENT:,x\n"),
+     changed(refusedAt(9, "\"COMENT:,x\": samples go on behind a keyword that does not belong in a cut"), "line 11",
+             "line 12")},
+    {"the_first_of_two_samples_at_an_angle",
+     patternWith("180,-40,", "0,12.25,1\n-360,9,\n360,nan,\n180,-40,").replace("NUPOIN:,2", "NUPOIN:,5"),
+     firstCut + changed(secondCut, "2 from 0° to 180°, increment 180°", "5 from 0° to 180°, increment 45°") +
+         "    Left out         2 samples behind one at the same angle with another gain\n"},
     {"planes_that_are_not_given_or_not_known",
      patternWith("PATCUT:,H\n", "\n").replace("T30", "Tee"),
      changed(firstCut, "horizontal, line 3", "plane not given, line 4") +
          changed(secondCut, "T angle 30°", "unknown plane \"Tee\"")},
 };
 INSTANTIATE_TEST_SUITE_P(, ShowingAPattern, testing::ValuesIn(showRows), rowName<ShowRow>);
+
+// Cuts 1 and 2 go on behind a keyword, cut 3 repeats angles, and cuts 4 and 5 are whole.
+TEST_F(PatternTool, exports_no_part_of_a_cut_without_a_word) {
+    write("file",
+          "PATCUT:,AZ\nFSTLST:,0,270\n0,0\nCOMENT:,x\nPATFRE:,1\n90,0\nPATCUT:,V\nENDFIL:,EOF\n0,0\nPATCUT:,H\nNUPOIN:,"
+          "5\n"
+          "FSTLST:,0,9\n0,0\n360,-2\n90,10\n-270,-4\nFSTLST:,-180,180\nPATCUT:,V\n-180,10\n0,0\n180,10\nPATFRE:,2\n"
+          "Boston, MA\nPOLARI:,V/V\n0,0\nENDFIL:,EOF\n");
+    const ToolResult result = run({"export", "file"});
+    EXPECT_EQ(result.out,
+              "cut,angle_deg,gain_power_ratio,second\n1,0,1,0\n3,0,1,0\n3,90,10,0\n4,0,1,0\n4,180,10,0\n5,0,1,0\n");
+    const std::string reason = "samples go on behind a keyword that does not belong in a cut\n";
+    EXPECT_EQ(
+        result.err,
+        "quarn: file:1: cut 1: refused at line 4, \"COMENT:,x\": " + reason +
+            "quarn: file:7: cut 2: refused at line 8, \"ENDFIL:,EOF\": " + reason +
+            "quarn: file:10: cut 3: cut short: 4 of 5 samples\n"
+            "quarn: file:10: cut 3: 2 samples left out: a sample at the same angle with another gain came before\n");
+    EXPECT_EQ(result.status, 1);
+}
 
 // Cut 2 has no samples, cut 3 neither their number nor their range, cut 4 two of three, cut 5 more than it says, cut 6
 // one that is no number and cut 7 an impossible number of them.

@@ -131,6 +131,8 @@ TEST_F(ResultTool, combines_shows_and_exports_SAR_planes) {
               "  Records    1\n"
               "    SAR      250 mW/kg to 250 mW/kg\n"
               "  Cut short  the file says 2 records\n");
+    cut("b", 1);
+    EXPECT_THAT(run({"show", "b"}).out, HasSubstr("  Cut short  the file says 1 record\n"));
 }
 
 // 1, -2, 3, 1 in single precision.
@@ -202,6 +204,8 @@ TEST_P(Exporting, keeps_to_what_a_file_says_it_is) {
          "is a file of meshless vias" + isShown},
         {"eigenmode", header(42, 0), "", unknown},
         {"eigenmode", "!tavrixfdtd", "", unknown},
+        {"radiated-power", "!tavrixfdt", "", unknown},
+        {"radiated-power", "!tav", "", unknown},
         {"", header(8, 1), "", unknown},
         {"", fourFloats, "", "is of an unknown kind; say with --as KIND what records it holds"},
     };

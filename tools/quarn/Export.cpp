@@ -95,17 +95,24 @@ int exportSarPlane(const InputFile& file) {
     return ExitFindings;
 }
 
-/// Why samples of a cut are missing from the table; null when none are.
-QString lossOf(const PatternCut& cut) {
+/// Why samples of a cut are missing from the table.
+QStringList lossesOf(const PatternCut& cut) {
     const int announced = cut.plane.GetNumberOfPoints();
-    if (cut.refusal) return QStringLiteral("refused at line %1, %2").arg(cut.refusal->line).arg(cut.refusal->reason);
-    if (cut.missingSamples > 0) {
-        return QStringLiteral("cut short: %1 of %2 samples").arg(announced - cut.missingSamples).arg(announced);
+    const auto samples = [](int count) { return counted(static_cast<std::size_t>(count), QStringLiteral("sample")); };
+    QStringList losses;
+    if (cut.refusal) {
+        losses << QStringLiteral("refused at line %1, %2").arg(cut.refusal->line).arg(cut.refusal->reason);
+    } else if (cut.missingSamples > 0) {
+        losses << QStringLiteral("cut short: %1 of %2 samples").arg(announced - cut.missingSamples).arg(announced);
+    } else if (cut.leftOutLines > 0) {
+        losses << samples(cut.leftOutLines) +
+                      QStringLiteral(" left out behind the %1 that NUPOIN announces").arg(announced);
     }
-    if (cut.leftOutLines == 0) return {};
-    return QStringLiteral("%1 left out behind the %2 that NUPOIN announces")
-        .arg(counted(static_cast<std::size_t>(cut.leftOutLines), QStringLiteral("sample")))
-        .arg(announced);
+    if (cut.coincidingSamples > 0) {
+        losses << samples(cut.coincidingSamples) +
+                      QStringLiteral(" left out: a sample at the same angle with another gain came before");
+    }
+    return losses;
 }
 
 int exportPattern(const QString& name, const QByteArray& content) {
@@ -118,8 +125,7 @@ int exportPattern(const QString& name, const QByteArray& content) {
     int status = ExitFine;
     for (const PatternCut& cut : readPatternFile(name, content)) {
         ++number;
-        const QString loss = lossOf(cut);
-        if (!loss.isNull()) {
+        for (const QString& loss : lossesOf(cut)) {
             complain(name + QStringLiteral(":%1: cut %2: ").arg(cut.line).arg(number) + loss);
             status = ExitFindings;
         }

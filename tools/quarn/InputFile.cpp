@@ -24,7 +24,13 @@ constexpr int beginningSize = mebibyte / 16;
 
 bool isNearZonePoint(const QByteArray& content) { return content.startsWith("Rnzp"); }
 bool isMultiPoint(const QByteArray& content) { return content.startsWith("Rmpt"); }
-bool hasRecordHeader(const QByteArray& content) { return content.startsWith("!tavrixfdtd"); }
+
+/// Also when the content ends within the mark at the beginning of the header.
+bool hasRecordHeader(const QByteArray& content) {
+    constexpr int fewestCharacters = 4;
+    const QByteArray mark = "!tavrixfdtd";
+    return content.startsWith(mark) || (content.size() >= fewestCharacters && mark.startsWith(content));
+}
 
 template <std::uint32_t fileType>
 bool isRecordFile(const QByteArray& content) {

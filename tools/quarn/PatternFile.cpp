@@ -27,11 +27,13 @@ const QLatin1String frequencyKeyword("PATFRE");
 const QLatin1String cutKeywords[] = {cutKeyword, QLatin1String("POLARI"), countKeyword, rangeKeyword};
 
 const QString separator = QStringLiteral(":,");
+const QString anyRange = QStringLiteral("0,0");  // which no sample depends on
 
 const QString countProblem = QStringLiteral("the number of samples is not a whole number of 0 or more");
 const QString rangeProblem = QStringLiteral("the first and the last angle are not two numbers");
 const QString sampleProblem =
     QStringLiteral("the sample is not an angle and a gain, two numbers with a comma between them");
+const QString continuationProblem = QStringLiteral("samples go on behind a keyword that does not belong in a cut");
 
 QString decoded(const QByteArray& content) {
     return QTextCodec::codecForUtfText(content, QTextCodec::codecForName("UTF-8"))->toUnicode(content);
@@ -73,6 +75,18 @@ bool isRange(const QString& text) {
     return splitAtComma(text, first, last) && isAngle(first) && isAngle(last);
 }
 
+/// The sample of one line as the reader of cuts takes it.
+NSMACutPlane::Samples sampleFrom(const QString& line) {
+    QString text =
+        countKeyword + separator + QStringLiteral("1\n") + rangeKeyword + separator + anyRange + u'\n' + line;
+    QTextStream stream(&text, QIODevice::ReadOnly);
+    NSMACutPlane plane;
+    plane.StreamIn(stream, 0.0F, NSMACutPlane::Decibels);
+    return plane.GetSamples();
+}
+
+bool isSameGain(double first, double second) { return first == second || (std::isnan(first) && std::isnan(second)); }
+
 /// One cut, collected line by line. What the reader of cuts takes for granted is looked after here: that the number of
 /// samples and their range are given, in this order and before the samples, and that all of these are numbers.
 class CutText {
@@ -83,13 +97,17 @@ public:
     }
 
     bool endsBefore(const QString& keyword) const {
-        if (keyword == cutKeyword || m_hasSamples) return true;
-        return m_cut.hasRange && (!belongsToACut(keyword) || m_keywords.contains(keyword));
+        if (!belongsToACut(keyword)) return false;
+        return m_hasSamples || (m_keywords.contains(keyword) && (m_cut.hasRange || keyword == cutKeyword));
     }
 
     void addKeyword(int number, const QString& keyword, const QString& value) {
         m_keywords << keyword;
         const QString line = keyword + separator + value;
+        if (!belongsToACut(keyword)) {
+            if (!m_foreign) m_foreign = Line{number, line};
+            if (m_cut.hasRange || m_hasSamples) return;
+        }
         if (keyword == countKeyword) {
             setCount(number, line, value);
         } else if (keyword == rangeKeyword) {
@@ -108,9 +126,11 @@ public:
         QString angle, values, gain, second;
         const bool hasSecond = splitAtComma(line, angle, values) && splitAtComma(values, gain, second);
         const bool isSample = isAngle(angle) && isNumber(hasSecond ? gain : values);
-        if (!isSample && !m_cut.hasRange && !m_hasSamples) return;
+        if (!isSample && (m_foreign || (!m_cut.hasRange && !m_hasSamples))) return;
         m_hasSamples = true;
-        if (m_cut.hasCount && m_samples.size() >= m_count) {
+        if (m_foreign) {
+            refuse(m_foreign->number, m_foreign->text, continuationProblem);
+        } else if (m_cut.hasCount && m_samples.size() >= m_count) {
             m_cut.leftOutLines += line.contains(u',') ? 1 : 0;
         } else if (!isSample) {
             refuse(number, line, sampleProblem);
@@ -133,11 +153,30 @@ public:
             m_cut.refusal.reset();  // which is further down
             refuse(m_headerNumbers[static_cast<std::size_t>(index)], m_header[index], refusalReason(m_header[index]));
         }
+        countCoincidingSamples();
         m_cut.missingSamples = std::max(m_count - m_samples.size(), 0);
         return std::move(m_cut);
     }
 
 private:
+    struct Line {
+        int number;
+        QString text;
+    };
+
+    /// The reader of cuts keeps the first sample at an angle.
+    void countCoincidingSamples() {
+        const auto& kept = m_cut.plane.GetSamples();
+        if (static_cast<std::size_t>(m_samples.size()) == kept.size()) return;
+        for (const QString& line : m_samples) {
+            for (const auto& [angle, values] : sampleFrom(line)) {
+                const auto first = kept.find(angle);
+                if (first == kept.end() || isSameGain(first->second.first, values.first)) continue;
+                ++m_cut.coincidingSamples;
+            }
+        }
+    }
+
     void setCount(int number, const QString& line, const QString& value) {
         bool isInteger = false;
         m_cut.hasCount = true;
@@ -154,10 +193,11 @@ private:
     QSet<QString> m_keywords;
     QStringList m_header;  ///< keywords but for the number of samples and the range
     std::vector<int> m_headerNumbers;
-    QStringList m_samples;  ///< those before a refusal
+    QStringList m_samples;          ///< those before a refusal
+    std::optional<Line> m_foreign;  ///< the first keyword that does not belong in a cut
     bool m_hasSamples = false;
     int m_count = 0;
-    QString m_range = QStringLiteral("0,0");  ///< which no sample depends on
+    QString m_range = anyRange;
 };
 
 /// Takes a file line by line and finds where its cuts start and end.
@@ -166,11 +206,8 @@ public:
     void addKeyword(int line, const QString& keyword, const QString& value) {
         if (m_open && m_open->endsBefore(keyword)) closeCut();
         if (!m_open && belongsToACut(keyword)) m_open.emplace(line, m_frequency);
-        if (m_open) {
-            m_open->addKeyword(line, keyword, value);
-        } else if (keyword == frequencyKeyword) {
-            m_frequency = frequencyFrom(value);
-        }
+        if (m_open) m_open->addKeyword(line, keyword, value);
+        if (keyword == frequencyKeyword) m_frequency = frequencyFrom(value);
     }
 
     void addOther(int number, const QString& line) {

@@ -113,6 +113,11 @@ void addCut(Sheet& sheet, std::size_t number, const PatternCut& cut) {
     if (cut.leftOutLines > 0) {
         sheet.addDetail(text("Left out"), lines(cut.leftOutLines) + text(" after the last point"));
     }
+    if (cut.coincidingSamples > 0) {
+        sheet.addDetail(text("Left out"),
+                        counted(static_cast<std::size_t>(cut.coincidingSamples), text("sample")) +
+                            text(" behind one at the same angle with another gain"));
+    }
 }
 
 }  // namespace

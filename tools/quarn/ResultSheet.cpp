@@ -114,8 +114,9 @@ Sheet sheetOfSarPlane(const InputFile& file) {
     sheet.add(text("Records"), QString::number(records));
     sheet.addDetail(text("SAR"), range.text(text("W/kg")));
     const int announced = reader.getNumberOfRecords();
-    if (records < announced) sheet.add(text("Cut short"), text("the file says %1 records").arg(announced));
-    if (records > announced) sheet.add(text("Appended"), text("the file says %1 records").arg(announced));
+    if (records == announced) return sheet;
+    sheet.add(text(records < announced ? "Cut short" : "Appended"),
+              text("the file says ") + counted(static_cast<std::size_t>(announced), text("record")));
     return sheet;
 }
 
