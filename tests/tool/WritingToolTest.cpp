@@ -51,11 +51,11 @@ TEST_F(WritingTool, sar_combine_names_what_is_odd_and_what_is_written) {
         {"combine LONGother a", "other' has 263 characters" + cure, 2},
         {"combine other a pipe", "'pipe' is not a regular file: copy what it holds into one.\n", 2},
         {"combine other a text", "'text' is of an unknown kind, not a SAR plane.\n", 2},
-        {"combine other a loop", "quarn: loop: cannot be opened: Too many levels of symbolic links\n", 2},
+        {"combine other a loop", "quarn: loop: cannot be opened: " + std::generic_category().message(ELOOP), 2},
         {"combine out more bb", "quarn: more: holds 2 records, but its header says 1; only these are joined\n", 1},
         {"combine out a link bb a", written + "5 records\n", 1},
         {"combine loop a", "loop: is a link that leads nowhere but to itself; remove it or give another name\n", 2},
-        {"combine no/out a", "'no/out': No such file or directory.\n", 2},
+        {"combine no/out a", "'no/out': " + std::generic_category().message(ENOENT) + ".\n", 2},
     };
     write("out", "");
     write("text", "no plane");
