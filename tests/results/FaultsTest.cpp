@@ -6,8 +6,10 @@
 #include <sys/mount.h>
 
 #include <QFileInfo>
+#include <cerrno>
 #include <climits>
 #include <memory>
+#include <system_error>
 
 #include "Faults.h"
 #include "TestSupport.h"

@@ -2,7 +2,9 @@
 #include <unistd.h>
 
 #include <QDir>
+#include <cerrno>
 #include <csignal>
+#include <system_error>
 
 #include "tool/ToolFixture.h"
 
