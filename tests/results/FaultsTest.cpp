@@ -188,7 +188,7 @@ TEST_P(ReplacingWriter, writes_into_a_file_that_cannot_be_replaced) {
     putEarlier("mounted", 0755);
     const QByteArray mountPoint = m_folder.path("mounted/out").toLocal8Bit();
     const QByteArray origin = m_folder.put("mounted/origin", QByteArray(999, 'x')).toLocal8Bit();
-    const bool isMounted = mount(origin, mountPoint, nullptr, MS_BIND, nullptr) == 0;  // where that is permitted
+    const bool isMounted = mount(origin, mountPoint, "", MS_BIND, "") == 0;  // where that is permitted
     ASSERT_TRUE(m_folder.linkHard("linked/out", "linked/2") && writes("plain"));
     EXPECT_TRUE(writes("linked/out") && writes("mounted/out"));
     EXPECT_TRUE(writesWith<WithoutPrivileges>("closed/out") && writesWith<WithoutPrivileges>("everybody/out"));
