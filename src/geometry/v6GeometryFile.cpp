@@ -79,13 +79,13 @@ bool readFileStart(QTextStream& in, QStringList& errors) {
 bool initialize(Grid* grid, const GeometryContents& contents, QStringList& errors) {
     constexpr std::uint64_t mostCells = 1U << 22;
     const auto& [x, y, z] = contents.gridAxes;
-    const auto isLaidOut = [&] {
-        return grid->initialize(x.cells, y.cells, z.cells, x.origin, y.origin, z.origin, x.runs, y.runs, z.runs, true);
-    };
-    const std::uint64_t cells = std::uint64_t{x.cells} + y.cells + z.cells;
-    if (cells <= mostCells && (!grid || isLaidOut())) return true;
-    errors << refusedGrid;
-    return false;
+    bool isAccepted = std::uint64_t{x.cells} + y.cells + z.cells <= mostCells;
+    if (isAccepted && grid) {
+        isAccepted =
+            grid->initialize(x.cells, y.cells, z.cells, x.origin, y.origin, z.origin, x.runs, y.runs, z.runs, true);
+    }
+    if (!isAccepted) errors << refusedGrid;
+    return isAccepted;
 }
 
 // The whole part of a number, or 0 where it is none that an int holds.

@@ -105,6 +105,7 @@ void writeFarFields(const FarZoneJob& job, const std::vector<FarZoneAngles>& dir
     const FarZone farZone(fields, job);
     const QByteArray plot = plotOf(job, farZone, frequency);
     std::vector<FarZoneRecords> patterns;
+    patterns.reserve(directions.size());
     for (const FarZoneAngles& angles : directions) patterns.push_back(farZone.in(angles));
 
     for (const QString& output : job.outputs()) makeFolderOf(output);
