@@ -21,6 +21,8 @@ PlaneWave::PlaneWave(const PlaneWave& other) : PlaneWave(ScatteredField, other) 
 PlaneWave::PlaneWave(Type type, const PlaneWave& other)
     : PlaneWave(type, other.m_theta, other.m_phi, other.m_amplitude, other.m_polarization, other.m_outputFileName) {}
 
+// The type stays: an object never changes its class.
+// cppcheck-suppress operatorEqVarError
 PlaneWave& PlaneWave::operator=(const PlaneWave& other) {
     m_theta = other.m_theta;
     m_phi = other.m_phi;
