@@ -58,9 +58,11 @@ void checkValues(const QString& path, const FieldsOnSSFarZoneBox& fields) {
         }
     }
     if (notFinite > 0) {
-        throw FileProblem(path,
-                          QStringLiteral("holds %1 that are not finite numbers; the run has probably diverged")
-                              .arg(counted(notFinite, QStringLiteral("value"))));
+        throw FileProblem(
+            path,
+            QStringLiteral("holds %1 that %2; the run has probably diverged")
+                .arg(counted(notFinite, QStringLiteral("value")),
+                     QLatin1String(notFinite == 1 ? "is not a finite number" : "are not finite numbers")));
     }
     if (!areAllZero) return;
     throw FileProblem(path, QStringLiteral("all fields are zero; check that the run was excited at this frequency"));
