@@ -5,6 +5,7 @@
 #include <memory>
 #include <type_traits>
 
+#include "quarn/Description.h"
 #include "quarn/Export.h"
 
 namespace quarn {
@@ -40,6 +41,8 @@ public:
     friend bool operator!=(const PhysicalParameters& a, const PhysicalParameters& b) { return !(a == b); }
 
 private:
+    friend struct blocktext::Description<PhysicalParameters>;
+
     float m_density;
     float m_heatCapacity;
     float m_thermalConductivity;

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "quarn/Description.h"
 #include "quarn/Export.h"
 
 namespace quarn {
@@ -62,6 +63,8 @@ public:
     friend bool operator!=(const SARAveragingRequest& a, const SARAveragingRequest& b) { return !(a == b); }
 
 private:
+    friend struct blocktext::Description<SARAveragingRequest>;
+
     bool m_compute1gAverage = false;
     bool m_compute10gAverage = false;
     bool m_treatDataOutsideAsAir = false;

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 
+#include "quarn/Description.h"
 #include "quarn/Export.h"
 #include "quarn/Material.h"
 
@@ -85,8 +86,7 @@ public:
     friend bool operator!=(const TemperatureRiseRequest& a, const TemperatureRiseRequest& b) { return !(a == b); }
 
 private:
-    struct Medium;
-    static const std::array<Medium, 4> media;
+    friend struct blocktext::Description<TemperatureRiseRequest>;
 
     bool m_keepNonSARTemperatureFiles = false;
     bool m_keepSARTemperatureFiles = false;

@@ -131,93 +131,122 @@ OnLine<Read> onLine(Read read) {
     return {read};
 }
 
+/// What becomes of a block or word that is offered: nobody knows it, it was read and the walk continues, or it was read
+/// and ends the walk.
+enum class Offer { Unknown, Continue, End };
+
 namespace detail {
 
-template <class Handler, class... Arguments>
-bool goesOn(Handler& handler, Arguments&&... arguments) {
-    if constexpr (std::is_void_v<std::invoke_result_t<Handler&, Arguments...>>) {
-        handler(std::forward<Arguments>(arguments)...);
-        return true;
+// A handler that returns nothing continues the walk.
+template <class Read, class... Arguments>
+Offer call(Read& read, Arguments&&... arguments) {
+    if constexpr (std::is_void_v<std::invoke_result_t<Read&, Arguments...>>) {
+        read(std::forward<Arguments>(arguments)...);
+        return Offer::Continue;
     } else {
-        return handler(std::forward<Arguments>(arguments)...);
+        return read(std::forward<Arguments>(arguments)...) ? Offer::Continue : Offer::End;
     }
 }
 
-// Each offers an entry to one handler: true when the handler took it; `proceed` is what the handler returned.
 template <class Read>
-bool offerBlock(OnBlock<Read>& handler, const QString& name, const QString& value, bool& proceed) {
-    if (name != handler.name) return false;
+Offer offerBlock(OnBlock<Read>& handler, const QString& name, const QString& value) {
+    if (name != handler.name) return Offer::Unknown;
     if constexpr (std::is_invocable_v<Read&, const QString&>) {
-        proceed = goesOn(handler.read, value);
+        return call(handler.read, value);
     } else {
-        proceed = goesOn(handler.read);
+        return call(handler.read);
     }
-    return true;
 }
 template <class Other>
-bool offerBlock(Other&, const QString&, const QString&, bool&) {
-    return false;
+Offer offerBlock(Other&, const QString&, const QString&) {
+    return Offer::Unknown;
 }
 
 template <class Read>
-bool offerWord(OnWord<Read>& handler, QStringView word, QTextStream& in, bool& proceed) {
-    if (word != handler.word) return false;
+Offer offerWord(OnWord<Read>& handler, QStringView word, QTextStream& in) {
+    if (word != handler.word) return Offer::Unknown;
     if constexpr (std::is_invocable_v<Read&, QTextStream&>) {
-        proceed = goesOn(handler.read, in);
+        return call(handler.read, in);
     } else {
-        proceed = goesOn(handler.read);
+        return call(handler.read);
     }
-    return true;
 }
 template <class Other>
-bool offerWord(Other&, QStringView, QTextStream&, bool&) {
-    return false;
+Offer offerWord(Other&, QStringView, QTextStream&) {
+    return Offer::Unknown;
 }
 
 template <class Read>
-bool offerLine(OnLine<Read>& handler, QTextStream& in, bool& proceed) {
-    proceed = goesOn(handler.read, in.readLine());
-    return true;
+Offer offerLine(OnLine<Read>& handler, QTextStream& in) {
+    return call(handler.read, in.readLine());
 }
 template <class Other>
-bool offerLine(Other&, QTextStream&, bool&) {
-    return false;
+Offer offerLine(Other&, QTextStream&) {
+    return Offer::Unknown;
 }
 
-template <bool lookForBlocks, class... Handlers>
-bool walk(DelimManager& delim, Unknown unknown, Handlers&... handlers) {
-    QTextStream& in = delim.GetStream();
-    QString name, value, description, buffer;
-    bool proceed = true;
-    while (proceed && delim.ContinueReading()) {
-        name.clear();
-        if (lookForBlocks && delim.IsDelim(name, value, description)) {
-            if ((offerBlock(handlers, name, value, proceed) || ...)) continue;
-            if (unknown == Unknown::Stop) return false;
-            delim.SeekToEndOfDelim();
-            continue;
-        }
-        if ((offerLine(handlers, in, proceed) || ...)) continue;
-        const QStringView word = readWord(in, buffer);
-        if ((offerWord(handlers, word, in, proceed) || ...)) continue;
-        if (unknown == Unknown::Stop) return false;
-        if (unknown == Unknown::DropLine) dropLine(in);
-    }
-    return proceed;
+// The first answer of `offer` that is not Unknown, called for one handler or line after the other.
+template <class Offered, class... Takers>
+Offer offerToEach([[maybe_unused]] Offered offer, Takers&... takers) {
+    Offer answer = Offer::Unknown;
+    static_cast<void>((((answer = offer(takers)) != Offer::Unknown) || ...));
+    return answer;
 }
+
+template <class... Handlers>
+struct HandlerList {
+    std::tuple<Handlers...> handlers;
+
+    Offer block(const QString& name, const QString& value) {
+        const auto offer = [&](auto& handler) { return offerBlock(handler, name, value); };
+        return std::apply([&](auto&... each) { return offerToEach(offer, each...); }, handlers);
+    }
+    Offer word(QStringView word, QTextStream& in) {
+        const auto offer = [&](auto& handler) { return offerWord(handler, word, in); };
+        return std::apply([&](auto&... each) { return offerToEach(offer, each...); }, handlers);
+    }
+    Offer line(QTextStream& in) {
+        const auto offer = [&](auto& handler) { return offerLine(handler, in); };
+        return std::apply([&](auto&... each) { return offerToEach(offer, each...); }, handlers);
+    }
+};
 
 }  // namespace detail
+
+/// Walks the rest of the innermost open block and offers what it finds to `content`, which has the functions
+/// block(name, value), word(word, stream) and line(stream). Where `findsBlocks` is false, what looks like an open line
+/// is words. False when the content or Unknown::Stop ended the walk early.
+template <bool findsBlocks, class Content>
+bool walkContent(DelimManager& delim, Unknown unknown, Content& content) {
+    QTextStream& in = delim.GetStream();
+    QString name, value, description, buffer;
+    while (delim.ContinueReading()) {
+        name.clear();
+        Offer answer = Offer::Unknown;
+        if (findsBlocks && delim.IsDelim(name, value, description)) {
+            answer = content.block(name, value);
+            if (answer == Offer::Unknown && unknown != Unknown::Stop) delim.SeekToEndOfDelim();
+        } else if ((answer = content.line(in)) == Offer::Unknown) {
+            answer = content.word(readWord(in, buffer), in);
+            if (answer == Offer::Unknown && unknown == Unknown::DropLine) dropLine(in);
+        }
+        if (answer == Offer::End || (answer == Offer::Unknown && unknown == Unknown::Stop)) return false;
+    }
+    return true;
+}
 
 /// Walks the rest of the innermost open block. False when a handler or Unknown::Stop ended it early.
 template <class... Handlers>
 bool walkBlock(DelimManager& delim, Unknown unknown, Handlers... handlers) {
-    return detail::walk<true>(delim, unknown, handlers...);
+    detail::HandlerList<Handlers...> content{{handlers...}};
+    return walkContent<true>(delim, unknown, content);
 }
 
 /// Walks a block whose lines hold only words: what looks like an open line there is words too.
 template <class... Handlers>
 bool walkWords(DelimManager& delim, Unknown unknown, Handlers... handlers) {
-    return detail::walk<false>(delim, unknown, handlers...);
+    detail::HandlerList<Handlers...> content{{handlers...}};
+    return walkContent<false>(delim, unknown, content);
 }
 
 /// Walks a block that is one list, calling `read` at the start of each entry.

@@ -114,24 +114,22 @@ double Line::sheetArea() const {
 }
 
 QTextStream& operator<<(QTextStream& out, CircuitComponent::PinGroup::ModelType model) {
-    return out << nameOf(names::pinGroupModels, model, QLatin1String("UnknownPinGroupModelType"));
+    names::pinGroupModel.write(out, model);
+    return out;
 }
 
 QTextStream& operator<<(QTextStream& out, CircuitComponent::PinGroup::SignalType signal) {
-    return out << nameOf(names::pinGroupSignals, signal, QLatin1String("UnknownPinGroupSignalType"));
+    names::pinGroupSignal.write(out, signal);
+    return out;
 }
 
 QTextStream& operator>>(QTextStream& in, CircuitComponent::PinGroup::ModelType& model) {
-    QString word;
-    in >> word;
-    model = valueOf(names::pinGroupModels, word, CircuitComponent::PinGroup::UnknownModel);
+    names::pinGroupModel.read(in, model);
     return in;
 }
 
 QTextStream& operator>>(QTextStream& in, CircuitComponent::PinGroup::SignalType& signal) {
-    QString word;
-    in >> word;
-    signal = valueOf(names::pinGroupSignals, word, CircuitComponent::PinGroup::UnknownSignal);
+    names::pinGroupSignal.read(in, signal);
     return in;
 }
 

@@ -1,8 +1,6 @@
 #include <typeindex>
 
-#include "circuit/ComponentNames.h"
-#include "circuit/EqualityReport.h"
-#include "quarn/CircuitComponent.h"
+#include "circuit/ImpedanceLineBlock.h"
 
 namespace quarn {
 
@@ -44,38 +42,16 @@ struct PointsOnLines {
 
 }  // namespace
 
-bool operator==(const Component::Pin& a, const Component::Pin& b) {
-    using Pin = Component::Pin;
-    return areEqual(a,
-                    b,
-                    member("quarn::CircuitComponent::Pin::name, diff:", &Pin::name, OnItsLine()),
-                    member("quarn::CircuitComponent::Pin::point", &Pin::point),
-                    member("quarn::CircuitComponent::Pin::weight", &Pin::weight));
-}
+bool operator==(const Component::Pin& a, const Component::Pin& b) { return circuit::pinBlock.areEqual(a, b); }
 
 bool operator==(const Component::PinGroup& a, const Component::PinGroup& b) {
-    using PinGroup = Component::PinGroup;
-    return areEqual(a,
-                    b,
-                    member("quarn::CircuitComponent::PinGroup::name", &PinGroup::name),
-                    member("quarn::CircuitComponent::PinGroup::model", &PinGroup::model),
-                    member("quarn::CircuitComponent::PinGroup::signal", &PinGroup::signal),
-                    member("quarn::CircuitComponent::PinGroup::pins", &PinGroup::pins));
+    return circuit::pinGroupBlock.areEqual(a, b);
 }
 
 bool Component::PinGroup::equal(const PinGroup& other) const { return *this == other; }
 
 bool operator==(const Component::ImpedanceLine& a, const Component::ImpedanceLine& b) {
-    using Line = Component::ImpedanceLine;
-    const auto nodes = [](const Line& line) { return std::make_pair(line.nodes[0], line.nodes[1]); };
-    return areEqual(a,
-                    b,
-                    member("quarn::CircuitComponent::ImpedanceLine::nodes", nodes),
-                    member("quarn::CircuitComponent::ImpedanceLine::type", &Line::type),
-                    member("quarn::CircuitComponent::ImpedanceLine::radius", &Line::radius),
-                    member("quarn::CircuitComponent::ImpedanceLine::sheetCorners", &Line::sheetCorners),
-                    member("quarn::CircuitComponent::ImpedanceLine::injectionLines", &Line::injectionLines),
-                    member("quarn::CircuitComponent::ImpedanceLine::pinGroups", &Line::pinGroups));
+    return circuit::impedanceLineBlock.areEqual(a, b);
 }
 
 // Objects of different classes are never equal, even where nothing that is listed tells them apart.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "blocktext/NameTable.h"
+#include "blocktext/ValueForms.h"
 #include "quarn/CircuitComponent.h"
 
 /// The names of the enumerations of circuit components, in text forms and in files.
@@ -59,11 +59,15 @@ constexpr blocktext::NameTable<Component::PinGroup::ModelType, 3> pinGroupModels
     {Component::PinGroup::EquiVoltage, "EquiVoltage"_key},
     {Component::PinGroup::SpecifiedCurrent, "SpecifiedCurrent"_key},
 }};
+constexpr auto pinGroupModel =
+    blocktext::nameFrom(pinGroupModels, "UnknownPinGroupModelType"_key, Component::PinGroup::UnknownModel);
 
 constexpr blocktext::NameTable<Component::PinGroup::SignalType, 2> pinGroupSignals{{
     {Component::PinGroup::Ground, "ground"_key},
     {Component::PinGroup::Signal, "signal"_key},
 }};
+constexpr auto pinGroupSignal =
+    blocktext::nameFrom(pinGroupSignals, "UnknownPinGroupSignalType"_key, Component::PinGroup::UnknownSignal);
 
 inline QLatin1String of(Component::CircuitComponentType type) { return nameOf(componentTypes, type, ""_key); }
 inline QLatin1String of(Component::Calibration value) { return nameOf(calibrations, value, undefinedCalibration); }

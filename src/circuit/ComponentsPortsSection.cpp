@@ -1,9 +1,8 @@
 #include "blocktext/BlockWalker.h"
 #include "blocktext/BlockWriter.h"
 #include "circuit/CircuitSections.h"
-#include "circuit/ComponentGeometrySection.h"
 #include "circuit/ComponentKindSection.h"
-#include "circuit/ComponentNames.h"
+#include "circuit/ImpedanceLineBlock.h"
 #include "quarn/ComponentKinds.h"
 
 namespace quarn {
@@ -53,8 +52,8 @@ auto onLocation(QLatin1String word, unsigned& index) {
 void writeComponent(DelimManager& delim, const CircuitComponent& component, int& nonlinearCapacitors) {
     const WrittenBlock block(delim, key::FeedData);
     putLine(delim, key::ComponentName, component.getComponentName());
-    for (const auto& point : component.getEndPoints()) writePoint(delim, key::EndPoint, point);
-    for (const auto& line : component.getImpedanceLines()) writeImpedanceLine(delim, line);
+    for (const auto& point : component.getEndPoints()) circuit::pointBlock("EndPoint").write(delim, point);
+    for (const auto& line : component.getImpedanceLines()) circuit::impedanceLineBlock.write(delim, line);
     writeLocation(delim, key::XLocation, component.getXIndex());
     writeLocation(delim, key::YLocation, component.getYIndex());
     writeLocation(delim, key::ZLocation, component.getZIndex());
@@ -97,19 +96,21 @@ struct Record {
 };
 
 void readRecord(DelimManager& delim, Record& record) {
-    walkKind(delim,
-             record.kind,
-             onText(key::ComponentName, record.name),
-             onBlock(key::EndPoint, [&] { record.endPoints.push_back(readPoint(delim)); }),
-             onBlock(key::ImpedanceLine, [&] { record.impedanceLines.push_back(readImpedanceLine(delim)); }),
-             onLocation(key::XLocation, record.x),
-             onLocation(key::YLocation, record.y),
-             onLocation(key::ZLocation, record.z),
-             onValue(key::CellEdgeDirection, record.direction),
-             onFlag(key::IsPort, record.isPort),
-             onText(key::FileName, record.fileName),
-             onName(key::TermType, names::termTypes, record.termType),
-             onName(key::Calibration, names::calibrations, record.calibration));
+    walkKind(
+        delim,
+        record.kind,
+        onText(key::ComponentName, record.name),
+        onBlock(key::EndPoint, [&] { circuit::pointBlock("EndPoint").read(delim, record.endPoints.emplace_back()); }),
+        onBlock(key::ImpedanceLine,
+                [&] { circuit::impedanceLineBlock.read(delim, record.impedanceLines.emplace_back()); }),
+        onLocation(key::XLocation, record.x),
+        onLocation(key::YLocation, record.y),
+        onLocation(key::ZLocation, record.z),
+        onValue(key::CellEdgeDirection, record.direction),
+        onFlag(key::IsPort, record.isPort),
+        onText(key::FileName, record.fileName),
+        onName(key::TermType, names::termTypes, record.termType),
+        onName(key::Calibration, names::calibrations, record.calibration));
 }
 
 std::unique_ptr<CircuitComponent> componentOf(const Record& record,

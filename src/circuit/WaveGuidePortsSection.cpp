@@ -1,8 +1,8 @@
 #include "blocktext/BlockWalker.h"
 #include "blocktext/BlockWriter.h"
 #include "circuit/CircuitSections.h"
-#include "circuit/ComponentGeometrySection.h"
 #include "circuit/ComponentNames.h"
+#include "circuit/ImpedanceLineBlock.h"
 #include "circuit/WaveGuideNames.h"
 
 namespace quarn {
@@ -51,9 +51,9 @@ void writePort(DelimManager& delim, const WaveGuidePort& port) {
     putLine(delim, key::FileName, port.getOutputFilename());
     putLine(delim, key::ModeName, port.getWaveGuideModeName());
     putLine(delim, key::TermType, names::of(port.termType()));
-    writePoint(delim, key::SnappedHead, port.getSnappedHead());
-    writePoint(delim, key::SnappedTail, port.getSnappedTail());
-    for (const auto& point : port.planarPolygon()) writePoint(delim, key::PolygonPoint, point);
+    circuit::pointBlock("SnappedHead").write(delim, port.getSnappedHead());
+    circuit::pointBlock("SnappedTail").write(delim, port.getSnappedTail());
+    for (const auto& point : port.planarPolygon()) circuit::pointBlock("PolygonPoint").write(delim, point);
 }
 
 std::unique_ptr<WaveGuidePort> readPort(DelimManager& delim) {
@@ -79,9 +79,19 @@ std::unique_ptr<WaveGuidePort> readPort(DelimManager& delim) {
         onSetting(key::FileName, *port, &WaveGuidePort::setOutputFilename),
         onSetting(key::ModeName, *port, &WaveGuidePort::setWaveGuideModeName),
         onName(key::TermType, names::termTypes, termType, TermType::InputOutput),
-        onBlock(key::SnappedHead, [&] { port->setSnappedHead(readPoint(delim)); }),
-        onBlock(key::SnappedTail, [&] { port->setSnappedTail(readPoint(delim)); }),
-        onBlock(key::PolygonPoint, [&] { polygon.push_back(readPoint(delim)); }));
+        onBlock(key::SnappedHead,
+                [&] {
+                    tavrix::Cartesian3D p;
+                    circuit::pointBlock("").read(delim, p);
+                    port->setSnappedHead(p);
+                }),
+        onBlock(key::SnappedTail,
+                [&] {
+                    tavrix::Cartesian3D p;
+                    circuit::pointBlock("").read(delim, p);
+                    port->setSnappedTail(p);
+                }),
+        onBlock(key::PolygonPoint, [&] { circuit::pointBlock("").read(delim, polygon.emplace_back()); }));
     port->setWaveGuidePortType(type);
     port->setWaveGuideImpedanceType(impedance);
     port->setTermType(termType);

@@ -1,9 +1,6 @@
 #include "quarn/Material.h"
 
-#include <tuple>
-
-#include "blocktext/BlockWalker.h"
-#include "blocktext/BlockWriter.h"
+#include "geometry/PhysicalParametersBlock.h"
 
 namespace quarn {
 
@@ -11,14 +8,7 @@ using namespace blocktext;
 
 namespace {
 
-namespace key {
-constexpr auto PhysicalParameters = "PhysicalParameters"_key;
-constexpr auto density = "density"_key;
-constexpr auto heatCapacity = "heatCapacity"_key;
-constexpr auto thermalConductivity = "thermalConductivity"_key;
-constexpr auto perfussionByBlood = "perfussionByBlood"_key;
-constexpr auto metabolicHeat = "metabolicHeat"_key;
-}  // namespace key
+constexpr auto physicalParameters = Description<PhysicalParameters>::block();
 
 }  // namespace
 
@@ -31,33 +21,15 @@ PhysicalParameters::PhysicalParameters(float density, float heatCapacity, float 
       m_metabolicHeat(metabolicHeat) {}
 
 bool PhysicalParameters::streamIn(DelimManager& delim) {
-    walkWords(delim,
-              Unknown::DropLine,
-              onValue(key::density, m_density),
-              onValue(key::heatCapacity, m_heatCapacity),
-              onValue(key::thermalConductivity, m_thermalConductivity),
-              onValue(key::perfussionByBlood, m_perfussionByBlood),
-              onValue(key::metabolicHeat, m_metabolicHeat));
+    physicalParameters.read(delim, *this);
     return isOk(delim);
 }
 
 bool PhysicalParameters::streamOut(DelimManager& delim, const QString& label) const {
-    WrittenBlock block(delim, key::PhysicalParameters, label);
-    putLine(delim, key::density, m_density);
-    putLine(delim, key::heatCapacity, m_heatCapacity);
-    putLine(delim, key::thermalConductivity, m_thermalConductivity);
-    putLine(delim, key::perfussionByBlood, m_perfussionByBlood);
-    putLine(delim, key::metabolicHeat, m_metabolicHeat);
-    return block.end();
+    return physicalParameters.write(delim, *this, label);
 }
 
-bool operator==(const PhysicalParameters& a, const PhysicalParameters& b) {
-    const auto fields = [](const PhysicalParameters& p) {
-        return std::tie(
-            p.m_density, p.m_heatCapacity, p.m_thermalConductivity, p.m_perfussionByBlood, p.m_metabolicHeat);
-    };
-    return fields(a) == fields(b);
-}
+bool operator==(const PhysicalParameters& a, const PhysicalParameters& b) { return physicalParameters.areEqual(a, b); }
 
 Material::~Material() = default;
 

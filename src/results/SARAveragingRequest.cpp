@@ -1,50 +1,43 @@
 #include "quarn/SARAveragingRequest.h"
 
-#include <tuple>
-
-#include "blocktext/BlockWalker.h"
-#include "blocktext/BlockWriter.h"
 #include "results/BoundLines.h"
 
 namespace quarn {
 
 using namespace blocktext;
 
+// A plane is called by its normal here.
+template <>
+struct blocktext::Description<SARAveragingRequest> {
+    using R = SARAveragingRequest;
+    static constexpr auto block() {
+        return describeWords<R>(
+            "SARAveraging",
+            Unknown::DropLine,
+            Unreadable::KeepsValue,
+            flag("average_one_gram", &R::m_compute1gAverage),
+            flag("average_ten_grams", &R::m_compute10gAverage),
+            flag("automatic_subregion", &R::m_useAutomaticSubregion),
+            value("automatic_subregion_cutoff_in_db", &R::m_subregionCutoff)
+                .onlyWith(&R::m_useAutomaticSubregion)
+                .in("dB"),
+            lowerBound(&R::m_lowerBound),
+            upperBound(&R::m_upperBound),
+            flag("save_ten_gram_x_slices", &R::m_save10gYZPlanes),
+            flag("save_ten_gram_y_slices", &R::m_save10gZXPlanes),
+            flag("save_ten_gram_z_slices", &R::m_save10gXYPlanes),
+            flag("save_one_gram_x_slices", &R::m_save1gYZPlanes),
+            flag("save_one_gram_y_slices", &R::m_save1gZXPlanes),
+            flag("save_one_gram_z_slices", &R::m_save1gXYPlanes),
+            flag("outside_region_treated_as_air", &R::m_treatDataOutsideAsAir),
+            value("materials_to_use", &R::m_materialsToUse, counted(StoredAs<unsigned>())).unlessEmpty(),
+            text("outputAveragedFileName", &R::m_outputAveragedFileName));
+    }
+};
+
 namespace {
 
-namespace key {
-constexpr auto SARAveraging = "SARAveraging"_key;
-constexpr auto average_one_gram = "average_one_gram"_key;
-constexpr auto average_ten_grams = "average_ten_grams"_key;
-constexpr auto automatic_subregion = "automatic_subregion"_key;
-constexpr auto automatic_subregion_cutoff_in_db = "automatic_subregion_cutoff_in_db"_key;
-constexpr auto save_ten_gram_x_slices = "save_ten_gram_x_slices"_key;
-constexpr auto save_ten_gram_y_slices = "save_ten_gram_y_slices"_key;
-constexpr auto save_ten_gram_z_slices = "save_ten_gram_z_slices"_key;
-constexpr auto save_one_gram_x_slices = "save_one_gram_x_slices"_key;
-constexpr auto save_one_gram_y_slices = "save_one_gram_y_slices"_key;
-constexpr auto save_one_gram_z_slices = "save_one_gram_z_slices"_key;
-constexpr auto outside_region_treated_as_air = "outside_region_treated_as_air"_key;
-constexpr auto materials_to_use = "materials_to_use"_key;
-constexpr auto outputAveragedFileName = "outputAveragedFileName"_key;
-}  // namespace key
-
-void writeMaterials(DelimManager& delim, const std::vector<std::uint8_t>& materials) {
-    if (materials.empty()) return;
-    QTextStream& out = delim.GetStream();
-    out << key::materials_to_use << ' ' << materials.size();
-    for (const std::uint8_t material : materials) out << ' ' << unsigned{material};
-    out << '\n';
-}
-
-void readMaterials(QTextStream& in, std::vector<std::uint8_t>& materials) {
-    readCounted(in, [&materials](QTextStream& from) {
-        unsigned material = 0;
-        const bool isRead = readValue(from, material);
-        if (isRead) materials.push_back(static_cast<std::uint8_t>(material));
-        return isRead;
-    });
-}
+constexpr auto sarAveraging = Description<SARAveragingRequest>::block();
 
 }  // namespace
 
@@ -72,65 +65,12 @@ SARAveragingRequest::SARAveragingRequest(bool compute1gAverage, bool compute10gA
       m_save10gYZPlanes(save10gYZPlanes),
       m_outputAveragedFileName(outputAveragedFileName) {}
 
-// A plane is called by its normal here.
-bool SARAveragingRequest::streamOut(DelimManager& delim) const {
-    WrittenBlock block(delim, key::SARAveraging);
-    putFlag(delim, key::average_one_gram, m_compute1gAverage);
-    putFlag(delim, key::average_ten_grams, m_compute10gAverage);
-    putFlag(delim, key::automatic_subregion, m_useAutomaticSubregion);
-    if (m_useAutomaticSubregion) putLine(delim, key::automatic_subregion_cutoff_in_db, m_subregionCutoff);
-    putBounds(delim, m_lowerBound, m_upperBound);
-    putFlag(delim, key::save_ten_gram_x_slices, m_save10gYZPlanes);
-    putFlag(delim, key::save_ten_gram_y_slices, m_save10gZXPlanes);
-    putFlag(delim, key::save_ten_gram_z_slices, m_save10gXYPlanes);
-    putFlag(delim, key::save_one_gram_x_slices, m_save1gYZPlanes);
-    putFlag(delim, key::save_one_gram_y_slices, m_save1gZXPlanes);
-    putFlag(delim, key::save_one_gram_z_slices, m_save1gXYPlanes);
-    putFlag(delim, key::outside_region_treated_as_air, m_treatDataOutsideAsAir);
-    writeMaterials(delim, m_materialsToUse);
-    putLine(delim, key::outputAveragedFileName, m_outputAveragedFileName);
-    return block.end();
-}
+bool SARAveragingRequest::streamOut(DelimManager& delim) const { return sarAveraging.write(delim, *this); }
 
 SARAveragingRequest::SARAveragingRequest(DelimManager& delim) : m_outputAveragedFileName(QStringLiteral("project")) {
-    walkWords(delim,
-              Unknown::DropLine,
-              onFlag(key::average_one_gram, m_compute1gAverage),
-              onFlag(key::average_ten_grams, m_compute10gAverage),
-              onFlag(key::automatic_subregion, m_useAutomaticSubregion),
-              onValue(key::automatic_subregion_cutoff_in_db, m_subregionCutoff),
-              onBound(lowerBoundKey, m_lowerBound),
-              onBound(upperBoundKey, m_upperBound),
-              onFlag(key::save_ten_gram_x_slices, m_save10gYZPlanes),
-              onFlag(key::save_ten_gram_y_slices, m_save10gZXPlanes),
-              onFlag(key::save_ten_gram_z_slices, m_save10gXYPlanes),
-              onFlag(key::save_one_gram_x_slices, m_save1gYZPlanes),
-              onFlag(key::save_one_gram_y_slices, m_save1gZXPlanes),
-              onFlag(key::save_one_gram_z_slices, m_save1gXYPlanes),
-              onFlag(key::outside_region_treated_as_air, m_treatDataOutsideAsAir),
-              onWord(key::materials_to_use, [this](QTextStream& in) { readMaterials(in, m_materialsToUse); }),
-              onText(key::outputAveragedFileName, m_outputAveragedFileName));
+    sarAveraging.read(delim, *this);
 }
 
-bool operator==(const SARAveragingRequest& a, const SARAveragingRequest& b) {
-    const auto members = [](const SARAveragingRequest& r) {
-        return std::tie(r.m_compute1gAverage,
-                        r.m_compute10gAverage,
-                        r.m_treatDataOutsideAsAir,
-                        r.m_useAutomaticSubregion,
-                        r.m_subregionCutoff,
-                        r.m_lowerBound,
-                        r.m_upperBound,
-                        r.m_materialsToUse,
-                        r.m_save1gXYPlanes,
-                        r.m_save1gZXPlanes,
-                        r.m_save1gYZPlanes,
-                        r.m_save10gXYPlanes,
-                        r.m_save10gZXPlanes,
-                        r.m_save10gYZPlanes,
-                        r.m_outputAveragedFileName);
-    };
-    return members(a) == members(b);
-}
+bool operator==(const SARAveragingRequest& a, const SARAveragingRequest& b) { return sarAveraging.areEqual(a, b); }
 
 }  // namespace quarn

@@ -1,7 +1,5 @@
 #include "quarn/TemperatureRiseRequest.h"
 
-#include <tuple>
-
 namespace quarn {
 
 TemperatureRiseRequest::TemperatureRiseRequest(
@@ -46,34 +44,6 @@ QString TemperatureRiseRequest::getTemperatureStatisticsFileNameExtension() cons
 QString TemperatureRiseRequest::getTemperatureDifferenceFileNameExtensionPrefix() const {
     if (m_planeTypeIndicator == XY) return QStringLiteral(".xy");
     return m_planeTypeIndicator == YZ ? QStringLiteral(".yz") : QStringLiteral(".zx");
-}
-
-bool operator==(const TemperatureRiseRequest& a, const TemperatureRiseRequest& b) {
-    const auto members = [](const TemperatureRiseRequest& r) {
-        return std::tie(r.m_keepNonSARTemperatureFiles,
-                        r.m_keepSARTemperatureFiles,
-                        r.m_loadNonSARTemperatureFromFile,
-                        r.m_requestedInputPower,
-                        r.m_temperatureChangeIndicatingSteadyState,
-                        r.m_maximumNumberOfTimesteps,
-                        r.m_steadyStateTypeIndicator,
-                        r.m_planeTypeIndicator,
-                        r.m_lowerBound,
-                        r.m_upperBound,
-                        r.m_loadWholeSpace,
-                        r.m_immersiveMediumTemperature,
-                        r.m_immersiveMediumParameters,
-                        r.m_perfusiveMediumParameters,
-                        r.m_perfusiveMediumTemperature,
-                        r.m_freeSpaceParameters,
-                        r.m_pecParameters,
-                        r.m_initialTemperaturesFileName,
-                        r.m_finalTemperaturesFileName,
-                        r.m_overrideDeltaTime,
-                        r.m_defaultDeltaTime,
-                        r.m_requestedDeltaTime);
-    };
-    return members(a) == members(b);
 }
 
 }  // namespace quarn

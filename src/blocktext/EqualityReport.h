@@ -10,6 +10,9 @@ namespace quarn::report {
 
 inline std::ostream& operator<<(std::ostream& out, QLatin1String text) { return out.write(text.data(), text.size()); }
 
+/// Reports nothing.
+struct Silent {};
+
 /// Writes nothing but the label.
 struct LabelOnly {
     template <class T>
@@ -38,13 +41,18 @@ Member<Get, Show> member(const char* label, Get get, Show show = {}) {
     return {label, get, show};
 }
 
+template <class Show, class Value>
+void difference(const char* label, const Show& show, const Value& a, const Value& b) {
+    std::cout << "different " << label << '\n';
+    show(a);
+    show(b);
+    std::cout.flush();
+}
+
 template <class T, class Get, class Show>
 bool isEqual(const T& a, const T& b, const Member<Get, Show>& member) {
     if (std::invoke(member.get, a) == std::invoke(member.get, b)) return true;
-    std::cout << "different " << member.label << '\n';
-    member.show(std::invoke(member.get, a));
-    member.show(std::invoke(member.get, b));
-    std::cout.flush();
+    difference(member.label, member.show, std::invoke(member.get, a), std::invoke(member.get, b));
     return false;
 }
 

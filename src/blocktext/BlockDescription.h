@@ -1,0 +1,383 @@
+#pragma once
+
+#include <functional>
+#include <tuple>
+#include <utility>
+
+#include "blocktext/BlockWalker.h"
+#include "blocktext/BlockWriter.h"
+#include "blocktext/EqualityReport.h"
+#include "blocktext/LineShapes.h"
+#include "quarn/Description.h"
+
+/// The description of a block: its name, its reading policies and its lines in file order, each stated once. The
+/// writer, the reader, equality and the reference of the format come from it:
+///
+///     constexpr auto point = describe<Cartesian3D>("Point", Unknown::DropLine, Unreadable::KeepsValue,
+///                                                  value("X", &Cartesian3D::x).in("m"),
+///                                                  value("Y", &Cartesian3D::y).in("m"),
+///                                                  value("Z", &Cartesian3D::z).in("m"));
+///     point.write(delim, position);
+///
+/// A description is a constant. Reading expands to one chain of comparisons, and nothing is allocated for a line.
+namespace quarn::blocktext {
+
+/// A key or the name of a block, from a literal.
+struct Key : QLatin1String {
+    template <std::size_t size>
+    constexpr Key(const char (&text)[size]) : QLatin1String(text, static_cast<int>(size) - 1) {}
+};
+
+// ---- Conditions: when a line is written, and the words for it.
+
+struct Always {
+    template <class Object>
+    static constexpr bool holds(const Object&) {
+        return true;
+    }
+};
+
+template <class Predicate>
+struct Where {
+    Predicate predicate;
+    const char* words;
+
+    template <class Object>
+    bool holds(const Object& object) const {
+        return std::invoke(predicate, object);
+    }
+    template <class... Lines>
+    QString text(const std::tuple<Lines...>&) const {
+        return QString::fromLatin1(words);
+    }
+};
+
+/// Where a member, of which another line of the block tells, has a value.
+template <class Access, class Value>
+struct OnlyFor {
+    Access access;
+    Value value;
+
+    template <class Object>
+    bool holds(const Object& object) const {
+        return valueIn(object, access) == value;
+    }
+    template <class... Lines>
+    QString text(const std::tuple<Lines...>& lines) const {
+        QString text = QStringLiteral("with");
+        const auto addFrom = [&](const auto& line) {
+            if constexpr (std::decay_t<decltype(line.shape)>::canBeCondition) {
+                if (line.shape.isFor(access)) text += u' ' + line.shape.conditionText(value);
+            }
+        };
+        std::apply([&](const auto&... line) { (addFrom(line), ...); }, lines);
+        return text;
+    }
+};
+
+// ---- A line: its shape and what is said of it.
+
+template <class Shape, class When = Always, class Show = report::Silent>
+struct Line {
+    Shape shape;
+    When when;
+    Show show;
+    const char* unit = "";
+    const char* label = "";
+    bool isRead = true;
+    bool isCompared = true;
+
+    /// The unit of the value, for the reference of the format.
+    constexpr Line in(const char* unitOfValue) const {
+        Line line = *this;
+        line.unit = unitOfValue;
+        return line;
+    }
+    /// Leaves the member out of equality.
+    constexpr Line notCompared() const {
+        Line line = *this;
+        line.isCompared = false;
+        return line;
+    }
+    /// A key that readers do not know.
+    constexpr Line onlyWritten() const {
+        Line line = *this;
+        line.isRead = false;
+        return line;
+    }
+    /// A key of older files.
+    constexpr auto onlyRead() const {
+        return where([](const auto&) { return false; }, "never");
+    }
+    /// Writes the line where the predicate holds of the object; `words` say when that is.
+    template <class Predicate>
+    constexpr auto where(Predicate predicate, const char* words) const {
+        return with(Where<Predicate>{predicate, words}, show);
+    }
+    /// Writes the line where the flag is set, or the value is the given one.
+    template <class Access>
+    constexpr auto onlyWith(Access flag) const {
+        return onlyFor(flag, true);
+    }
+    template <class Access, class Value>
+    constexpr auto onlyFor(Access access, Value value) const {
+        return with(OnlyFor<Access, Value>{access, value}, show);
+    }
+    constexpr auto unlessEmpty() const {
+        const auto access = shape.access;
+        return where([access](const auto& object) { return !isEmpty(valueIn(object, access)); }, "unless empty");
+    }
+    /// Reports a difference on standard output under the label, and shows both values.
+    template <class NewShow = report::LabelOnly>
+    constexpr auto reports(const char* labelOfValue, NewShow showing = {}) const {
+        auto line = with(when, showing);
+        line.label = labelOfValue;
+        return line;
+    }
+
+    template <class Object>
+    void write(DelimManager& delim, const Object& object) const {
+        if (when.holds(object)) shape.write(delim, object);
+    }
+    template <class Object>
+    Offer readWord(QStringView word, QTextStream& stream, Object& object, Unreadable unreadable) const {
+        return isRead ? shape.readWord(word, stream, object, unreadable) : Offer::Unknown;
+    }
+    template <class Object>
+    Offer readBlock(const QString& name, const QString& value, DelimManager& delim, Object& object) const {
+        return shape.readBlock(name, value, delim, object);
+    }
+    template <class Object>
+    bool areEqual(const Object& a, const Object& b) const {
+        if (!isCompared || shape.areEqual(a, b)) return true;
+        if constexpr (!std::is_same_v<Show, report::Silent>) {
+            report::difference(label, show, valueIn(a, shape.access), valueIn(b, shape.access));
+        }
+        return false;
+    }
+    template <class Object, class Lines>
+    void describeTo(FormatBuilder& builder, const Object& blank, const Lines& lines) const {
+        FormatLine line;
+        line.unit = QString::fromUtf8(unit);
+        if constexpr (std::is_same_v<When, Always>) {
+            line.written = shape.usuallyWritten();
+        } else {
+            line.written = when.text(lines);
+        }
+        shape.describeTo(builder, blank, line);
+    }
+
+private:
+    template <class List>
+    static bool isEmpty(const List& list) {
+        return list.size() == 0;
+    }
+    template <class NewWhen, class NewShow>
+    constexpr auto with(NewWhen newWhen, NewShow newShow) const {
+        return Line<Shape, NewWhen, NewShow>{shape, newWhen, newShow, unit, label, isRead, isCompared};
+    }
+};
+
+// ---- The kinds of lines, by the functions that make them.
+
+template <class Shape>
+constexpr Line<Shape> lineOf(Shape shape) {
+    return {shape, {}, {}};
+}
+
+/// A key and a value in any of the forms of ValueForms.h: without a form, a number or a word.
+template <class Access, class Form = OneValue>
+constexpr auto value(Key key, Access access, Form form = {}) {
+    return lineOf(ValueLine<Access, Form>(key, access, form));
+}
+/// A key and the rest of the line.
+template <class Access>
+constexpr auto text(Key key, Access access) {
+    return value(key, access, RestOfLine());
+}
+/// A key and the elements of an array.
+template <class Access>
+constexpr auto elements(Key key, Access access) {
+    return value(key, access, Elements());
+}
+/// A key alone where the flag is set; `behind` is written behind the key.
+template <class Access>
+constexpr auto flag(Key key, Access access, const char* behind = "") {
+    return lineOf(FlagLine<Access>(key, access, behind));
+}
+/// A key alone where the member has the value.
+template <class Access, class Value>
+constexpr auto choice(Key key, Access access, Value value) {
+    return lineOf(ChoiceLine<Access, Value>(key, access, value))
+        .where([access, value](const auto& object) { return valueIn(object, access) == value; }, "where chosen");
+}
+/// A line for each entry of a list.
+template <class Access, class Form = OneValue>
+constexpr auto entries(Key key, Access access, Form form = {}) {
+    return lineOf(EntryLines<Access, Form>(key, access, form));
+}
+/// A line for each element of an array, with the element's number, counted from 1, at the end of the key.
+template <class Access>
+constexpr auto numbered(Key stem, Access access) {
+    return lineOf(NumberedLines<Access>(stem, access));
+}
+/// A number that is always written and never read.
+constexpr auto fixed(Key key, int number) { return lineOf(FixedLine(key, number)); }
+/// A key of older files, which is dropped with so many words behind it.
+constexpr auto dropped(Key key, int words) { return lineOf(DroppedLine(key, words)); }
+/// A member that the file does not carry and that counts for equality.
+template <class Access>
+constexpr auto unwritten(Access access) {
+    return lineOf(UnwrittenMember<Access>(access));
+}
+/// An inner block for a member, with a label on its open line where others have the same name.
+template <class Access, class Content>
+constexpr auto innerBlock(Access access, Content content, Key label = "") {
+    return lineOf(BlockLine<Access, Content, false>(access, content, label));
+}
+/// An inner block for each entry of a list.
+template <class Access, class Content>
+constexpr auto innerBlocks(Access access, Content content) {
+    return lineOf(BlockLine<Access, Content, true>(access, content, Key("")));
+}
+
+// ---- A block.
+
+template <class Object, class... Lines>
+struct Block {
+    QLatin1String name;
+    Unknown unknown;
+    Unreadable unreadable;
+    bool findsBlocks;
+    std::tuple<Lines...> lines;
+
+    /// The same content under another name.
+    constexpr Block named(Key other) const { return {other, unknown, unreadable, findsBlocks, lines}; }
+
+    /// Writes the whole block; `value` goes on its open line. Returns whether the stream is in order.
+    bool write(DelimManager& delim, const Object& object, const QString& value = QString()) const {
+        WrittenBlock block(delim, name, value);
+        writeLines(delim, object);
+        return block.end();
+    }
+    void writeLines(DelimManager& delim, const Object& object) const {
+        std::apply([&](const auto&... line) { (line.write(delim, object), ...); }, lines);
+    }
+
+    /// Reads what follows the open line, up to and including the close line, with the lines in any order; `handlers`
+    /// take what the lines do not. False when the reading ended early, at an unreadable value or unknown content, where
+    /// the policies say so.
+    template <class... Handlers>
+    bool read(DelimManager& delim, Object& object, Handlers... handlers) const {
+        Content<Handlers...> content{*this, delim, object, {{handlers...}}};
+        return findsBlocks ? walkContent<true>(delim, unknown, content) : walkContent<false>(delim, unknown, content);
+    }
+
+    /// Compares the members that count for equality.
+    bool areEqual(const Object& a, const Object& b) const {
+        return std::apply([&](const auto&... line) { return (line.areEqual(a, b) && ...); }, lines);
+    }
+
+    /// Adds the block to the reference of the format. The values of `blank` are the defaults.
+    void describeTo(FormatBuilder& builder, const Object& blank) const {
+        builder.begin(name);
+        std::apply([&](const auto&... line) { (line.describeTo(builder, blank, lines), ...); }, lines);
+        builder.end();
+    }
+
+private:
+    template <class... Handlers>
+    struct Content {
+        const Block& description;
+        DelimManager& delim;
+        Object& object;
+        detail::HandlerList<Handlers...> handlers;
+
+        Offer block(const QString& found, const QString& value) {
+            const auto offer = [&](const auto& line) { return line.readBlock(found, value, delim, object); };
+            const Offer answer = offerToLines(offer);
+            return answer == Offer::Unknown ? handlers.block(found, value) : answer;
+        }
+        Offer word(QStringView word, QTextStream& in) {
+            const auto offer = [&](const auto& line) {
+                return line.readWord(word, in, object, description.unreadable);
+            };
+            const Offer answer = offerToLines(offer);
+            return answer == Offer::Unknown ? handlers.word(word, in) : answer;
+        }
+        Offer line(QTextStream& in) { return handlers.line(in); }
+
+        template <class Offered>
+        Offer offerToLines(Offered offer) {
+            return std::apply([&](const auto&... each) { return detail::offerToEach(offer, each...); },
+                              description.lines);
+        }
+    };
+};
+
+/// A block without keys: it holds one value, or those of a list, a line each.
+template <class Content, class Form>
+struct BareBlock {
+    QLatin1String name;
+    Unreadable unreadable;
+    Form form;
+
+    bool write(DelimManager& delim, const Content& content, const QString& value = QString()) const {
+        WrittenBlock block(delim, name, value);
+        const auto writeLine = [&](const auto& entry) {
+            form.write(delim.GetStream(), entry);
+            delim.GetStream() << '\n';
+        };
+        if constexpr (std::is_arithmetic_v<Content>) {
+            writeLine(content);
+        } else {
+            for (const auto& entry : content) writeLine(entry);
+        }
+        return block.end();
+    }
+    /// Of several values in the place of one the last counts. False when a value cannot be read.
+    bool read(DelimManager& delim, Content& content) const {
+        bool isRead = true;
+        walkList(delim, [&](QTextStream& in) {
+            if constexpr (std::is_arithmetic_v<Content>) {
+                isRead = form.read(in, content);
+            } else {
+                typename Content::value_type value{};
+                isRead = form.read(in, value);
+                if (isRead) content.push_back(value);
+            }
+        });
+        return isRead;
+    }
+    void describeTo(FormatBuilder& builder, const Content&) const {
+        builder.begin(name);
+        FormatLine line;
+        if constexpr (std::is_arithmetic_v<Content>) {
+            line.kind = form.template kind<Content>();
+            line.written = QStringLiteral("always");
+        } else {
+            line.kind = form.template kind<typename Content::value_type>();
+            line.written = QStringLiteral("for each entry");
+        }
+        builder.add(line);
+        builder.end();
+    }
+};
+template <class Content, class Form = OneValue>
+constexpr BareBlock<Content, Form> bareValues(Key name, Unreadable unreadable, Form form = {}) {
+    return {name, unreadable, form};
+}
+
+/// A block of lines and inner blocks.
+template <class Object, class... Lines>
+constexpr Block<Object, Lines...> describe(Key name, Unknown unknown, Unreadable unreadable, Lines... lines) {
+    return {name, unknown, unreadable, true, {lines...}};
+}
+
+/// A block in which what looks like an open line is words.
+template <class Object, class... Lines>
+constexpr Block<Object, Lines...> describeWords(Key name, Unknown unknown, Unreadable unreadable, Lines... lines) {
+    return {name, unknown, unreadable, false, {lines...}};
+}
+
+}  // namespace quarn::blocktext

@@ -1,0 +1,294 @@
+#pragma once
+
+#include <QLatin1String>
+#include <QStringList>
+#include <QTextStream>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <functional>
+#include <optional>
+#include <tuple>
+#include <type_traits>
+
+#include "blocktext/NameTable.h"
+#include "blocktext/TextValues.h"
+
+/// Where the value of a line is in its object, and how it is written behind the key.
+namespace quarn::blocktext {
+
+/// A value that is behind functions: `get(object)` gives it, `set(object, value)` changes it.
+template <class Get, class Set>
+struct Property {
+    Get get;
+    Set set;
+};
+template <class Get, class Set>
+constexpr Property<Get, Set> property(Get get, Set set) {
+    return {get, set};
+}
+
+/// A member of a member.
+template <class Outer, class Inner>
+struct Path {
+    Outer outer;
+    Inner inner;
+
+    template <class Object>
+    constexpr auto& operator()(Object& object) const {
+        return std::invoke(inner, std::invoke(outer, object));
+    }
+    friend bool operator==(const Path& a, const Path& b) { return a.outer == b.outer && a.inner == b.inner; }
+};
+template <class Outer, class Inner>
+constexpr Path<Outer, Inner> path(Outer outer, Inner inner) {
+    return {outer, inner};
+}
+
+/// An element of an array.
+template <class Array>
+struct Element {
+    Array array;
+    std::size_t index;
+
+    template <class Object>
+    constexpr auto& operator()(Object& object) const {
+        return std::invoke(array, object)[index];
+    }
+};
+template <class Array>
+constexpr Element<Array> element(Array array, std::size_t index) {
+    return {array, index};
+}
+
+/// The value in an object: `access` is a pointer to a member, a function that returns a reference, or a Property.
+template <class Access, class Object>
+decltype(auto) valueIn(const Object& object, const Access& access) {
+    return std::invoke(access, object);
+}
+template <class Get, class Set, class Object>
+auto valueIn(const Object& object, const Property<Get, Set>& access) {
+    return std::invoke(access.get, object);
+}
+template <class Access, class Object>
+using ValueIn = std::decay_t<decltype(valueIn(std::declval<const Object&>(), std::declval<const Access&>()))>;
+
+/// Calls `read` with the value in an object, for reading into it, and returns the result.
+template <class Access, class Object, class Read>
+bool readInto(Object& object, const Access& access, Read read) {
+    return read(std::invoke(access, object));
+}
+template <class Get, class Set, class Object, class Read>
+bool readInto(Object& object, const Property<Get, Set>& access, Read read) {
+    auto value = std::invoke(access.get, object);
+    const bool isRead = read(value);
+    std::invoke(access.set, object, value);
+    return isRead;
+}
+
+/// What all forms have in common: values can be written, whatever they are, and have no names.
+struct Form {
+    template <class Value>
+    static bool isWritable(const Value&) {
+        return true;
+    }
+    template <class Value>
+    static QString defaultText(const Value& value) {
+        if constexpr (std::is_floating_point_v<Value>) {
+            return std::isnan(value) ? QString() : QString::number(static_cast<double>(value), 'g', 7);
+        } else if constexpr (std::is_integral_v<Value>) {
+            return QString::number(value);
+        } else if constexpr (std::is_convertible_v<Value, QString>) {
+            return value;
+        } else {
+            return {};
+        }
+    }
+    static QStringList names() { return {}; }
+};
+
+/// A number or a word.
+struct OneValue : Form {
+    template <class Value>
+    static void write(QTextStream& out, const Value& value) {
+        out << value;
+    }
+    template <class Value>
+    static bool read(QTextStream& in, Value& value) {
+        return readValue(in, value);
+    }
+    template <class Value>
+    static QString kind() {
+        if constexpr (std::is_floating_point_v<Value>) return QStringLiteral("number");
+        return std::is_integral_v<Value> ? QStringLiteral("integer") : QStringLiteral("word");
+    }
+};
+
+/// The rest of the line, cleaned and trimmed.
+struct RestOfLine : Form {
+    static void write(QTextStream& out, const QString& text) { out << text; }
+    static bool read(QTextStream& in, QString& text) {
+        text = readRestOfLine(in);
+        return true;
+    }
+    template <class Value>
+    static QString kind() {
+        return QStringLiteral("text");
+    }
+};
+
+/// A number that is written and read as another type.
+template <class Stored>
+struct StoredAs : Form {
+    template <class Value>
+    static void write(QTextStream& out, const Value& value) {
+        out << static_cast<Stored>(value);
+    }
+    template <class Value>
+    static bool read(QTextStream& in, Value& value) {
+        Stored stored{};
+        const bool isRead = readValue(in, stored);
+        if (isRead) value = static_cast<Value>(stored);
+        return isRead;
+    }
+    template <class Value>
+    static QString kind() {
+        return OneValue::kind<Stored>();
+    }
+};
+
+/// The elements of an array.
+struct Elements : Form {
+    template <class Array>
+    static void write(QTextStream& out, const Array& array) {
+        for (std::size_t i = 0; i < array.size(); ++i) out << (i > 0 ? " " : "") << array[i];
+    }
+    template <class Array>
+    static bool read(QTextStream& in, Array& array) {
+        return std::all_of(array.begin(), array.end(), [&in](auto& value) { return readValue(in, value); });
+    }
+    template <class Array>
+    static QString kind() {
+        return QStringLiteral("%1 %2s").arg(std::tuple_size_v<Array>).arg(OneValue::kind<typename Array::value_type>());
+    }
+};
+
+/// Elements behind a second blank.
+struct SpacedElements : Elements {
+    template <class Array>
+    static void write(QTextStream& out, const Array& array) {
+        out << ' ';
+        Elements::write(out, array);
+    }
+};
+
+/// The parts of an object in the order of the file, as values of their own. Those before one that cannot be read keep
+/// what was read.
+template <class... Parts>
+struct PartsInOrder : Form {
+    std::tuple<Parts...> parts;
+
+    template <class Value>
+    void write(QTextStream& out, const Value& value) const {
+        const char* blank = "";
+        const auto writePart = [&](const auto& part) {
+            out << blank << valueIn(value, part);
+            blank = " ";
+        };
+        std::apply([&](const auto&... each) { (writePart(each), ...); }, parts);
+    }
+    template <class Value>
+    bool read(QTextStream& in, Value& value) const {
+        const auto readPart = [&](const auto& part) {
+            return readInto(value, part, [&in](auto& stored) { return readValue(in, stored); });
+        };
+        return std::apply([&](const auto&... each) { return (readPart(each) && ...); }, parts);
+    }
+    template <class Value>
+    static QString kind() {
+        QStringList kinds;
+        (kinds << ... << OneValue::kind<ValueIn<Parts, Value>>());
+        const bool isUniform = kinds.count(kinds.front()) == kinds.size();
+        return isUniform ? QStringLiteral("%1 %2s").arg(kinds.size()).arg(kinds.front())
+                         : kinds.join(QLatin1String(", "));
+    }
+};
+template <class... Parts>
+constexpr PartsInOrder<Parts...> parts(Parts... each) {
+    return {{}, {each...}};
+}
+
+/// The number of entries and then the entries. The number in a file is not trusted: entries are read as they come.
+template <class Entry>
+struct CountedEntries : Form {
+    Entry entry;
+
+    template <class List>
+    void write(QTextStream& out, const List& list) const {
+        out << list.size();
+        for (const auto& value : list) {
+            out << ' ';
+            entry.write(out, value);
+        }
+    }
+    /// Appends. A count that is missing or below 1 has no entries; an entry that cannot be read ends the list.
+    template <class List>
+    bool read(QTextStream& in, List& list) const {
+        int count = -1;
+        bool isRead = readValue(in, count);
+        for (int i = 0; i < count && isRead; ++i) {
+            typename List::value_type value{};
+            isRead = entry.read(in, value);
+            if (isRead) list.insert(list.end(), value);
+        }
+        return isRead;
+    }
+    template <class List>
+    QString kind() const {
+        return QStringLiteral("count, then for each: ") + entry.template kind<typename List::value_type>();
+    }
+};
+template <class Entry>
+constexpr CountedEntries<Entry> counted(Entry entry) {
+    return {{}, entry};
+}
+
+/// The name of an enumeration's value. A value without a name is written as `otherwise`, or not at all where that is
+/// empty; a name that the table does not have reads as `unknown`, or where there is none keeps the value.
+template <class Value, std::size_t count>
+struct NameFrom : Form {
+    const NameTable<Value, count>* table;
+    QLatin1String otherwise;
+    std::optional<Value> unknown;
+
+    QLatin1String nameIn(Value value) const { return nameOf(*table, value, otherwise); }
+    bool isWritable(Value value) const { return !nameIn(value).isEmpty(); }
+    void write(QTextStream& out, Value value) const { out << nameIn(value); }
+    bool read(QTextStream& in, Value& value) const {
+        QString buffer;
+        const QStringView name = readWord(in, buffer);
+        if (!name.isEmpty()) value = valueOf(*table, name, unknown.value_or(value));
+        return true;
+    }
+    QString defaultText(Value value) const { return nameIn(value); }
+    QStringList names() const {
+        QStringList all;
+        for (const auto& entry : *table) all << entry.name;
+        return all;
+    }
+    template <class>
+    static QString kind() {
+        return QStringLiteral("name");
+    }
+};
+template <class Value, std::size_t count>
+constexpr NameFrom<Value, count> nameFrom(const NameTable<Value, count>& table, QLatin1String otherwise = {}) {
+    return {{}, &table, otherwise, {}};
+}
+template <class Value, std::size_t count>
+constexpr NameFrom<Value, count> nameFrom(const NameTable<Value, count>& table, QLatin1String otherwise,
+                                          Value unknown) {
+    return {{}, &table, otherwise, unknown};
+}
+
+}  // namespace quarn::blocktext
