@@ -48,6 +48,7 @@ inline constexpr auto pinBlock = [] {
         value("Weight", &Pin::weight).reports("quarn::CircuitComponent::Pin::weight"));
 }();
 
+// The model is compared, and reported, before the signal.
 inline constexpr auto pinGroupBlock = [] {
     using Group = CircuitComponent::PinGroup;
     return describe<Group>(
@@ -55,8 +56,9 @@ inline constexpr auto pinGroupBlock = [] {
         Unknown::DropLine,
         Unreadable::KeepsValue,
         text("Name", &Group::name).reports("quarn::CircuitComponent::PinGroup::name"),
+        unwritten(&Group::model).reports("quarn::CircuitComponent::PinGroup::model"),
         value("SignalType", &Group::signal, names::pinGroupSignal).reports("quarn::CircuitComponent::PinGroup::signal"),
-        value("ModelType", &Group::model, names::pinGroupModel).reports("quarn::CircuitComponent::PinGroup::model"),
+        value("ModelType", &Group::model, names::pinGroupModel).notCompared(),
         innerBlocks(&Group::pins, pinBlock).reports("quarn::CircuitComponent::PinGroup::pins"));
 }();
 
