@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "quarn/Description.h"
 #include "quarn/Export.h"
 
 namespace quarn {
@@ -56,6 +57,8 @@ public:
     friend bool operator!=(const FarZoneRequest& a, const FarZoneRequest& b) { return !(a == b); }
 
 private:
+    friend struct blocktext::Description<FarZoneRequest>;
+
     std::vector<Angle> m_angles;
     QString m_outputFileName;
 };

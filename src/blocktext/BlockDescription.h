@@ -241,6 +241,12 @@ constexpr auto innerBlocks(Access access, Content content) {
     return lineOf(BlockLine<Access, Content, true>(access, content, Key("")));
 }
 
+/// The same, without an entry whose block is cut short.
+template <class Access, class Content>
+constexpr auto wholeInnerBlocks(Access access, Content content) {
+    return lineOf(BlockLine<Access, Content, true>(access, content, Key(""), true));
+}
+
 // ---- A block.
 
 template <class Object, class... Lines>

@@ -291,13 +291,16 @@ struct DroppedLine : UnboundLine {
 };
 
 /// An inner block for a member, or, where `isList` is set, for each entry of a list. Where there is a label, it is the
-/// value on the open line, which tells the block from others of the same name.
+/// value on the open line, which tells the block from others of the same name. With `onlyWhole`, an entry at whose end
+/// the stream is in error, as at the end of a truncated file, is left out.
 template <class Access, class Content, bool isList>
 struct BlockLine : MemberShape<Access> {
     Content content;
     QLatin1String label;
+    bool onlyWhole;
 
-    constexpr BlockLine(Access a, Content c, QLatin1String l) : MemberShape<Access>(a), content(c), label(l) {}
+    constexpr BlockLine(Access a, Content c, QLatin1String l, bool whole = false)
+        : MemberShape<Access>(a), content(c), label(l), onlyWhole(whole) {}
 
     template <class Object>
     void write(DelimManager& delim, const Object& object) const {
@@ -314,7 +317,9 @@ struct BlockLine : MemberShape<Access> {
         const auto read = [&](auto& member) {
             if constexpr (isList) {
                 member.emplace_back();
-                return content.read(delim, member.back());
+                const bool isRead = content.read(delim, member.back());
+                if (onlyWhole && !isOk(delim)) member.pop_back();
+                return isRead;
             } else {
                 return content.read(delim, member);
             }

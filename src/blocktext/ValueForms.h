@@ -218,6 +218,20 @@ constexpr PartsInOrder<Parts...> parts(Parts... each) {
     return {{}, {each...}};
 }
 
+/// A form whose value counts also where only a part of it can be read.
+template <class Whole>
+struct Partial : Whole {
+    template <class Value>
+    bool read(QTextStream& in, Value& value) const {
+        static_cast<void>(Whole::read(in, value));
+        return true;
+    }
+};
+template <class Whole>
+constexpr Partial<Whole> partial(Whole form) {
+    return {form};
+}
+
 /// The number of entries and then the entries. The number in a file is not trusted: entries are read as they come.
 template <class Entry>
 struct CountedEntries : Form {

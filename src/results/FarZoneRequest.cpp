@@ -1,7 +1,6 @@
 #include "quarn/FarZoneRequest.h"
 
-#include "blocktext/BlockWalker.h"
-#include "blocktext/BlockWriter.h"
+#include "results/FarZoneRequestBlock.h"
 
 namespace quarn {
 
@@ -9,10 +8,7 @@ using namespace blocktext;
 
 namespace {
 
-namespace key {
-constexpr auto OutputFileName = "OutputFileName"_key;
-constexpr auto Angle = "Angle"_key;
-}  // namespace key
+constexpr auto requestLines = Description<FarZoneRequest>::block("");
 
 QString withExtension(const QString& name, QLatin1String extension) {
     constexpr int dotAndTwoLetters = 3;
@@ -28,23 +24,13 @@ QString FarZoneRequest::getCircularPolarizedUANOutputFileName() const {
 }
 
 bool FarZoneRequest::StreamOut(DelimManager& delim) const {
-    putLine(delim, key::OutputFileName, m_outputFileName);
-    for (const Angle& angle : m_angles) putLine(delim, key::Angle, angle.theta, angle.phi);
+    requestLines.writeLines(delim, *this);
     return isOk(delim);
 }
 
 bool FarZoneRequest::StreamIn(DelimManager& delim) {
-    m_angles.clear();
-    m_outputFileName.clear();
-    walkWords(delim,
-              Unknown::DropWord,
-              onWord(key::Angle,
-                     [this](QTextStream& in) {
-                         Angle angle;
-                         readAll(in, angle.theta, angle.phi);
-                         m_angles.push_back(angle);
-                     }),
-              onText(key::OutputFileName, m_outputFileName));
+    *this = FarZoneRequest();
+    requestLines.read(delim, *this);
     return isOk(delim);
 }
 

@@ -1,6 +1,4 @@
-#include "blocktext/BlockWalker.h"
-#include "blocktext/BlockWriter.h"
-#include "quarn/FarZoneRequest.h"
+#include "results/FarZoneRequestBlock.h"
 #include "results/RequestSections.h"
 
 namespace quarn {
@@ -9,43 +7,31 @@ using namespace blocktext;
 
 namespace {
 
-namespace key {
-constexpr auto FarZoneRequests = "FarZoneRequests"_key;
-constexpr auto SteadyState = "SteadyState"_key;
-constexpr auto Transient = "Transient"_key;
-}  // namespace key
+using Requests = std::vector<FarZoneRequest>;
 
-void writeEach(DelimManager& delim, QLatin1String name, const std::vector<FarZoneRequest>& requests) {
-    for (const FarZoneRequest& request : requests) {
-        const WrittenBlock block(delim, name);
-        request.StreamOut(delim);
-    }
-}
+// Both lists of a project.
+struct FarZoneRequests {
+    Requests steadyState;
+    Requests transient;
+};
 
-auto onRequest(DelimManager& delim, QLatin1String name, std::vector<FarZoneRequest>& requests) {
-    return onBlock(name, [&delim, &requests] {
-        FarZoneRequest request;
-        if (request.StreamIn(delim)) requests.push_back(std::move(request));
-    });
-}
+constexpr auto farZoneRequests = describe<FarZoneRequests>(
+    "FarZoneRequests", Unknown::DropLine, Unreadable::KeepsValue,
+    wholeInnerBlocks(&FarZoneRequests::steadyState, Description<FarZoneRequest>::block("SteadyState")),
+    wholeInnerBlocks(&FarZoneRequests::transient, Description<FarZoneRequest>::block("Transient")));
 
 }  // namespace
 
-bool writeFarZoneRequests(DelimManager& delim, const std::vector<FarZoneRequest>& steadyState,
-                          const std::vector<FarZoneRequest>& transient) {
+bool writeFarZoneRequests(DelimManager& delim, const Requests& steadyState, const Requests& transient) {
     if (steadyState.empty() && transient.empty()) return isOk(delim);
-    const WrittenBlock block(delim, key::FarZoneRequests);
-    writeEach(delim, key::SteadyState, steadyState);
-    writeEach(delim, key::Transient, transient);
-    return isOk(delim);
+    return farZoneRequests.write(delim, {steadyState, transient});
 }
 
-bool readFarZoneRequests(DelimManager& delim, std::vector<FarZoneRequest>& steadyState,
-                         std::vector<FarZoneRequest>& transient) {
-    walkBlock(delim,
-              Unknown::DropLine,
-              onRequest(delim, key::SteadyState, steadyState),
-              onRequest(delim, key::Transient, transient));
+bool readFarZoneRequests(DelimManager& delim, Requests& steadyState, Requests& transient) {
+    FarZoneRequests requests{std::move(steadyState), std::move(transient)};
+    farZoneRequests.read(delim, requests);
+    steadyState = std::move(requests.steadyState);
+    transient = std::move(requests.transient);
     return isOk(delim);
 }
 

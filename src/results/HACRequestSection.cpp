@@ -1,5 +1,4 @@
-#include "blocktext/BlockWalker.h"
-#include "blocktext/BlockWriter.h"
+#include "blocktext/BlockDescription.h"
 #include "quarn/HACRequest.h"
 #include "results/RequestSections.h"
 
@@ -9,46 +8,35 @@ using namespace blocktext;
 
 namespace {
 
-namespace key {
-constexpr auto HACRequest = "HACRequest"_key;
-constexpr auto Origin = "Origin"_key;
-constexpr auto U = "U"_key;
-constexpr auto V = "V"_key;
-constexpr auto W = "W"_key;
-}  // namespace key
+using Components = std::array<double, 3>;
 
-void writeAxis(DelimManager& delim, QLatin1String key, const Vector3D& axis) {
-    putLine(delim, key, axis.getX(), axis.getY(), axis.getZ());
+constexpr auto axis(Key key, Vector3D HACRequest::*vector) {
+    const auto get = [vector](const HACRequest& r) -> Components {
+        return {(r.*vector).getX(), (r.*vector).getY(), (r.*vector).getZ()};
+    };
+    const auto set = [vector](HACRequest& r, const Components& c) { (r.*vector).set(c[0], c[1], c[2]); };
+    return value(key, property(get, set), Elements());
 }
 
-auto onAxis(QLatin1String key, Vector3D& axis) {
-    return onWord(key, [&axis](QTextStream& in) {
-        double x = axis.getX(), y = axis.getY(), z = axis.getZ();
-        readAll(in, x, y, z);
-        axis.set(x, y, z);
-    });
-}
+constexpr auto hacRequest = [] {
+    using R = HACRequest;
+    using Point = tavrix::Cartesian3D;
+    return describeWords<R>("HACRequest",
+                            Unknown::DropWord,
+                            Unreadable::KeepsValue,
+                            value("Origin", &R::origin, parts(&Point::x, &Point::y, &Point::z)).in("m"),
+                            axis("U", &R::u),
+                            axis("V", &R::v),
+                            axis("W", &R::w));
+}();
 
 }  // namespace
 
-bool writeHACRequest(DelimManager& delim, const HACRequest& request) {
-    const WrittenBlock block(delim, key::HACRequest);
-    putLine(delim, key::Origin, request.origin.x, request.origin.y, request.origin.z);
-    writeAxis(delim, key::U, request.u);
-    writeAxis(delim, key::V, request.v);
-    writeAxis(delim, key::W, request.w);
-    return isOk(delim);
-}
+bool writeHACRequest(DelimManager& delim, const HACRequest& request) { return hacRequest.write(delim, request); }
 
 std::unique_ptr<const HACRequest> readHACRequest(DelimManager& delim) {
     auto request = std::make_unique<HACRequest>();
-    auto& origin = request->origin;
-    walkWords(delim,
-              Unknown::DropWord,
-              onWord(key::Origin, [&](QTextStream& in) { readAll(in, origin.x, origin.y, origin.z); }),
-              onAxis(key::U, request->u),
-              onAxis(key::V, request->v),
-              onAxis(key::W, request->w));
+    hacRequest.read(delim, *request);
     return request;
 }
 

@@ -1,5 +1,4 @@
-#include "blocktext/BlockWalker.h"
-#include "blocktext/BlockWriter.h"
+#include "blocktext/BlockDescription.h"
 #include "quarn/SARPlane.h"
 #include "results/RequestSections.h"
 
@@ -9,41 +8,53 @@ using namespace blocktext;
 
 namespace {
 
-namespace key {
-constexpr auto RawSARPlanes = "RawSARPlanes"_key;
-constexpr auto Plane = "Plane"_key;
-}  // namespace key
-
 constexpr NameTable<SARPlane::Plane, 3> planeNames{{
     {SARPlane::XY, "XY"_key},
     {SARPlane::YZ, "YZ"_key},
     {SARPlane::ZX, "ZX"_key},
 }};
 
+// The name of a plane and its index. A name that no plane has stands for XY.
+struct PlaneAndIndex : Form {
+    static void write(QTextStream& out, const SARPlane& plane) {
+        out << nameOf(planeNames, plane.getPlane(), QLatin1String()) << ' ' << plane.getIndex();
+    }
+    static bool read(QTextStream& in, SARPlane& plane) {
+        QString name;
+        unsigned index = 0;
+        const bool isRead = readValue(in, name) && readValue(in, index);
+        plane = SARPlane(valueOf(planeNames, QStringView(name), SARPlane::XY), index);
+        return isRead;
+    }
+    template <class>
+    static QString kind() {
+        return QStringLiteral("XY, YZ or ZX, and an integer");
+    }
+};
+
+using Planes = std::vector<SARPlane>;
+
+constexpr auto rawSARPlanes =
+    describe<Planes>("RawSARPlanes", Unknown::Stop, Unreadable::KeepsValue,
+                     entries(
+                         "Plane", [](auto& planes) -> auto& { return planes; }, partial(PlaneAndIndex())));
+
 }  // namespace
 
 bool writeRawSARPlanes(DelimManager& delim, const std::vector<SARPlane*>& list) {
     if (list.empty()) return isOk(delim);
-    const WrittenBlock block(delim, key::RawSARPlanes);
+    Planes planes;
     for (const SARPlane* plane : list) {
-        if (plane)
-            putLine(delim, key::Plane, nameOf(planeNames, plane->getPlane(), QLatin1String()), plane->getIndex());
+        if (plane) planes.push_back(*plane);
     }
-    return isOk(delim);
+    return rawSARPlanes.write(delim, planes);
 }
 
-// Any other name of a plane stands for XY.
 bool readRawSARPlanes(DelimManager& delim, std::vector<SARPlane*>& list) {
-    const bool onlyPlanes = walkBlock(delim, Unknown::Stop, onWord(key::Plane, [&](QTextStream& in) {
-                                          QString name;
-                                          unsigned index = 0;
-                                          readAll(in, name, index);
-                                          auto plane = std::make_unique<SARPlane>(
-                                              valueOf(planeNames, QStringView(name), SARPlane::XY), index);
-                                          list.push_back(plane.get());
-                                          static_cast<void>(plane.release());
-                                      }));
-    return onlyPlanes && isOk(delim);
+    Planes planes;
+    const bool hasOnlyPlanes = rawSARPlanes.read(delim, planes);
+    for (const SARPlane& plane : planes) list.push_back(new SARPlane(plane));
+    return hasOnlyPlanes && isOk(delim);
 }
 
 }  // namespace quarn
