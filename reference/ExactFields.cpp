@@ -1,8 +1,8 @@
-#include "ExactFields.h"
+#include "reference/ExactFields.h"
 
 #include <cmath>
 
-namespace quarn::exact {
+namespace quarn::reference {
 
 namespace {
 
@@ -153,4 +153,4 @@ FarField Sources::far(double theta, double phi, double waveNumber, const Vector&
     return sum;
 }
 
-}  // namespace quarn::exact
+}  // namespace quarn::reference
