@@ -19,7 +19,7 @@ using Complex = std::complex<double>;
 using Vector = std::array<double, 3>;
 using ComplexVector = std::array<Complex, 3>;
 
-inline constexpr double freeSpaceImpedance = 376.73031346177;
+/// In free space, in 1/m.
 double waveNumberOf(double frequency);
 
 struct Field {

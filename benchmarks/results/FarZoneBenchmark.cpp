@@ -9,6 +9,7 @@
 #include <cmath>
 #include <ctime>
 
+#include "quarn/PhysicalConstants.h"
 #include "reference/FarZoneSums.h"
 #include "results/FarZoneDirectSum.h"
 #include "results/FarZoneSpectrum.h"
@@ -19,7 +20,7 @@ namespace {
 using namespace quarn::farzone;
 using quarn::reference::SampledBox;
 
-constexpr double waveNumber = 2.0 * 3.14159265358979323846;  // of a wavelength of 1 m
+constexpr double waveNumber = 2.0 * quarn::constants::pi;  // of a wavelength of 1 m
 constexpr double cellSize = 0.05;
 
 /// Of this process, so that others on the machine do not count.
@@ -32,7 +33,7 @@ SampledBox cube(std::size_t cells) {
 }
 
 std::vector<Direction> sphere() {
-    constexpr double degree = 3.14159265358979323846 / 180.0;
+    constexpr double degree = quarn::constants::radiansPerDegree;
     std::vector<Direction> directions;
     for (int theta = 0; theta <= 180; ++theta) {
         for (int phi = 0; phi < 360; ++phi) directions.emplace_back(theta * degree, phi * degree);

@@ -6,13 +6,14 @@
 #include "quarn/BoundaryConditions.h"
 #include "quarn/FieldsOnSSFarZoneBox.h"
 #include "quarn/Grid.h"
+#include "quarn/PhysicalConstants.h"
 #include "quarn/PostProcessSSFarZoneFields.h"
 #include "reference/ExactFields.h"
 #include "results/ResultFolder.h"
 
 namespace quarn::test {
 
-inline constexpr double pi = 3.14159265358979323846;
+using constants::pi;
 
 inline BoundaryConditions openBoundaries() {
     constexpr auto open = BoundaryConditions::CPML;

@@ -72,7 +72,7 @@ TEST(FarZoneProgress, stops_preparations_and_directions_at_any_report_and_keeps_
     Grid grid;
     const Grid::Runs runs{{0, 0.1F}};
     ASSERT_TRUE(grid.initialize(6009, 10, 10, 0, 0, 0, runs, runs, runs, true));
-    const double frequency = 299792458.0;
+    const double frequency = constants::speedOfLight;
     const ExactRun run(grid, openBoundaries());
     const auto fields = run.fieldsOf(reference::ElectricDipole({300.05, 0.45, 0.45}, {0, 0, 1.0}), frequency);
     const auto angles = sphere(5);

@@ -17,7 +17,7 @@ using reference::Sources;
 using reference::Vector;
 using reference::WireDipole;
 
-constexpr float frequency = 299792458.0F;  // a wavelength is 1 m to seven digits
+constexpr auto frequency = static_cast<float>(constants::speedOfLight);  // a wavelength is 1 m to seven digits
 const double waveNumber = reference::waveNumberOf(frequency);
 
 Grid evenGrid(float size, float length) {
@@ -220,7 +220,7 @@ TEST(FarField, carries_the_power_that_flows_through_the_box) {
     }
     for (const auto& record : patternOf(fields, frequency, angles)) {
         const double density = static_cast<double>(std::norm(record.eTheta) + std::norm(record.ePhi)) /
-                               (2.0 * reference::freeSpaceImpedance);
+                               (2.0 * constants::freeSpaceImpedance);
         radiated += density * std::sin(static_cast<double>(record.theta)) * std::pow(step * pi / 180, 2);
     }
     EXPECT_NEAR(radiated, flux, 0.01 * flux);

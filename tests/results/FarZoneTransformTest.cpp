@@ -9,6 +9,7 @@
 #include <random>
 
 #include "TestSupport.h"
+#include "quarn/PhysicalConstants.h"
 #include "reference/FarZoneSums.h"
 #include "results/FarZoneDirectSum.h"
 #include "results/FarZoneSpectrum.h"
@@ -24,7 +25,7 @@ using farzone::Surface;
 using farzone::Vector;
 using reference::SampledBox;
 
-constexpr double twoPi = 6.283185307179586;
+constexpr double twoPi = 2.0 * constants::pi;
 
 using Sizes = std::vector<double>;
 

@@ -12,7 +12,7 @@ namespace {
 
 using testing::HasSubstr;
 
-constexpr double frequency = 299792458.0;
+constexpr double frequency = constants::speedOfLight;
 constexpr double lowFrequency = 150e6;
 
 /// An electric dipole of 1 A m along z, above a PEC plane or in the open, in a run that lists steady-state frequencies.

@@ -22,7 +22,7 @@ namespace quarn::tool {
 namespace {
 
 constexpr float frequency = 1e9F;
-constexpr double waveLength = 299792458.0 / 1e9;
+constexpr double waveLength = constants::speedOfLight / 1e9;
 constexpr float cellSize = 0.0075F;  // a fortieth of a wavelength
 constexpr std::uint32_t cells = 49;  // on each axis
 constexpr std::uint32_t middleCell = 24;
