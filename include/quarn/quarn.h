@@ -23,6 +23,7 @@
 #include "quarn/FarZoneFieldFiles.h"
 #include "quarn/FarZoneRequest.h"
 #include "quarn/FarZoneRotation.h"
+#include "quarn/FieldGroup.h"
 #include "quarn/FieldsOnSSFarZoneBox.h"
 #include "quarn/FileHeader.h"
 #include "quarn/FileReplacement.h"
