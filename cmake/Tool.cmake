@@ -6,6 +6,6 @@ if(sources)
     set_target_properties(quarn_tool PROPERTIES
         OUTPUT_NAME quarn
         INSTALL_RPATH "$ORIGIN/${bin_to_lib}")
-    target_link_libraries(quarn_tool PRIVATE quarn::quarn)
+    target_link_libraries(quarn_tool PRIVATE quarn_reference quarn::quarn)
     install(TARGETS quarn_tool)
 endif()

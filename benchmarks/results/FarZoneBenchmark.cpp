@@ -9,29 +9,31 @@
 #include <cmath>
 #include <ctime>
 
+#include "quarn/PhysicalConstants.h"
+#include "reference/FarZoneSums.h"
 #include "results/FarZoneDirectSum.h"
 #include "results/FarZoneSpectrum.h"
 #include "results/FarZoneTransform.h"
-#include "tests/results/FarZoneReference.h"
 
 namespace {
 
 using namespace quarn::farzone;
+using quarn::reference::SampledBox;
 
-constexpr double waveNumber = 2.0 * 3.14159265358979323846;  // of a wavelength of 1 m
+constexpr double waveNumber = 2.0 * quarn::constants::pi;  // of a wavelength of 1 m
 constexpr double cellSize = 0.05;
 
 /// Of this process, so that others on the machine do not count.
 double processorSeconds() { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
 
-quarn::test::SampledBox cube(std::size_t cells) {
+SampledBox cube(std::size_t cells) {
     const std::vector<double> sizes(cells, cellSize);
     const double corner = -0.5 * cellSize * static_cast<double>(cells);
     return {{sizes, sizes, sizes}, {corner, corner, corner}, waveNumber};
 }
 
 std::vector<Direction> sphere() {
-    constexpr double degree = 3.14159265358979323846 / 180.0;
+    constexpr double degree = quarn::constants::radiansPerDegree;
     std::vector<Direction> directions;
     for (int theta = 0; theta <= 180; ++theta) {
         for (int phi = 0; phi < 360; ++phi) directions.emplace_back(theta * degree, phi * degree);
@@ -53,52 +55,36 @@ struct Reference {
     double secondsPerDirection;
     bool isMet;
 
-    Reference(const Surface& surface, const std::vector<Direction>& directions) {
+    Reference(const SampledBox& box, const Surface& surface, const std::vector<Direction>& directions) {
         constexpr std::size_t count = 6;
         quarn::Progress progress(nullptr);
         DirectSum direct(surface, waveNumber);
         Spectrum spectrum(surface, waveNumber);
         direct.prepare(progress);
         spectrum.prepare(progress);
-        double peaks[6] = {};
-        double byDirect[6] = {};
-        double bySampled[6] = {};
+        quarn::reference::Deviation byDirect, bySampled;
         double seconds = 0.0;
         for (std::size_t i = 0; i < count; ++i) {
             const Vector& direction = directions[(2 * i + 1) * directions.size() / (2 * count)].r;
             const double start = processorSeconds();
-            const FaceSums expected = quarn::test::referenceSums(surface, waveNumber, direction);
+            const FaceSums expected = box.sumsIn(direction, waveNumber);
             seconds += processorSeconds() - start;
             FaceSums sums;
             direct.evaluate(&direction, 1, &sums, progress);
-            compare(expected, sums, byDirect, peaks);
+            byDirect.add(sums, expected);
             spectrum.evaluate(&direction, 1, &sums, progress);
-            compare(expected, sums, bySampled, peaks);
+            bySampled.add(sums, expected);
         }
         secondsPerDirection = seconds / static_cast<double>(count);
-        isMet = true;
-        for (std::size_t face = 0; face < 6; ++face) {
-            isMet = isMet && byDirect[face] < 1e-12 * peaks[face] && bySampled[face] < 1e-7 * peaks[face];
-        }
-    }
-
-private:
-    static void compare(const FaceSums& expected, const FaceSums& found, double* deviations, double* peaks) {
-        for (std::size_t face = 0; face < 6; ++face) {
-            for (std::size_t c = 0; c < numComponents; ++c) {
-                const Complex value = expected[face / 2][face % 2][c];
-                peaks[face] = std::max(peaks[face], std::abs(value));
-                deviations[face] = std::max(deviations[face], std::abs(found[face / 2][face % 2][c] - value));
-            }
-        }
+        isMet = byDirect.largest() < 1e-12 && bySampled.largest() < 1e-7;
     }
 };
 
 void transformToDirections(benchmark::State& state, std::vector<Direction> directions) {
     const auto cells = static_cast<std::size_t>(state.range(0));
-    quarn::test::SampledBox box = cube(cells);
-    const Surface& surface = box.surface();
-    const Reference reference(surface, sphere());
+    const SampledBox box = cube(cells);
+    const auto surface = box.as<Surface>();
+    const Reference reference(box, surface, sphere());
     if (!reference.isMet) state.SkipWithError("the sums differ from those of the reference");
 
     const Method method = fasterMethod(surface, waveNumber, directions.size());

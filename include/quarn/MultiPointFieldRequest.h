@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "quarn/Export.h"
+#include "quarn/FieldGroup.h"
 #include "quarn/GridIndexBoxes.h"
 
 namespace quarn {
@@ -34,6 +35,35 @@ public:
 
     GridIndexBoxes gridIndexBoxes;
     bool snapped = false;
+
+    /// The member that asks for a group of transient fields.
+    static constexpr bool MultiPointFieldRequest::*transientMember(FieldGroup group) {
+        using R = MultiPointFieldRequest;
+        constexpr bool R::*members[] = {&R::collectTransientScatteredE,
+                                        &R::collectTransientTotalE,
+                                        &R::collectTransientScatteredH,
+                                        &R::collectTransientTotalH,
+                                        &R::collectTransientScatteredB,
+                                        &R::collectTransientTotalB,
+                                        &R::collectTransientJ};
+        return members[static_cast<std::size_t>(group)];
+    }
+
+    /// The member that asks for a group of fields in a steady state; null for scattered fields.
+    static constexpr bool MultiPointFieldRequest::*steadyMember(FieldGroup group) {
+        using R = MultiPointFieldRequest;
+        constexpr bool R::*members[] = {nullptr,
+                                        &R::collectSteadyTotalE,
+                                        nullptr,
+                                        &R::collectSteadyTotalH,
+                                        nullptr,
+                                        &R::collectSteadyTotalB,
+                                        &R::collectSteadyJ};
+        return members[static_cast<std::size_t>(group)];
+    }
+
+    bool collectsTransient(FieldGroup group) const { return this->*transientMember(group); }
+    bool collectsSteady(FieldGroup group) const { return steadyMember(group) && this->*steadyMember(group); }
 
     /// The cells are compared box by box, in their order.
     QUARN_EXPORT friend bool operator==(const MultiPointFieldRequest& a, const MultiPointFieldRequest& b);

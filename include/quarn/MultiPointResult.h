@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "quarn/Export.h"
+#include "quarn/FieldGroup.h"
 
 namespace quarn {
 
@@ -36,7 +37,7 @@ class DataFileWriter;
 /// Units are SI: s, Hz, V/m, A/m, T and A/m^2.
 class QUARN_EXPORT MultiPointResult {
 public:
-    /// Three components that are recorded together by time.
+    /// Three components that are recorded together by time, in the order of FieldGroup.
     enum TransientGroup : std::int32_t {
         TransientScatteredE,
         TransientTotalE,
@@ -71,10 +72,9 @@ public:
     /// @}
 
     MultiPointResult() = default;
-    MultiPointResult(bool collectTransientScatteredE, bool collectTransientTotalE, bool collectTransientScatteredH,
-                     bool collectTransientTotalH, bool collectTransientScatteredB, bool collectTransientTotalB,
-                     bool collectTransientJ, bool collectSteadyTotalE, bool collectSteadyTotalH,
-                     bool collectSteadyTotalB, bool collectSteadyJ);
+    /// Whether there is each of the transient groups, then each of those of a steady state.
+    MultiPointResult(bool scatteredE, bool totalE, bool scatteredH, bool totalH, bool scatteredB, bool totalB, bool j,
+                     bool steadyTotalE, bool steadyTotalH, bool steadyTotalB, bool steadyJ);
 
     bool collectTransientScatteredE() const { return collects(TransientScatteredE); }
     bool collectTransientTotalE() const { return collects(TransientTotalE); }
@@ -88,8 +88,15 @@ public:
     bool collectSteadyTotalB() const { return collects(SteadyTotalB); }
     bool collectSteadyJ() const { return collects(SteadyJ); }
 
-    bool collects(TransientGroup group) const { return m_transientGroups[static_cast<std::size_t>(group)]; }
-    bool collects(SteadyGroup group) const { return m_steadyGroups[static_cast<std::size_t>(group)]; }
+    bool collects(TransientGroup group) const { return (m_groups & maskOf(group)) != 0; }
+    bool collects(SteadyGroup group) const { return (m_groups & maskOf(group)) != 0; }
+
+    /// The fields that are recorded in a group.
+    static constexpr FieldGroup fieldsOf(TransientGroup group) { return static_cast<FieldGroup>(group); }
+    static constexpr FieldGroup fieldsOf(SteadyGroup group) {
+        constexpr FieldGroup fields[] = {FieldGroup::TotalE, FieldGroup::TotalH, FieldGroup::TotalB, FieldGroup::J};
+        return fields[group];
+    }
 
     /// As in the info file; files of components may still be shorter.
     int getNumberOfPoints() const { return m_numberOfPoints; }
@@ -116,7 +123,7 @@ protected:
     void setBaseFileName(const QString& name) { m_baseFileName = name; }
     void setNumberOfPoints(int number) { m_numberOfPoints = number; }
 
-    /// Groups that are none make reading fail after those that are some were taken over.
+    /// False for unknown groups, too; the known ones have then replaced those of the result.
     bool readInfo();
     bool writeInfo() const;
 
@@ -125,11 +132,10 @@ protected:
     bool openForWriting(DataFileWriter& writer, const QString& fileName) const;
 
 private:
-    std::uint32_t toGroupBits() const;
-    void setGroupBits(std::uint32_t bits);
+    static std::uint32_t maskOf(TransientGroup group) { return 1U << infoOf(fieldsOf(group)).transientBit; }
+    static std::uint32_t maskOf(SteadyGroup group) { return 1U << infoOf(fieldsOf(group)).steadyBit; }
 
-    std::array<bool, transientGroups.size()> m_transientGroups{};
-    std::array<bool, steadyGroups.size()> m_steadyGroups{};
+    std::uint32_t m_groups = 0;  ///< as in the info file
     QString m_baseFileName;
     std::uint8_t m_serializationVersion = 0;
     std::int32_t m_numberOfPoints = 0;

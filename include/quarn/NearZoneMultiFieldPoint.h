@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QString>
+#include <array>
 #include <cstdint>
 
 #include "quarn/Export.h"
+#include "quarn/FieldGroup.h"
 #include "quarn/ivec3.h"
 
 namespace quarn {
@@ -15,21 +17,23 @@ public:
     virtual ~NearZoneMultiFieldPoint();
     NearZoneMultiFieldPoint& operator=(const NearZoneMultiFieldPoint& other) = default;
 
-    bool collectTotalE() const { return m_collectTotalE; }
-    void setCollectTotalE(bool collect) { m_collectTotalE = collect; }
-    bool collectScatteredE() const { return m_collectScatteredE; }
-    void setCollectScatteredE(bool collect) { m_collectScatteredE = collect; }
-    bool collectTotalH() const { return m_collectTotalH; }
-    void setCollectTotalH(bool collect) { m_collectTotalH = collect; }
-    bool collectScatteredH() const { return m_collectScatteredH; }
-    void setCollectScatteredH(bool collect) { m_collectScatteredH = collect; }
-    bool collectTotalB() const { return m_collectTotalB; }
-    void setCollectTotalB(bool collect) { m_collectTotalB = collect; }
-    bool collectScatteredB() const { return m_collectScatteredB; }
-    void setCollectScatteredB(bool collect) { m_collectScatteredB = collect; }
-    /// The current density.
-    bool collectJ() const { return m_collectJ; }
-    void setCollectJ(bool collect) { m_collectJ = collect; }
+    bool collects(FieldGroup group) const { return m_groups[static_cast<std::size_t>(group)]; }
+    void setCollects(FieldGroup group, bool collect) { m_groups[static_cast<std::size_t>(group)] = collect; }
+
+    bool collectTotalE() const { return collects(FieldGroup::TotalE); }
+    void setCollectTotalE(bool collect) { setCollects(FieldGroup::TotalE, collect); }
+    bool collectScatteredE() const { return collects(FieldGroup::ScatteredE); }
+    void setCollectScatteredE(bool collect) { setCollects(FieldGroup::ScatteredE, collect); }
+    bool collectTotalH() const { return collects(FieldGroup::TotalH); }
+    void setCollectTotalH(bool collect) { setCollects(FieldGroup::TotalH, collect); }
+    bool collectScatteredH() const { return collects(FieldGroup::ScatteredH); }
+    void setCollectScatteredH(bool collect) { setCollects(FieldGroup::ScatteredH, collect); }
+    bool collectTotalB() const { return collects(FieldGroup::TotalB); }
+    void setCollectTotalB(bool collect) { setCollects(FieldGroup::TotalB, collect); }
+    bool collectScatteredB() const { return collects(FieldGroup::ScatteredB); }
+    void setCollectScatteredB(bool collect) { setCollects(FieldGroup::ScatteredB, collect); }
+    bool collectJ() const { return collects(FieldGroup::J); }
+    void setCollectJ(bool collect) { setCollects(FieldGroup::J, collect); }
 
     /// First and last timestep and the distance between them; -1 where nothing was asked for.
     int getMinTimestep() const { return m_minTimestep; }
@@ -49,18 +53,11 @@ public:
 protected:
     NearZoneMultiFieldPoint() = default;
     NearZoneMultiFieldPoint(const NearZoneMultiFieldPoint& other) = default;
-    NearZoneMultiFieldPoint(bool collectScatteredE, bool collectTotalE, bool collectScatteredH, bool collectTotalH,
-                            bool collectScatteredB, bool collectTotalB, bool collectJ, int minTimestep, int maxTimestep,
-                            int deltaTimestep, const QString& filename);
+    NearZoneMultiFieldPoint(bool scatteredE, bool totalE, bool scatteredH, bool totalH, bool scatteredB, bool totalB,
+                            bool j, int minTimestep, int maxTimestep, int deltaTimestep, const QString& filename);
 
 private:
-    bool m_collectScatteredE = false;
-    bool m_collectTotalE = false;
-    bool m_collectScatteredH = false;
-    bool m_collectTotalH = false;
-    bool m_collectScatteredB = false;
-    bool m_collectTotalB = false;
-    bool m_collectJ = false;
+    std::array<bool, fieldGroups.size()> m_groups{};  ///< by FieldGroup
     std::int32_t m_minTimestep = -1;
     std::int32_t m_maxTimestep = -1;
     std::int32_t m_deltaTimestep = -1;
@@ -71,9 +68,8 @@ private:
 class QUARN_EXPORT NearZoneMultiFieldIndexedPoint : public NearZoneMultiFieldPoint {
 public:
     NearZoneMultiFieldIndexedPoint() = default;
-    NearZoneMultiFieldIndexedPoint(const ivec3& point, bool collectScatteredE, bool collectTotalE,
-                                   bool collectScatteredH, bool collectTotalH, bool collectScatteredB,
-                                   bool collectTotalB, bool collectJ, int minTimestep, int maxTimestep,
+    NearZoneMultiFieldIndexedPoint(const ivec3& point, bool scatteredE, bool totalE, bool scatteredH, bool totalH,
+                                   bool scatteredB, bool totalB, bool j, int minTimestep, int maxTimestep,
                                    int deltaTimestep, const QString& filename);
 
     int getX() const { return m_x; }
@@ -96,10 +92,9 @@ private:
 class QUARN_EXPORT NearZoneMultiFieldInterpolatedPoint : public NearZoneMultiFieldPoint {
 public:
     NearZoneMultiFieldInterpolatedPoint() = default;
-    NearZoneMultiFieldInterpolatedPoint(float x, float y, float z, bool collectScatteredE, bool collectTotalE,
-                                        bool collectScatteredH, bool collectTotalH, bool collectScatteredB,
-                                        bool collectTotalB, bool collectJ, int minTimestep, int maxTimestep,
-                                        int deltaTimestep, const QString& filename);
+    NearZoneMultiFieldInterpolatedPoint(float x, float y, float z, bool scatteredE, bool totalE, bool scatteredH,
+                                        bool totalH, bool scatteredB, bool totalB, bool j, int minTimestep,
+                                        int maxTimestep, int deltaTimestep, const QString& filename);
 
     float getX() const { return m_x; }
     void setX(float x) { m_x = x; }

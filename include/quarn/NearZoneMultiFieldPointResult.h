@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "quarn/Export.h"
+#include "quarn/FieldGroup.h"
 
 namespace quarn {
 
@@ -24,8 +25,8 @@ public:
     class QUARN_EXPORT Header {
     public:
         Header() = default;
-        Header(float x, float y, float z, bool collectScatteredE, bool collectTotalE, bool collectScatteredH,
-               bool collectTotalH, bool collectScatteredB, bool collectTotalB, bool collectJ);
+        Header(float x, float y, float z, bool scatteredE, bool totalE, bool scatteredH, bool totalH, bool scatteredB,
+               bool totalB, bool j);
 
         /// Other than 0 only after a file of another version was refused.
         std::int8_t getVersion() const { return m_version; }
@@ -34,13 +35,15 @@ public:
         float getY() const { return m_y; }
         float getZ() const { return m_z; }
 
-        bool collectScatteredE() const { return collects(0); }
-        bool collectTotalE() const { return collects(1); }
-        bool collectScatteredH() const { return collects(2); }
-        bool collectTotalH() const { return collects(3); }
-        bool collectScatteredB() const { return collects(4); }
-        bool collectTotalB() const { return collects(5); }
-        bool collectJ() const { return collects(6); }
+        bool collects(FieldGroup group) const { return (m_groups >> infoOf(group).nearZoneBit & 1) != 0; }
+
+        bool collectScatteredE() const { return collects(FieldGroup::ScatteredE); }
+        bool collectTotalE() const { return collects(FieldGroup::TotalE); }
+        bool collectScatteredH() const { return collects(FieldGroup::ScatteredH); }
+        bool collectTotalH() const { return collects(FieldGroup::TotalH); }
+        bool collectScatteredB() const { return collects(FieldGroup::ScatteredB); }
+        bool collectTotalB() const { return collects(FieldGroup::TotalB); }
+        bool collectJ() const { return collects(FieldGroup::J); }
 
         friend bool operator==(const Header& a, const Header& b) {
             return std::tie(a.m_version, a.m_x, a.m_y, a.m_z, a.m_groups) ==
@@ -50,8 +53,6 @@ public:
 
     private:
         friend class NearZoneMultiFieldPointResult;
-
-        bool collects(int group) const { return (m_groups & (0x8000U >> group)) != 0; }
 
         // What follows the version in a file.
         template <class Self>
@@ -80,6 +81,9 @@ public:
         Components totalB{};
         Components j{};  ///< A/m^2
 
+        Components& operator[](FieldGroup group) { return this->*member(group); }
+        const Components& operator[](FieldGroup group) const { return this->*member(group); }
+
         /// The order of the file, all floats.
         template <class Self>
         static auto fields(Self& r) {
@@ -88,6 +92,18 @@ public:
 
         friend bool operator==(const Record& a, const Record& b) { return fields(a) == fields(b); }
         friend bool operator!=(const Record& a, const Record& b) { return !(a == b); }
+
+    private:
+        static constexpr Components Record::*member(FieldGroup group) {
+            constexpr Components Record::*members[] = {&Record::scatteredE,
+                                                       &Record::totalE,
+                                                       &Record::scatteredH,
+                                                       &Record::totalH,
+                                                       &Record::scatteredB,
+                                                       &Record::totalB,
+                                                       &Record::j};
+            return members[static_cast<std::size_t>(group)];
+        }
     };
 
     /// As written or read last.

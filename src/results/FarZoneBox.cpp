@@ -5,6 +5,7 @@
 
 #include "quarn/BoundaryConditions.h"
 #include "quarn/Grid.h"
+#include "quarn/PhysicalConstants.h"
 
 namespace quarn {
 
@@ -81,7 +82,7 @@ void FarZoneBox::setCenter(const Grid& grid) {
 
 bool FarZoneBox::isAngleUnderGround(float phi, float theta) const {
     if (!m_useImage || m_imageFace >= NoFace) return false;
-    static const double tolerance = std::sin(1.7453292519943296e-5);  // 0.001 degree
+    static const double tolerance = std::sin(1e-3 * constants::radiansPerDegree);
     const double azimuth = phi;
     const double polar = theta;
     const double direction[] = {

@@ -2,10 +2,12 @@
 
 #include <cmath>
 
+#include "quarn/PhysicalConstants.h"
+
 namespace quarn {
 
 void FarZoneRotation::set(const Vector3D& axis, float angle) {
-    constexpr float fullTurn = 6.2831855F;
+    constexpr float fullTurn = static_cast<float>(2.0 * constants::pi);
     *this = FarZoneRotation();
     if (axis.mag() == 0.0 || std::fmod(angle, fullTurn) == 0.0F) return;
 

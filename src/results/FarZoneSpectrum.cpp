@@ -5,11 +5,11 @@
 #include <iterator>
 #include <limits>
 
+#include "quarn/PhysicalConstants.h"
+
 namespace quarn::farzone {
 
 namespace {
-
-constexpr double pi = 3.14159265358979323846;
 
 constexpr double nsPerGatheredCell = 2.0;
 constexpr double nsPerPhasor = 3.5;
@@ -60,7 +60,7 @@ Extent extentOf(const Axis& axis) {
 /// Samples up to the direction component 1, which are oversampled times the half length in wavelengths times two. A
 /// short axis has a few.
 double samplesWithin(double halfLength, double waveNumber) {
-    return Window::oversampling * std::max(waveNumber * halfLength, 1e-3) / pi;
+    return Window::oversampling * std::max(waveNumber * halfLength, 1e-3) / constants::pi;
 }
 
 /// The last sample with those that the window needs behind the component 1.

@@ -25,17 +25,17 @@
 #include <algorithm>
 #include <cmath>
 
+#include "quarn/PhysicalConstants.h"
 #include "results/FarZoneDirectSum.h"
 #include "results/FarZoneSpectrum.h"
 
 namespace quarn::farzone {
 
+using constants::freeSpaceImpedance;
+using constants::pi;
+
 namespace {
 
-constexpr double speedOfLight = 299792458.0;
-constexpr double twoPi = 6.283185307179586;
-constexpr double fourPi = 12.566370614359172;
-constexpr double freeSpaceImpedance = 376.73031346177;
 constexpr double largestMemory = 1024.0 * 1024.0 * 1024.0;
 
 /// The integrals N and L.
@@ -85,7 +85,7 @@ void addImage(const Surface& surface, double waveNumber, const Vector& direction
 Complex dot(const std::array<Complex, numAxes>& a, const Vector& b) { return a[0] * b[0] + a[1] * b[1] + a[2] * b[2]; }
 
 FarField farFieldOf(const Radiation& radiation, const Direction& direction, double waveNumber) {
-    const Complex factor(0.0, waveNumber / fourPi);
+    const Complex factor(0.0, waveNumber / (4.0 * pi));
     return {-factor * (dot(radiation.magnetic, direction.phi) +
                        freeSpaceImpedance * dot(radiation.electric, direction.theta)),
             factor * (dot(radiation.magnetic, direction.theta) -
@@ -123,7 +123,7 @@ Direction::Direction(double polarAngle, double azimuth) {
     phi = {-sinPhi, cosPhi, 0.0};
 }
 
-double waveNumberOf(double frequency) { return twoPi * frequency / speedOfLight; }
+double waveNumberOf(double frequency) { return 2.0 * pi * frequency / constants::speedOfLight; }
 
 Method fasterMethod(const Surface& surface, double waveNumber, std::size_t numDirections) {
     if (!(waveNumber > 0.0)) return Method::Direct;

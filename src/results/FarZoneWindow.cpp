@@ -3,18 +3,19 @@
 #include <algorithm>
 #include <cmath>
 
+#include "quarn/PhysicalConstants.h"
+
 namespace quarn::farzone {
 
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr double halfWidth = 0.5 * static_cast<double>(Window::taps);
 
 double square(double x) { return x * x; }
 
 double shape() {
     constexpr double spread = 2.0 * halfWidth / Window::oversampling * (Window::oversampling - 0.5);
-    return pi * std::sqrt(square(spread) - 0.8);
+    return constants::pi * std::sqrt(square(spread) - 0.8);
 }
 
 /// I0 of the square root of `squared`, which may be a little below 0, by its power series.

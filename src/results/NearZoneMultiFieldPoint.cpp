@@ -7,17 +7,10 @@ namespace quarn {
 
 NearZoneMultiFieldPoint::~NearZoneMultiFieldPoint() = default;
 
-NearZoneMultiFieldPoint::NearZoneMultiFieldPoint(bool collectScatteredE, bool collectTotalE, bool collectScatteredH,
-                                                 bool collectTotalH, bool collectScatteredB, bool collectTotalB,
-                                                 bool collectJ, int minTimestep, int maxTimestep, int deltaTimestep,
-                                                 const QString& filename)
-    : m_collectScatteredE(collectScatteredE),
-      m_collectTotalE(collectTotalE),
-      m_collectScatteredH(collectScatteredH),
-      m_collectTotalH(collectTotalH),
-      m_collectScatteredB(collectScatteredB),
-      m_collectTotalB(collectTotalB),
-      m_collectJ(collectJ),
+NearZoneMultiFieldPoint::NearZoneMultiFieldPoint(bool scatteredE, bool totalE, bool scatteredH, bool totalH,
+                                                 bool scatteredB, bool totalB, bool j, int minTimestep, int maxTimestep,
+                                                 int deltaTimestep, const QString& filename)
+    : m_groups{scatteredE, totalE, scatteredH, totalH, scatteredB, totalB, j},
       m_minTimestep(minTimestep),
       m_maxTimestep(maxTimestep),
       m_deltaTimestep(deltaTimestep),
@@ -25,29 +18,17 @@ NearZoneMultiFieldPoint::NearZoneMultiFieldPoint(bool collectScatteredE, bool co
 
 bool NearZoneMultiFieldPoint::operator==(const NearZoneMultiFieldPoint& other) const {
     const auto members = [](const NearZoneMultiFieldPoint& p) {
-        return std::tie(p.m_collectScatteredE,
-                        p.m_collectTotalE,
-                        p.m_collectScatteredH,
-                        p.m_collectTotalH,
-                        p.m_collectScatteredB,
-                        p.m_collectTotalB,
-                        p.m_collectJ,
-                        p.m_minTimestep,
-                        p.m_maxTimestep,
-                        p.m_deltaTimestep,
-                        p.m_filename);
+        return std::tie(p.m_groups, p.m_minTimestep, p.m_maxTimestep, p.m_deltaTimestep, p.m_filename);
     };
     return typeid(*this) == typeid(other) && members(*this) == members(other);
 }
 
-NearZoneMultiFieldIndexedPoint::NearZoneMultiFieldIndexedPoint(const ivec3& point, bool collectScatteredE,
-                                                               bool collectTotalE, bool collectScatteredH,
-                                                               bool collectTotalH, bool collectScatteredB,
-                                                               bool collectTotalB, bool collectJ, int minTimestep,
-                                                               int maxTimestep, int deltaTimestep,
-                                                               const QString& filename)
-    : NearZoneMultiFieldPoint(collectScatteredE, collectTotalE, collectScatteredH, collectTotalH, collectScatteredB,
-                              collectTotalB, collectJ, minTimestep, maxTimestep, deltaTimestep, filename),
+NearZoneMultiFieldIndexedPoint::NearZoneMultiFieldIndexedPoint(const ivec3& point, bool scatteredE, bool totalE,
+                                                               bool scatteredH, bool totalH, bool scatteredB,
+                                                               bool totalB, bool j, int minTimestep, int maxTimestep,
+                                                               int deltaTimestep, const QString& filename)
+    : NearZoneMultiFieldPoint(scatteredE, totalE, scatteredH, totalH, scatteredB, totalB, j, minTimestep, maxTimestep,
+                              deltaTimestep, filename),
       m_x(point.x),
       m_y(point.y),
       m_z(point.z) {}
@@ -57,12 +38,13 @@ bool NearZoneMultiFieldIndexedPoint::operator==(const NearZoneMultiFieldIndexedP
            std::tie(m_x, m_y, m_z) == std::tie(other.m_x, other.m_y, other.m_z);
 }
 
-NearZoneMultiFieldInterpolatedPoint::NearZoneMultiFieldInterpolatedPoint(
-    float x, float y, float z, bool collectScatteredE, bool collectTotalE, bool collectScatteredH, bool collectTotalH,
-    bool collectScatteredB, bool collectTotalB, bool collectJ, int minTimestep, int maxTimestep, int deltaTimestep,
-    const QString& filename)
-    : NearZoneMultiFieldPoint(collectScatteredE, collectTotalE, collectScatteredH, collectTotalH, collectScatteredB,
-                              collectTotalB, collectJ, minTimestep, maxTimestep, deltaTimestep, filename),
+NearZoneMultiFieldInterpolatedPoint::NearZoneMultiFieldInterpolatedPoint(float x, float y, float z, bool scatteredE,
+                                                                         bool totalE, bool scatteredH, bool totalH,
+                                                                         bool scatteredB, bool totalB, bool j,
+                                                                         int minTimestep, int maxTimestep,
+                                                                         int deltaTimestep, const QString& filename)
+    : NearZoneMultiFieldPoint(scatteredE, totalE, scatteredH, totalH, scatteredB, totalB, j, minTimestep, maxTimestep,
+                              deltaTimestep, filename),
       m_x(x),
       m_y(y),
       m_z(z) {}

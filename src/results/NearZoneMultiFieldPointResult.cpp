@@ -1,5 +1,7 @@
 #include "quarn/NearZoneMultiFieldPointResult.h"
 
+#include <algorithm>
+
 #include "quarn/BinaryFile.h"
 #include "results/RecordFields.h"
 
@@ -10,7 +12,7 @@ namespace {
 constexpr std::string_view magic = "Rnzp";
 constexpr unsigned int unusedBits = 0x01FF;
 
-// The numbers of a C stream, as fields of records want them.
+// Reads and writes the fields of records on a C stream.
 class StdioNumbers {
 public:
     explicit StdioNumbers(std::FILE* file) : m_file(file) {}
@@ -27,33 +29,24 @@ private:
 };
 
 // Calls `move(field)` for the time and for each group of the header, up to the first that fails.
-template <class Fields, class Collects, class Move>
-bool moveRecord(const Fields& fields, Collects collects, Move move) {
-    return std::apply(
-        [&](auto& time, auto&... groups) {
-            int group = 0;
-            return move(time) && ((!collects(group++) || move(groups)) && ...);
-        },
-        fields);
+template <class Record, class Move>
+bool moveRecord(Record& record, const NearZoneMultiFieldPointResult::Header& header, Move move) {
+    return move(record.time) && std::all_of(fieldGroups.begin(), fieldGroups.end(), [&](const FieldGroupInfo& info) {
+               return !header.collects(info.group) || move(record[info.group]);
+           });
 }
 
 }  // namespace
 
-NearZoneMultiFieldPointResult::Header::Header(float x, float y, float z, bool collectScatteredE, bool collectTotalE,
-                                              bool collectScatteredH, bool collectTotalH, bool collectScatteredB,
-                                              bool collectTotalB, bool collectJ)
+NearZoneMultiFieldPointResult::Header::Header(float x, float y, float z, bool scatteredE, bool totalE, bool scatteredH,
+                                              bool totalH, bool scatteredB, bool totalB, bool j)
     : m_x(x), m_y(y), m_z(z) {
-    int group = 0;
-    for (const bool collect : {collectScatteredE,
-                               collectTotalE,
-                               collectScatteredH,
-                               collectTotalH,
-                               collectScatteredB,
-                               collectTotalB,
-                               collectJ}) {
-        if (collect) m_groups = static_cast<std::uint16_t>(m_groups | (0x8000U >> group));
-        ++group;
+    const bool collected[] = {scatteredE, totalE, scatteredH, totalH, scatteredB, totalB, j};
+    unsigned int groups = 0;
+    for (const FieldGroupInfo& info : fieldGroups) {
+        groups |= unsigned{collected[static_cast<std::size_t>(info.group)]} << info.nearZoneBit;
     }
+    m_groups = static_cast<std::uint16_t>(groups);
 }
 
 bool NearZoneMultiFieldPointResult::setAndWriteHeader(const Header& header, std::FILE* stream) {
@@ -78,19 +71,13 @@ bool NearZoneMultiFieldPointResult::readAndGetHeader(std::FILE* stream, Header& 
 
 bool NearZoneMultiFieldPointResult::writeRecord(const Record& record, std::FILE* stream) const {
     StdioNumbers numbers(stream);
-    return moveRecord(
-        Record::fields(record),
-        [&](int group) { return m_header.collects(group); },
-        [&](const auto& field) { return records::writeField(numbers, field); });
+    return moveRecord(record, m_header, [&](const auto& field) { return records::writeField(numbers, field); });
 }
 
 bool NearZoneMultiFieldPointResult::readRecord(std::FILE* stream, Record& record) const {
     if (m_header.m_version != 0) return false;
     StdioNumbers numbers(stream);
-    return moveRecord(
-        Record::fields(record),
-        [&](int group) { return m_header.collects(group); },
-        [&](auto& field) { return records::readField(numbers, field); });
+    return moveRecord(record, m_header, [&](auto& field) { return records::readField(numbers, field); });
 }
 
 }  // namespace quarn

@@ -31,22 +31,16 @@ constexpr auto MaxTimestep = "MaxTimestep"_key;
 constexpr auto DeltaTimestep = "DeltaTimestep"_key;
 }  // namespace key
 
-struct Field {
-    QLatin1String key;
-    bool (Point::*isCollected)() const;
-    void (Point::*collect)(bool);
-};
-
 // In the order in which they are written.
-constexpr std::array<Field, 7> fields{{
-    {"TotalE"_key, &Point::collectTotalE, &Point::setCollectTotalE},
-    {"ScatteredE"_key, &Point::collectScatteredE, &Point::setCollectScatteredE},
-    {"TotalH"_key, &Point::collectTotalH, &Point::setCollectTotalH},
-    {"ScatteredH"_key, &Point::collectScatteredH, &Point::setCollectScatteredH},
-    {"TotalB"_key, &Point::collectTotalB, &Point::setCollectTotalB},
-    {"ScatteredB"_key, &Point::collectScatteredB, &Point::setCollectScatteredB},
-    {"J"_key, &Point::collectJ, &Point::setCollectJ},
-}};
+constexpr std::array<FieldGroup, 7> groups{FieldGroup::TotalE,
+                                           FieldGroup::ScatteredE,
+                                           FieldGroup::TotalH,
+                                           FieldGroup::ScatteredH,
+                                           FieldGroup::TotalB,
+                                           FieldGroup::ScatteredB,
+                                           FieldGroup::J};
+
+QLatin1String keyOf(FieldGroup group) { return QLatin1String(infoOf(group).key); }
 
 void writeDefinition(DelimManager& delim, const Point& point) {
     const WrittenBlock block(delim, key::Definition);
@@ -54,20 +48,20 @@ void writeDefinition(DelimManager& delim, const Point& point) {
     putLine(delim, key::MinTimestep, point.getMinTimestep());
     putLine(delim, key::MaxTimestep, point.getMaxTimestep());
     putLine(delim, key::DeltaTimestep, point.getDeltaTimestep());
-    for (const Field& field : fields) putFlag(delim, field.key, (point.*field.isCollected)());
+    for (const FieldGroup group : groups) putFlag(delim, keyOf(group), point.collects(group));
 }
 
 void readDefinition(DelimManager& delim, Point& point) {
-    const auto walk = [&](const auto&... field) {
+    const auto walk = [&](auto... group) {
         walkBlock(delim,
                   Unknown::DropLine,
                   onSetting(key::File, point, &Point::setFilename),
                   onSetting(key::MinTimestep, point, &Point::setMinTimestep),
                   onSetting(key::MaxTimestep, point, &Point::setMaxTimestep),
                   onSetting(key::DeltaTimestep, point, &Point::setDeltaTimestep),
-                  onWord(field.key, [&] { (point.*field.collect)(true); })...);
+                  onWord(keyOf(group), [&] { point.setCollects(group, true); })...);
     };
-    std::apply(walk, fields);
+    std::apply(walk, groups);
 }
 
 // What all points have in their blocks, and the handlers for the coordinates.

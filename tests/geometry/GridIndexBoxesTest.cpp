@@ -6,7 +6,7 @@
 #include <random>
 #include <stdexcept>
 
-#include "geometry/GridIndexBoxesReference.h"
+#include "reference/IndexBoxes.h"
 
 namespace quarn {
 
@@ -17,8 +17,10 @@ inline void PrintTo(const ivec3& cell, std::ostream* out) {
 namespace test {
 namespace {
 
+using reference::cellsOf;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using ReferenceBoxes = reference::IndexBoxes;
 using Box = GridIndexBoxes::Box;
 using Cells = std::vector<ivec3>;
 using Exclusions = std::set<ivec3>;

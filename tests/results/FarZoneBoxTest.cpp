@@ -4,6 +4,7 @@
 
 #include "TestSupport.h"
 #include "quarn/Grid.h"
+#include "quarn/PhysicalConstants.h"
 
 namespace quarn::test {
 namespace {
@@ -97,7 +98,7 @@ const Refusal refusals[] = {
 INSTANTIATE_TEST_SUITE_P(rows, FarZoneBoxIn, testing::ValuesIn(refusals), rowName<Refusal>);
 
 TEST(FarZoneBox, hides_directions_behind_the_plane_by_more_than_a_thousandth_of_a_degree) {
-    constexpr float degree = 0.0174532925F;
+    constexpr auto degree = static_cast<float>(constants::radiansPerDegree);
     const auto hides = [](std::size_t side, float theta, float phi) {
         Types types{Open, Open, Open, Open, Open, Open};
         types[side] = PEC;

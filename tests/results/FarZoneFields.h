@@ -6,13 +6,14 @@
 #include "quarn/BoundaryConditions.h"
 #include "quarn/FieldsOnSSFarZoneBox.h"
 #include "quarn/Grid.h"
+#include "quarn/PhysicalConstants.h"
 #include "quarn/PostProcessSSFarZoneFields.h"
+#include "reference/ExactFields.h"
 #include "results/ResultFolder.h"
-#include "tools/quarn/ExactFields.h"
 
 namespace quarn::test {
 
-inline constexpr double pi = 3.14159265358979323846;
+using constants::pi;
 
 inline BoundaryConditions openBoundaries() {
     constexpr auto open = BoundaryConditions::CPML;
@@ -40,11 +41,11 @@ public:
 
     const Grid& grid() const { return m_grid; }
     const FarZoneBox& box() const { return m_box; }
-    exact::Vector origin() const { return {m_box.getXCenter(), m_box.getYCenter(), m_box.getZCenter()}; }
+    reference::Vector origin() const { return {m_box.getXCenter(), m_box.getYCenter(), m_box.getZCenter()}; }
 
-    FieldsOnSSFarZoneBox fieldsOf(const exact::Source& source, double frequency) const {
+    FieldsOnSSFarZoneBox fieldsOf(const reference::Source& source, double frequency) const {
         const QString path = m_folder.path("box");
-        EXPECT_TRUE(exact::writeBoxFields(path, m_grid, m_box, source, frequency));
+        EXPECT_TRUE(reference::writeBoxFields(path, m_grid, m_box, source, frequency));
         QString problem;
         FieldsOnSSFarZoneBox fields(m_grid, path, m_box, problem);
         EXPECT_EQ(problem.toStdString(), "");

@@ -2,10 +2,10 @@
 
 #include <gmock/gmock.h>
 
+#include "reference/FarZoneSums.h"
 #include "results/FarZoneFields.h"
 #include "results/FarZoneRecords.h"
 #include "results/FarZoneTransform.h"
-#include "tests/results/FarZoneReference.h"
 
 namespace quarn::test {
 namespace {
@@ -46,10 +46,11 @@ TEST(FarZoneProgress, reports_a_share_of_the_known_work_once_fifty_milliseconds_
 const std::array<std::vector<double>, 3> longBox = {std::vector(6000, 0.1), {0.1}, {0.1}};
 
 TEST(FarZoneProgress, is_told_of_all_work_in_pieces_of_less_than_a_hundred_milliseconds) {
-    SampledBox box(longBox, {-300, 0, 0}, 2.0 * pi);
+    const reference::SampledBox box(longBox, {-300, 0, 0}, 2.0 * pi);
+    const auto surface = box.as<farzone::Surface>();
     const std::vector<farzone::Direction> directions(500, {1.0, 0.5});
     for (const auto method : {farzone::Method::Direct, farzone::Method::Sampled}) {
-        const double work = farzone::costOf(method, box.surface(), 2.0 * pi, directions.size());
+        const double work = farzone::costOf(method, surface, 2.0 * pi, directions.size());
         std::size_t last = 0, longest = 0;
         const auto listen = [&](std::size_t done, std::size_t) {
             longest = std::max(longest, done - last);
@@ -59,7 +60,7 @@ TEST(FarZoneProgress, is_told_of_all_work_in_pieces_of_less_than_a_hundred_milli
         Progress progress(listen, static_cast<std::size_t>(work), aMinuteLater);
         progress.expect(work);
         std::vector<farzone::FarField> fields;
-        farzone::Transform transform(box.surface(), 2.0 * pi, method);
+        farzone::Transform transform(surface, 2.0 * pi, method);
         EXPECT_TRUE(transform.prepare(progress) && transform.apply(directions, fields, progress));
         EXPECT_GT(work, 200 * millisecond);
         EXPECT_GT(static_cast<double>(last), 0.9 * work);
@@ -71,9 +72,9 @@ TEST(FarZoneProgress, stops_preparations_and_directions_at_any_report_and_keeps_
     Grid grid;
     const Grid::Runs runs{{0, 0.1F}};
     ASSERT_TRUE(grid.initialize(6009, 10, 10, 0, 0, 0, runs, runs, runs, true));
-    const double frequency = 299792458.0;
+    const double frequency = constants::speedOfLight;
     const ExactRun run(grid, openBoundaries());
-    const auto fields = run.fieldsOf(exact::ElectricDipole({300.05, 0.45, 0.45}, {0, 0, 1.0}), frequency);
+    const auto fields = run.fieldsOf(reference::ElectricDipole({300.05, 0.45, 0.45}, {0, 0, 1.0}), frequency);
     const auto angles = sphere(5);
     int numReports = 0;
     for (int last = 1; last == 1 || numReports == last / 2; last *= 2) {

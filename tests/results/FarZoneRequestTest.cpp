@@ -5,13 +5,14 @@
 #include "TestSupport.h"
 #include "quarn/DelimManager.h"
 #include "quarn/FarZoneRotation.h"
+#include "quarn/PhysicalConstants.h"
 
 namespace quarn::test {
 namespace {
 
 using testing::ElementsAre;
 
-constexpr float pi = 3.14159265F;
+constexpr auto pi = static_cast<float>(constants::pi);
 
 TEST(FarZoneRequest, derives_names_by_cutting_three_characters) {
     const auto names = [](const char* name) {

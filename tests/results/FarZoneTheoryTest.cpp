@@ -9,16 +9,16 @@
 namespace quarn::test {
 namespace {
 
-using exact::Complex;
-using exact::ComplexVector;
-using exact::ElectricDipole;
-using exact::MagneticDipole;
-using exact::Sources;
-using exact::Vector;
-using exact::WireDipole;
+using reference::Complex;
+using reference::ComplexVector;
+using reference::ElectricDipole;
+using reference::MagneticDipole;
+using reference::Sources;
+using reference::Vector;
+using reference::WireDipole;
 
-constexpr float frequency = 299792458.0F;  // a wavelength is 1 m to seven digits
-const double waveNumber = exact::waveNumberOf(frequency);
+constexpr auto frequency = static_cast<float>(constants::speedOfLight);  // a wavelength is 1 m to seven digits
+const double waveNumber = reference::waveNumberOf(frequency);
 
 Grid evenGrid(float size, float length) {
     const auto cells = static_cast<std::uint32_t>(std::lround(length / size)) + 10;  // with the margin of the box
@@ -50,7 +50,7 @@ std::unique_ptr<Dipole> dipole(const Vector& position, const ComplexVector& mome
 }
 
 /// The largest deviation over all directions, in units of the largest field.
-double deviation(const ExactRun& run, const exact::Source& source, const FieldsOnSSFarZoneBox& fields,
+double deviation(const ExactRun& run, const reference::Source& source, const FieldsOnSSFarZoneBox& fields,
                  const std::vector<FarZoneRequest::Angle>& angles) {
     double peak = 0.0;
     double largest = 0.0;
@@ -60,7 +60,7 @@ double deviation(const ExactRun& run, const exact::Source& source, const FieldsO
             EXPECT_EQ(record.ePhi, std::complex<float>());
             continue;
         }
-        const exact::FarField expected = source.far(record.theta, record.phi, waveNumber, run.origin());
+        const reference::FarField expected = source.far(record.theta, record.phi, waveNumber, run.origin());
         peak = std::max({peak, std::abs(expected.theta), std::abs(expected.phi)});
         largest = std::max({largest,
                             std::abs(Complex(record.eTheta) - expected.theta),
@@ -69,14 +69,14 @@ double deviation(const ExactRun& run, const exact::Source& source, const FieldsO
     return largest / peak;
 }
 
-double deviation(const ExactRun& run, const exact::Source& source) {
+double deviation(const ExactRun& run, const reference::Source& source) {
     return deviation(run, source, run.fieldsOf(source, frequency), sphere(10));
 }
 
 struct SourceRow {
     const char* name;
     Grid (*grid)(float size, float length);
-    std::unique_ptr<exact::Source> (*source)(const ExactRun& run);
+    std::unique_ptr<reference::Source> (*source)(const ExactRun& run);
 };
 
 void PrintTo(const SourceRow& row, std::ostream* out) { *out << row.name; }
@@ -101,7 +101,7 @@ TEST_P(FarFieldOf, meets_the_closed_form_the_better_the_finer_the_cells) {
     EXPECT_LT(deviationForCells(0.025F), 0.28 * coarse);
 }
 
-std::unique_ptr<exact::Source> phasedArray(const ExactRun& run) {
+std::unique_ptr<reference::Source> phasedArray(const ExactRun& run) {
     auto array = std::make_unique<Sources>();
     for (int i = -1; i <= 1; ++i) {
         const Complex moment = std::polar(1.0 + 0.5 * i, 1.2 * i);
@@ -112,21 +112,21 @@ std::unique_ptr<exact::Source> phasedArray(const ExactRun& run) {
 }
 
 template <class Dipole, int axis>
-std::unique_ptr<exact::Source> centred(const ExactRun& run) {
+std::unique_ptr<reference::Source> centred(const ExactRun& run) {
     ComplexVector moment{};
     moment[axis] = 1.0;
     return dipole<Dipole>(at(run, 0, 0, 0), moment);
 }
 
-std::unique_ptr<exact::Source> offCentre(const ExactRun& run) {
+std::unique_ptr<reference::Source> offCentre(const ExactRun& run) {
     return dipole<ElectricDipole>(at(run, 0.15, -0.2, 0.1), {Complex(0, 1), 0.5, -2.0});
 }
 
-std::unique_ptr<exact::Source> halfWave(const ExactRun& run) {
+std::unique_ptr<reference::Source> halfWave(const ExactRun& run) {
     return std::make_unique<WireDipole>(at(run, 0.01, 0.02, 0), Vector{0, 0, 1}, 0.5, Complex(1, 0));
 }
 
-std::unique_ptr<exact::Source> obliqueWire(const ExactRun& run) {
+std::unique_ptr<reference::Source> obliqueWire(const ExactRun& run) {
     return std::make_unique<WireDipole>(at(run, 0, 0, 0), Vector{0.6, 0, 0.8}, 0.6, Complex(0, 1));
 }
 
@@ -219,8 +219,8 @@ TEST(FarField, carries_the_power_that_flows_through_the_box) {
         }
     }
     for (const auto& record : patternOf(fields, frequency, angles)) {
-        const double density =
-            static_cast<double>(std::norm(record.eTheta) + std::norm(record.ePhi)) / (2.0 * exact::freeSpaceImpedance);
+        const double density = static_cast<double>(std::norm(record.eTheta) + std::norm(record.ePhi)) /
+                               (2.0 * constants::freeSpaceImpedance);
         radiated += density * std::sin(static_cast<double>(record.theta)) * std::pow(step * pi / 180, 2);
     }
     EXPECT_NEAR(radiated, flux, 0.01 * flux);

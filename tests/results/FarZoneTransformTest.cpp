@@ -4,12 +4,15 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <limits>
+#include <random>
 
 #include "TestSupport.h"
+#include "quarn/PhysicalConstants.h"
+#include "reference/FarZoneSums.h"
 #include "results/FarZoneDirectSum.h"
 #include "results/FarZoneSpectrum.h"
-#include "tests/results/FarZoneReference.h"
 
 namespace quarn::test {
 namespace {
@@ -20,8 +23,9 @@ using farzone::FarField;
 using farzone::Method;
 using farzone::Surface;
 using farzone::Vector;
+using reference::SampledBox;
 
-constexpr double twoPi = 6.283185307179586;
+constexpr double twoPi = 2.0 * constants::pi;
 
 using Sizes = std::vector<double>;
 
@@ -73,33 +77,18 @@ std::vector<Direction> randomDirections(std::size_t count) {
 class FarZoneSums : public testing::TestWithParam<Shape> {
 protected:
     SampledBox box{GetParam().sizes, GetParam().corner, twoPi};
-    Surface& surface = box.surface();
-    std::vector<Direction> directions = randomDirections(300);
+    Surface surface = box.as<Surface>();
 
-    /// The largest deviation of a face's sums from the reference, in units of the largest sum of that face.
     double deviation(farzone::FaceSummation&& summation) const {
         Progress progress(nullptr);
         EXPECT_TRUE(summation.prepare(progress));
-        double peaks[6] = {};
-        double deviations[6] = {};
-        for (const Direction& direction : directions) {
-            const FaceSums expected = referenceSums(surface, twoPi, direction.r);
+        reference::Deviation deviation;
+        for (const Direction& direction : randomDirections(300)) {
             FaceSums found;
             EXPECT_TRUE(summation.evaluate(&direction.r, 1, &found, progress));
-            for (std::size_t face = 0; face < 6; ++face) {
-                for (std::size_t component = 0; component < farzone::numComponents; ++component) {
-                    const auto& value = expected[face / 2][face % 2][component];
-                    peaks[face] = std::max(peaks[face], std::abs(value));
-                    deviations[face] =
-                        std::max(deviations[face], std::abs(found[face / 2][face % 2][component] - value));
-                }
-            }
+            deviation.add(found, box.sumsIn(direction.r, twoPi));
         }
-        double largest = 0.0;
-        for (std::size_t face = 0; face < 6; ++face) {
-            if (deviations[face] > 0.0) largest = std::max(largest, deviations[face] / peaks[face]);
-        }
-        return largest;
+        return deviation.largest();
     }
 };
 
@@ -121,10 +110,10 @@ std::vector<FarField> fieldsBy(Method method, const Surface& surface, const std:
 
 // The plane stands off the centre, so that the image's path counts; fields are of the order of 1000 V.
 TEST(FarZoneTransform, gives_the_same_image_by_both_methods) {
-    SampledBox box(shapes[1].sizes, shapes[1].corner, twoPi);
+    const SampledBox box(shapes[1].sizes, shapes[1].corner, twoPi);
     const std::vector<Direction> directions = randomDirections(100);
     for (std::size_t axis = 0; axis < farzone::numAxes; ++axis) {
-        Surface surface = box.surface();
+        Surface surface = box.as<Surface>();
         surface.mirrorAxis = axis;
         surface.mirrorPosition = surface.axes[axis].faces[farzone::Lower];
         surface.pairs[axis].faces[farzone::Lower].isSummed = false;
@@ -138,12 +127,13 @@ TEST(FarZoneTransform, gives_the_same_image_by_both_methods) {
 }
 
 TEST(FarZoneTransform, keeps_what_is_not_a_number_to_its_direction) {
-    SampledBox box(shapes[0].sizes, shapes[0].corner, twoPi);
+    const SampledBox box(shapes[0].sizes, shapes[0].corner, twoPi);
+    const Surface surface = box.as<Surface>();
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinity = std::numeric_limits<double>::infinity();
     const std::vector<Direction> directions{{1, 1}, {nan, 1}, {1, 1}, {1, infinity}, {1 + twoPi, 1 - twoPi}};
     for (const Method method : {Method::Direct, Method::Sampled}) {
-        const auto fields = fieldsBy(method, box.surface(), directions);
+        const auto fields = fieldsBy(method, surface, directions);
         EXPECT_TRUE(std::isnan(std::abs(fields[1].theta)) && std::isnan(std::abs(fields[1].phi)));
         EXPECT_TRUE(std::isnan(std::abs(fields[3].theta)) && std::isnan(std::abs(fields[3].phi)));
         EXPECT_EQ(fields[2].theta, fields[0].theta);
@@ -163,8 +153,9 @@ void PrintTo(const Choice& choice, std::ostream* out) { *out << choice.name; }
 class FarZoneMethod : public testing::TestWithParam<Choice> {};
 
 TEST_P(FarZoneMethod, is_the_faster_one) {
-    SampledBox box({even(60, 0.05), even(60, 0.05), even(60, 0.05)}, {-1.5, -1.5, -1.5}, twoPi);
-    EXPECT_EQ(farzone::fasterMethod(box.surface(), GetParam().waveNumber, GetParam().directions), GetParam().expected);
+    const SampledBox box({even(60, 0.05), even(60, 0.05), even(60, 0.05)}, {-1.5, -1.5, -1.5}, twoPi);
+    EXPECT_EQ(farzone::fasterMethod(box.as<Surface>(), GetParam().waveNumber, GetParam().directions),
+              GetParam().expected);
 }
 
 const Choice choices[] = {
@@ -183,9 +174,10 @@ INSTANTIATE_TEST_SUITE_P(, FarZoneMethod, testing::ValuesIn(choices), rowName<Ch
 
 // A place or a size that is no number makes fields that are none, by whatever way.
 TEST(FarZoneTransform, does_not_sample_cells_that_are_nowhere) {
-    SampledBox box(shapes[0].sizes, shapes[0].corner, twoPi);
-    box.surface().axes[1].middles[3] = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_EQ(farzone::fasterMethod(box.surface(), twoPi, 65160), Method::Direct);
+    const SampledBox box(shapes[0].sizes, shapes[0].corner, twoPi);
+    Surface surface = box.as<Surface>();
+    surface.axes[1].middles[3] = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(farzone::fasterMethod(surface, twoPi, 65160), Method::Direct);
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ class FarZone : public testing::Test {
 protected:
     ExactRun run{gridOf(40), openBoundaries()};
     FieldsOnSSFarZoneBox fields =
-        run.fieldsOf(exact::ElectricDipole({1, 1, 0.9}, {0.2, std::complex<double>(0, 0.5), 1.0}), frequency);
+        run.fieldsOf(reference::ElectricDipole({1, 1, 0.9}, {0.2, std::complex<double>(0, 0.5), 1.0}), frequency);
 
     Records compute(const std::vector<FarZoneRequest::Angle>& angles, float at = frequency) {
         return patternOf(fields, at, angles);

@@ -12,7 +12,7 @@ namespace {
 
 using testing::HasSubstr;
 
-constexpr double frequency = 299792458.0;
+constexpr double frequency = constants::speedOfLight;
 constexpr double lowFrequency = 150e6;
 
 /// An electric dipole of 1 A m along z, above a PEC plane or in the open, in a run that lists steady-state frequencies.
@@ -21,13 +21,13 @@ protected:
     void writeRun(const QString& frequencies = "299792458 high", const QString& requests = QString(),
                   FarZoneBox::Face plane = FarZoneBox::NoFace, double height = 0.9) {
         const ExactRun exactRun(grid(), boundariesWithPlaneAt(plane));
-        exact::Sources sources;
+        reference::Sources sources;
         for (const double z : plane == FarZoneBox::NoFace ? std::vector{height} : std::vector{height, -height}) {
-            sources.add(
-                std::make_unique<exact::ElectricDipole>(exact::Vector{0.9, 0.9, z}, exact::ComplexVector{0, 0, 1.0}));
+            sources.add(std::make_unique<reference::ElectricDipole>(reference::Vector{0.9, 0.9, z},
+                                                                    reference::ComplexVector{0, 0, 1.0}));
         }
         const auto writeBox = [&](const QString& name, double at) {
-            ASSERT_TRUE(exact::writeBoxFields(folder.filePath(name), exactRun.grid(), exactRun.box(), sources, at));
+            ASSERT_TRUE(reference::writeBoxFields(folder.filePath(name), exactRun.grid(), exactRun.box(), sources, at));
         };
         writeBox("box", frequency);
         writeBox("low", lowFrequency);

@@ -48,6 +48,30 @@ TEST_F(RequestTool, show_lists_what_is_asked_for_and_check_loses_none_of_it) {
     EXPECT_EQ(run({"check", "run"}).out, "run: no findings\n");
 }
 
+TEST_F(RequestTool, show_names_the_groups_of_fields_in_the_order_of_the_file) {
+    QString requests =
+        "MultiFieldIndexedPoint{ Definition{ J; ScatteredB; TotalB; ScatteredH; TotalH; ScatteredE; TotalE; } }";
+    for (const char* key : {"ScatteredE", "TotalH", "ScatteredH", "TotalB", "ScatteredB", "J"}) {
+        requests += QString("MultiPointFieldRequest{ Transient%1; Steady%1; }").arg(key);
+    }
+    requests +=
+        "MultiPointFieldRequest{ TransientScatteredB; TransientScatteredH; TransientScatteredE; TransientJ;"
+        "TransientTotalB; TransientTotalH; TransientTotalE; SteadyJ; SteadyTotalB; SteadyTotalH; SteadyTotalE; }";
+    writeProjectWith(requests);
+    const QString shown = QString::fromStdString(run({"show", "run"}).out).remove("; any timesteps");
+    EXPECT_THAT(shown.toStdString(),
+                HasSubstr("no file; total E, scattered E, total H, scattered H, total B, scattered B, J\n"));
+    EXPECT_THAT(shown.toStdString(),
+                HasSubstr("request 0       no file; 0 points; transient scattered E\n"
+                          "    request 1       no file; 0 points; transient total H; steady state total H\n"
+                          "    request 2       no file; 0 points; transient scattered H\n"
+                          "    request 3       no file; 0 points; transient total B; steady state total B\n"
+                          "    request 4       no file; 0 points; transient scattered B\n"
+                          "    request 5       no file; 0 points; transient J; steady state J\n"
+                          "    request 6       no file; 0 points; transient total E, total H, total B, J, scattered E, "
+                          "scattered H, scattered B; steady state total E, total H, total B, J\n"));
+}
+
 TEST_F(RequestTool, check_names_measurements_that_a_save_loses_and_show_tells_temperature_rises) {
     writeProjectWith(
         "TemperatureRiseRequest{ plane_type YZ; requested_input_power 0.25; } HACRequest{ Origin 1 2 3; }");

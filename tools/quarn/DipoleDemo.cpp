@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "Console.h"
-#include "ExactFields.h"
 #include "FarZonePattern.h"
 #include "Findings.h"
 #include "GeometryOnDisk.h"
@@ -16,13 +15,14 @@
 #include "Sheet.h"
 #include "Subcommands.h"
 #include "quarn/quarn.h"
+#include "reference/ExactFields.h"
 
 namespace quarn::tool {
 
 namespace {
 
 constexpr float frequency = 1e9F;
-constexpr double waveLength = 299792458.0 / 1e9;
+constexpr double waveLength = constants::speedOfLight / 1e9;
 constexpr float cellSize = 0.0075F;  // a fortieth of a wavelength
 constexpr std::uint32_t cells = 49;  // on each axis
 constexpr std::uint32_t middleCell = 24;
@@ -49,7 +49,7 @@ v6GeometryFile wireInFreeSpace() {
 }
 
 /// With a current of 1 A in its middle, where the feed is.
-exact::WireDipole halfWaveDipole(const Grid& grid) {
+reference::WireDipole halfWaveDipole(const Grid& grid) {
     return {{0.0, 0.0, grid.getUserZMagneticNodeLocation(middleCell)}, {0.0, 0.0, 1.0}, 0.5 * waveLength, 1.0};
 }
 
@@ -72,16 +72,16 @@ bool showGeometry(const QString& path) {
 }
 
 /// The largest difference between computed and exact fields over the directions, relative to the largest exact field.
-double deviation(const FarZoneRecords& records, const exact::Source& source, const FarZoneBox& box) {
-    const exact::Vector center{box.getXCenter(), box.getYCenter(), box.getZCenter()};
-    const double waveNumber = exact::waveNumberOf(static_cast<double>(frequency));
+double deviation(const FarZoneRecords& records, const reference::Source& source, const FarZoneBox& box) {
+    const reference::Vector center{box.getXCenter(), box.getYCenter(), box.getZCenter()};
+    const double waveNumber = reference::waveNumberOf(static_cast<double>(frequency));
     double largestDifference = 0.0;
     double largestField = 0.0;
     for (const auto& record : records) {
         const auto field =
             source.far(static_cast<double>(record.theta), static_cast<double>(record.phi), waveNumber, center);
-        const exact::Complex theta(record.eTheta);
-        const exact::Complex phi(record.ePhi);
+        const reference::Complex theta(record.eTheta);
+        const reference::Complex phi(record.ePhi);
         largestDifference =
             std::max(largestDifference, std::hypot(std::abs(theta - field.theta), std::abs(phi - field.phi)));
         largestField = std::max(largestField, std::hypot(std::abs(field.theta), std::abs(field.phi)));
@@ -89,7 +89,7 @@ double deviation(const FarZoneRecords& records, const exact::Source& source, con
     return largestDifference / largestField;
 }
 
-bool showDeviation(const QString& boxPath, const Grid& grid, const FarZoneBox& box, const exact::Source& source) {
+bool showDeviation(const QString& boxPath, const Grid& grid, const FarZoneBox& box, const reference::Source& source) {
     constexpr double tolerance = 0.01;
     QString problem;
     const FieldsOnSSFarZoneBox fields(grid, boxPath, box, problem);
@@ -146,9 +146,9 @@ bool showDipole(const QString& projectPath, const QDir& folder) {
     const LoadedGeometry geometry(geometryPath, readFile(geometryPath));
     const LoadedProject project(projectPath, readFile(projectPath));
     const FarZoneBox box(*project.project.getBoundaryConditions(), geometry.grid);
-    const exact::WireDipole dipole = halfWaveDipole(geometry.grid);
+    const reference::WireDipole dipole = halfWaveDipole(geometry.grid);
     writeFile(boxPath, [&](const QString& path) {
-        return exact::writeBoxFields(path, geometry.grid, box, dipole, static_cast<double>(frequency));
+        return reference::writeBoxFields(path, geometry.grid, box, dipole, static_cast<double>(frequency));
     });
 
     QStringList arguments{QStringLiteral("--out"), folder.path()};

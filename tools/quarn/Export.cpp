@@ -61,15 +61,15 @@ int exportRecordsAs(const RecordKind& kind, const InputFile& file) {
 int exportNearZonePoint(const InputFile& input) {
     NearZoneFile file(input);
     QStringList columns = timeColumn;
-    for (const NearZoneGroup& group : file.groups()) {
-        columns << vectorColumns(QString::fromLatin1(group.name), QString::fromUtf8(group.unit), Components::Real);
+    for (const FieldGroupInfo& info : file.groups()) {
+        columns << vectorColumns(QString::fromLatin1(info.name), QString::fromUtf8(info.unit), Components::Real);
     }
     CsvWriter csv;
     csv.addHeader(columns);
     for (NearZoneFile::Record record; file.next(record);) {
         csv.add(record.time);
-        for (const NearZoneGroup& group : file.groups()) {
-            for (const float value : record.*group.components) csv.add(value);
+        for (const FieldGroupInfo& info : file.groups()) {
+            for (const float value : record[info.group]) csv.add(value);
         }
         csv.endRow();
     }

@@ -4,13 +4,13 @@
 #include <cmath>
 #include <complex>
 
+#include "quarn/PhysicalConstants.h"
+
 namespace quarn::tool {
 
-namespace {
+using constants::pi;
 
-constexpr double pi = 3.14159265358979323846;
-constexpr double speedOfLight = 299792458.0;
-constexpr double freeSpaceImpedance = 376.73031346177;
+namespace {
 
 FarZoneRequest::Angle angleOf(double theta, double phi) { return {static_cast<float>(theta), static_cast<float>(phi)}; }
 
@@ -47,7 +47,7 @@ std::size_t numberOfIntervals(double wavesTimesRadius) {
 
 double toDegrees(double radians) { return radians * 180.0 / pi; }
 
-double waveLengthAt(float frequency) { return speedOfLight / static_cast<double>(frequency); }
+double waveLengthAt(float frequency) { return constants::speedOfLight / static_cast<double>(frequency); }
 
 FarZoneAngles sphereOf(double stepInDegrees) {
     constexpr double tolerance = 1e-9;
@@ -63,7 +63,7 @@ FarZoneAngles sphereOf(double stepInDegrees) {
 }
 
 FarZoneAngles polarCut(double azimuthInDegrees) {
-    constexpr double degree = pi / 180.0;
+    constexpr double degree = constants::radiansPerDegree;
     FarZoneAngles angles;
     for (int theta = 0; theta <= 360; ++theta) angles.push_back(angleOf(theta * degree, azimuthInDegrees * degree));
     return angles;
@@ -72,7 +72,7 @@ FarZoneAngles polarCut(double azimuthInDegrees) {
 double radiationIntensity(const FarZoneSSFieldFile::Record& record) {
     const std::complex<double> theta = record.eTheta;
     const std::complex<double> phi = record.ePhi;
-    return (std::norm(theta) + std::norm(phi)) / (2.0 * freeSpaceImpedance);
+    return (std::norm(theta) + std::norm(phi)) / (2.0 * constants::freeSpaceImpedance);
 }
 
 double RadiatedPower::directivity(const FarZoneSSFieldFile::Record& record) const {

@@ -10,20 +10,6 @@ namespace {
 
 using Result = MultiPointResult;
 
-const SetGroup allGroups[] = {
-    {"transient-scattered-E", "V/m", Result::TransientScatteredE},
-    {"transient-total-E", "V/m", Result::TransientTotalE},
-    {"transient-scattered-H", "A/m", Result::TransientScatteredH},
-    {"transient-total-H", "A/m", Result::TransientTotalH},
-    {"transient-scattered-B", "T", Result::TransientScatteredB},
-    {"transient-total-B", "T", Result::TransientTotalB},
-    {"transient-J", "A/m²", Result::TransientJ},
-    {"steady-total-E", "V/m", Result::SteadyTotalE},
-    {"steady-total-H", "A/m", Result::SteadyTotalH},
-    {"steady-total-B", "T", Result::SteadyTotalB},
-    {"steady-J", "A/m²", Result::SteadyJ},
-};
-
 constexpr Result::Component transientComponents[] = {Result::X, Result::Y, Result::Z};
 constexpr Result::Part steadyComponents[] = {Result::Xr, Result::Xi, Result::Yr, Result::Yi, Result::Zr, Result::Zi};
 
@@ -39,13 +25,13 @@ void readLists(MultiPointSet& set) {
 
 }  // namespace
 
-bool SetGroup::isIn(const MultiPointResult& result) const {
-    return m_isSteady ? result.collects(static_cast<Result::SteadyGroup>(m_group))
-                      : result.collects(static_cast<Result::TransientGroup>(m_group));
+QString SetGroup::name() const {
+    const QString fields = QString::fromLatin1(m_info.name).replace(u' ', u'-');
+    return (m_isSteady ? QStringLiteral("steady-") : QStringLiteral("transient-")) + fields;
 }
 
 QStringList SetGroup::columns() const {
-    return vectorColumns(name().section(u'-', 1), unit(), m_isSteady ? Components::Complex : Components::Real);
+    return vectorColumns(QString::fromLatin1(m_info.name), unit(), m_isSteady ? Components::Complex : Components::Real);
 }
 
 void SetGroup::choose(MultiPointResultReader& reader, int index) const {
@@ -86,8 +72,11 @@ MultiPointSet::MultiPointSet(const InputFile& infoFile) {
             QStringLiteral("is the info file of a multi-point result, but cut short, damaged or not of "
                            "version 0"));
     }
-    for (const SetGroup& group : allGroups) {
-        if (group.isIn(reader)) groups.push_back(group);
+    for (const Result::TransientGroup group : Result::transientGroups) {
+        if (reader.collects(group)) groups.emplace_back(group);
+    }
+    for (const Result::SteadyGroup group : Result::steadyGroups) {
+        if (reader.collects(group)) groups.emplace_back(group);
     }
     if (reader.getNumberOfPoints() < 0) {
         throw problem(QStringLiteral("is damaged: it says that there are %1 points").arg(reader.getNumberOfPoints()));

@@ -14,16 +14,15 @@ class InputFile;
 /// frequency.
 class SetGroup {
 public:
-    SetGroup(const char* name, const char* unit, MultiPointResult::TransientGroup group)
-        : m_name(name), m_unit(unit), m_isSteady(false), m_group(group) {}
-    SetGroup(const char* name, const char* unit, MultiPointResult::SteadyGroup group)
-        : m_name(name), m_unit(unit), m_isSteady(true), m_group(group) {}
+    explicit SetGroup(MultiPointResult::TransientGroup group)
+        : m_isSteady(false), m_group(group), m_info(infoOf(MultiPointResult::fieldsOf(group))) {}
+    explicit SetGroup(MultiPointResult::SteadyGroup group)
+        : m_isSteady(true), m_group(group), m_info(infoOf(MultiPointResult::fieldsOf(group))) {}
 
     /// "transient-total-E"
-    QString name() const { return QString::fromLatin1(m_name); }
-    QString unit() const { return QString::fromUtf8(m_unit); }
+    QString name() const;
+    QString unit() const { return QString::fromUtf8(m_info.unit); }
     bool isSteady() const { return m_isSteady; }
-    bool isIn(const MultiPointResult& result) const;
 
     /// The names of its components in a table, of both parts of each where the group is steady.
     QStringList columns() const;
@@ -38,10 +37,9 @@ public:
 private:
     QString fileName(const MultiPointResult& result, int index, int component) const;
 
-    const char* m_name;
-    const char* m_unit;
     bool m_isSteady;
     int m_group;
+    FieldGroupInfo m_info;
 };
 
 /// A multi-point result with its lists.

@@ -12,14 +12,6 @@ namespace quarn::tool {
 
 class InputFile;
 
-/// A group of fields at a near-zone point.
-struct NearZoneGroup {
-    const char* name;
-    const char* unit;
-    bool (NearZoneMultiFieldPointResult::Header::*isCollected)() const;
-    NearZoneMultiFieldPointResult::Record::Components NearZoneMultiFieldPointResult::Record::*components;
-};
-
 /// The records of a near-zone point, one after the other.
 class NearZoneFile {
 public:
@@ -31,7 +23,7 @@ public:
     const NearZoneMultiFieldPointResult::Header& header() const { return m_result.getHeader(); }
 
     /// Those that the records hold, in their order.
-    const std::vector<NearZoneGroup>& groups() const { return m_groups; }
+    const std::vector<FieldGroupInfo>& groups() const { return m_groups; }
 
     bool next(Record& record) { return m_result.readRecord(m_file.get(), record); }
 
@@ -45,7 +37,7 @@ private:
 
     std::unique_ptr<std::FILE, Close> m_file;
     NearZoneMultiFieldPointResult m_result;
-    std::vector<NearZoneGroup> m_groups;
+    std::vector<FieldGroupInfo> m_groups;
     std::size_t m_incompleteBytes = 0;
 };
 

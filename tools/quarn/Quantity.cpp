@@ -2,14 +2,16 @@
 
 #include <cmath>
 
+#include "quarn/PhysicalConstants.h"
 #include "quarn/SARPlane.h"
 
 namespace quarn::tool {
 
+using constants::radiansPerDegree;
+
 namespace {
 
 constexpr int significantDigits = 6;
-constexpr double radiansPerDegree = 3.14159265358979323846 / 180.0;
 
 struct Prefix {
     double factor;

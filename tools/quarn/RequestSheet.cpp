@@ -49,15 +49,21 @@ QString joined(QStringList parts) {
     return parts.join(text("; "));
 }
 
+/// The names of the groups of fields that `isAskedFor` tells, in the given order.
+template <class IsAskedFor>
+QString fieldsText(std::initializer_list<FieldGroup> order, IsAskedFor isAskedFor) {
+    QStringList names;
+    for (const FieldGroup group : order) {
+        if (isAskedFor(group)) names << text(infoOf(group).name);
+    }
+    return names.join(text(", "));
+}
+
 QString fieldPointText(const NearZoneMultiFieldPoint& p) {
+    using G = FieldGroup;
     return joined({fileText(p.filename()),
-                   listText({{p.collectTotalE(), "total E"},
-                             {p.collectScatteredE(), "scattered E"},
-                             {p.collectTotalH(), "total H"},
-                             {p.collectScatteredH(), "scattered H"},
-                             {p.collectTotalB(), "total B"},
-                             {p.collectScatteredB(), "scattered B"},
-                             {p.collectJ(), "J"}}),
+                   fieldsText({G::TotalE, G::ScatteredE, G::TotalH, G::ScatteredH, G::TotalB, G::ScatteredB, G::J},
+                              [&](G group) { return p.collects(group); }),
                    timestepsText(p.getMinTimestep(), p.getMaxTimestep(), p.getDeltaTimestep())});
 }
 
@@ -75,17 +81,10 @@ void addPoints(Sheet& sheet, const ProjectFile& project) {
 }
 
 QString multiPointText(const MultiPointFieldRequest& r) {
-    const QString transient = listText({{r.collectTransientTotalE, "total E"},
-                                        {r.collectTransientTotalH, "total H"},
-                                        {r.collectTransientTotalB, "total B"},
-                                        {r.collectTransientJ, "J"},
-                                        {r.collectTransientScatteredE, "scattered E"},
-                                        {r.collectTransientScatteredH, "scattered H"},
-                                        {r.collectTransientScatteredB, "scattered B"}});
-    const QString steady = listText({{r.collectSteadyTotalE, "total E"},
-                                     {r.collectSteadyTotalH, "total H"},
-                                     {r.collectSteadyTotalB, "total B"},
-                                     {r.collectSteadyJ, "J"}});
+    using G = FieldGroup;
+    const auto order = {G::TotalE, G::TotalH, G::TotalB, G::J, G::ScatteredE, G::ScatteredH, G::ScatteredB};
+    const QString transient = fieldsText(order, [&](G group) { return r.collectsTransient(group); });
+    const QString steady = fieldsText(order, [&](G group) { return r.collectsSteady(group); });
     const auto points = static_cast<std::size_t>(r.gridIndexBoxes.getNumPoints());
     QStringList parts{fileText(r.outputFile), counted(points, text("point")) + text(r.snapped ? ", snapped" : "")};
     if (!transient.isEmpty()) {

@@ -27,7 +27,7 @@ Sheet sheetOfNearZonePoint(const InputFile& input) {
     for (NearZoneFile::Record record; file.next(record); ++records) {
         times.add(record.time);
         for (std::size_t i = 0; i < ranges.size(); ++i) {
-            for (const float value : record.*file.groups()[i].components) ranges[i].add(value);
+            for (const float value : record[file.groups()[i].group]) ranges[i].add(value);
         }
     }
     const auto& header = file.header();

@@ -1,12 +1,16 @@
-#include "ExactFields.h"
+#include "reference/ExactFields.h"
 
 #include <cmath>
 
-namespace quarn::exact {
+#include "quarn/PhysicalConstants.h"
+
+namespace quarn::reference {
+
+using constants::freeSpaceImpedance;
+using constants::pi;
 
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr Complex j(0.0, 1.0);
 
 template <class A, class B>
@@ -61,7 +65,7 @@ ComplexVector otherField(const ComplexVector& moment, const Vector& offset, doub
 
 }  // namespace
 
-double waveNumberOf(double frequency) { return 2.0 * pi * frequency / 299792458.0; }
+double waveNumberOf(double frequency) { return 2.0 * pi * frequency / constants::speedOfLight; }
 
 Field ElectricDipole::near(const Vector& point, double waveNumber) const {
     const Vector offset = difference(point, m_position);
@@ -153,4 +157,4 @@ FarField Sources::far(double theta, double phi, double waveNumber, const Vector&
     return sum;
 }
 
-}  // namespace quarn::exact
+}  // namespace quarn::reference

@@ -13,13 +13,13 @@ class Grid;
 
 /// Sources in free space whose fields are known in closed form, near and far. What an engine and a far-zone
 /// transformation make of them can be held against these. Fields vary as exp(+j w t).
-namespace quarn::exact {
+namespace quarn::reference {
 
 using Complex = std::complex<double>;
 using Vector = std::array<double, 3>;
 using ComplexVector = std::array<Complex, 3>;
 
-inline constexpr double freeSpaceImpedance = 376.73031346177;
+/// In free space, in 1/m.
 double waveNumberOf(double frequency);
 
 struct Field {
@@ -103,4 +103,4 @@ private:
 bool writeBoxFields(const QString& path, const Grid& grid, const FarZoneBox& box, const Source& source,
                     double frequency);
 
-}  // namespace quarn::exact
+}  // namespace quarn::reference

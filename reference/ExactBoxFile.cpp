@@ -1,13 +1,13 @@
 #include <functional>
 
-#include "ExactFields.h"
 #include "quarn/DataFileWriter.h"
 #include "quarn/FarZoneBox.h"
 #include "quarn/FarZoneFieldFiles.h"
 #include "quarn/FileHeader.h"
 #include "quarn/Grid.h"
+#include "reference/ExactFields.h"
 
-namespace quarn::exact {
+namespace quarn::reference {
 
 namespace {
 
@@ -83,4 +83,4 @@ bool writeBoxFields(const QString& path, const Grid& grid, const FarZoneBox& box
     return writer.close() && isWritten;
 }
 
-}  // namespace quarn::exact
+}  // namespace quarn::reference
