@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view magic = "Rmpt";
 
-// What follows in the info file; the layout is in the header.
+// The numbers after the magic in the info file; MultiPointResult.h describes the layout.
 struct Info {
     std::uint8_t version;
     std::uint32_t groups;
@@ -25,7 +25,7 @@ struct Info {
     }
 };
 
-// What the names of a group's files are made of, and the group's bit in the info file; in the order of the groups.
+// The parts of the file names of each group and its bit in the info file, in the order of the groups.
 struct Group {
     char field;
     const char* kind;
@@ -69,7 +69,7 @@ void collectBits(std::uint32_t bits, const std::array<Group, size>& groups, std:
     for (std::size_t i = 0; i < size; ++i) collected[i] = (bits & maskOf(groups[i])) != 0;
 }
 
-// Such as "Exr_total_freq3.bin", after what the file names of all groups begin with.
+// Returns for example "Exr_total_freq3.bin" behind `start`, the beginning of the file names of all groups.
 QString componentFile(const QString& start, const Group& group, const char* component, const char* series, int index) {
     return start + QLatin1Char(group.field) + QLatin1String(component) + QLatin1Char('_') + QLatin1String(group.kind) +
            QLatin1String(series) + QString::number(index) + QLatin1String(".bin");

@@ -10,7 +10,7 @@ namespace {
 constexpr std::string_view magic = "Rnzp";
 constexpr unsigned int unusedBits = 0x01FF;
 
-// The numbers of a C stream, as fields of records want them.
+// Adapts a C stream to the sources and sinks of RecordFields.h.
 class StdioNumbers {
 public:
     explicit StdioNumbers(std::FILE* file) : m_file(file) {}
@@ -26,7 +26,7 @@ private:
     std::FILE* m_file;
 };
 
-// Calls `move(field)` for the time and for each group of the header, up to the first that fails.
+// Calls `move(field)` for the time and for each group of the header, up to the first failure.
 template <class Fields, class Collects, class Move>
 bool moveRecord(const Fields& fields, Collects collects, Move move) {
     return std::apply(

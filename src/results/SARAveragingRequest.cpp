@@ -72,7 +72,7 @@ SARAveragingRequest::SARAveragingRequest(bool compute1gAverage, bool compute10gA
       m_save10gYZPlanes(save10gYZPlanes),
       m_outputAveragedFileName(outputAveragedFileName) {}
 
-// A plane is called by its normal here.
+// Planes are named by their normal here.
 bool SARAveragingRequest::streamOut(DelimManager& delim) const {
     WrittenBlock block(delim, key::SARAveraging);
     putFlag(delim, key::average_one_gram, m_compute1gAverage);
