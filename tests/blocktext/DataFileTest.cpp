@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "quarn/DataFileReader.h"
 #include "quarn/DataFileWriter.h"
 #include "results/ResultFolder.h"
@@ -15,29 +17,21 @@ protected:
     QString m_path = m_folder.path("data");
 };
 
-TEST_F(DataFile, eachTypeHasItsSize) {
+TEST_F(DataFile, EachTypeHasItsSize) {
+    const std::tuple values(static_cast<signed char>(1), short{2}, 3, 4LL, 1.0F, -2.0);
     DataFileWriter writer;
     ASSERT_TRUE(writer.open(m_path, "wb"));
-    EXPECT_TRUE(writer.write(static_cast<signed char>(1)) && writer.write(short{2}) && writer.write(3) &&
-                writer.write(4LL) && writer.write(1.0F) && writer.write(-2.0));
+    EXPECT_TRUE(std::apply([&](const auto&... value) { return (writer.write(value) && ...); }, values));
     EXPECT_TRUE(writer.close());
-    EXPECT_EQ(bytes().toHex(),
-              "01020003000000040000000000000000"
-              "00803f00000000000000c0");
+    EXPECT_EQ(bytes().toHex(), "0102000300000004000000000000000000803f00000000000000c0");
 
     DataFileReader reader;
     ASSERT_TRUE(reader.open(m_path));
-    signed char i8 = 0;
-    short i16 = 0;
-    int i32 = 0;
-    long long i64 = 0;
-    float f32 = 0;
-    double f64 = 0;
-    EXPECT_TRUE(reader.read(i8) && reader.read(i16) && reader.read(i32) && reader.read(i64) && reader.read(f32) &&
-                reader.read(f64));
-    EXPECT_EQ(std::make_tuple(i8, i16, i32, i64, f32, f64), std::make_tuple(1, 2, 3, 4, 1.0F, -2.0));
+    std::tuple<signed char, short, int, long long, float, double> found;
+    EXPECT_TRUE(std::apply([&](auto&... value) { return (reader.read(value) && ...); }, found));
+    EXPECT_EQ(found, values);
     EXPECT_EQ(reader.tell(), 27);
-    EXPECT_FALSE(reader.read(i8));
+    EXPECT_FALSE(reader.read(std::get<0>(found)));
 }
 
 TEST_F(DataFile, closedFilesRefuseEverything) {

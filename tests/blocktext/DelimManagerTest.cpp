@@ -1,6 +1,5 @@
-#include "quarn/DelimManager.h"
-
 #include "TestSupport.h"
+#include "blocktext/DelimScript.h"
 
 namespace quarn::test {
 namespace {
@@ -34,32 +33,6 @@ TEST(DelimManager, close_lines_follow_the_open_blocks_and_errors_fail_one_operat
     EXPECT_TRUE(delim.EndDelim() && delim.EndDelim() && copy.EndDelim()) << "the block must have stayed open";
     EXPECT_FALSE(delim.EndDelim());
     EXPECT_EQ(text, "begin_<B> \nbegin_<C> \nend_<C>\nend_<B>\nend_<C>\n");
-}
-
-// Calls the operations that a script names and notes their outcomes: "-" and "+" for false and true, a block as
-// [name|value|description] with "?" for what was not set, a line in quotes, the rest of the stream in braces.
-QString outcome(QTextStream& stream, const QString& script) {
-    DelimManager delim(stream, "file");
-    QStringList outcomes;
-    for (const QString& call : script.split(' ')) {
-        const QString operation = call.section(':', 0, 0), wanted = call.section(':', 1);
-        QString name = wanted, value = "?", description = "?";
-        const auto note = [&](bool found) {
-            outcomes << (found ? QString("[%1|%2|%3]").arg(name, value, description) : QString("-"));
-        };
-        if (operation == "bad") stream.setStatus(QTextStream::ReadCorruptData);
-        if (operation == "is") note(delim.IsDelim(name, value, description));
-        if (operation == "first") note(delim.GetFirstDelim(name, value, description));
-        if (operation == "next") note(delim.GetNextDelim(name, value, description));
-        if (operation == "find") note(delim.FindFirstDelim(wanted, value, description));
-        if (operation == "findnext") note(delim.FindNextDelim(wanted, value, description));
-        if (operation == "more") outcomes << (delim.ContinueReading() ? "+" : "-");
-        if (operation == "seek") outcomes << (delim.SeekToEndOfDelim() ? "+" : "-");
-        if (operation == "line") outcomes << "'" + stream.readLine() + "'";
-        if (operation == "rest") outcomes << "{" + stream.readAll() + "}";
-        EXPECT_EQ(stream.status() == QTextStream::Ok, operation != "bad") << "after " << call.toStdString();
-    }
-    return outcomes.join(' ');
 }
 
 QString x(int count) { return QString(count, 'x'); }

@@ -1,4 +1,4 @@
-#include "circuit/CircuitTestSupport.h"
+#include "TestSupport.h"
 #include "quarn/quarn.h"
 
 namespace quarn::test {
@@ -21,12 +21,7 @@ QString savedSections(v6ProjectFile& project) {
 }
 
 void expectLoads(const QString& file, const QString& savedShortForm) {
-    onBothStreams(file, [&](QTextStream& stream) {
-        OwningProject project;
-        QStringList errors;
-        EXPECT_TRUE(project.loadFromStream(stream, errors));
-        EXPECT_EQ(savedSections(project), expanded(savedShortForm));
-    });
+    test::expectLoads(file, expanded(savedShortForm), savedSections);
 }
 
 // clang-format off

@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "circuit/CircuitTestSupport.h"
+#include "TestSupport.h"
 #include "quarn/ComponentKinds.h"
 
 namespace quarn::test {

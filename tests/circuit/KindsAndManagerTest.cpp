@@ -1,6 +1,6 @@
 #include <limits>
 
-#include "circuit/CircuitTestSupport.h"
+#include "TestSupport.h"
 #include "quarn/quarn.h"
 
 namespace quarn::test {
@@ -299,58 +299,6 @@ TEST(StaticVoltages, thresholds_are_checked_beyond_fdtd) {
               (QStringList{"error: " + text.arg("conductor", "must"), "error: " + text.arg("residual", "must")}));
     EXPECT_EQ(findingsOf(StaticVoltageList(), Engine::FEM), QStringList());
     EXPECT_EQ(StaticVoltageList(), StaticVoltageList(0.01, 100, 5000, {}));
-}
-
-const QString noBoundaries = "error: Boundary conditions have not been specified.";
-const QString noExcitation = "error: No excitation has been specified.";
-const QString noWaveforms = "error: No waveform has been specified.";
-const QString noTermination = "error: No termination criteria has been specified.";
-
-TEST(ProjectValidity, components_and_static_voltages_are_excitations) {
-    OwningProject project;
-    auto* voltages = new StaticVoltageList(0, 1, 1, {});
-    project.setStaticVoltageList(voltages);
-    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noExcitation, noTermination})) << "no voltage is given";
-    voltages->addPoint({});
-    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noTermination}));
-    project.setEngine(Engine::FEM);
-    EXPECT_EQ(findingsOf(project),
-              (QStringList{noBoundaries, "error: The voltage conductor threshhold must be greater than zero."}));
-    project.setEngine(Engine::FDTD);
-    project.setComponentManager(new Manager({}, true, 0));
-    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noComponents, noTermination})) << "no component, no wave";
-    delete project.getComponentManager();
-    project.setComponentManager(new Manager({new Feed(feedOf("f", -1, 0, 0))}, true, 0));
-    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noWaveforms, noTermination, negativeR}));
-    delete project.getComponentManager()->getComponent(0);
-    delete project.getComponentManager();
-    project.setComponentManager(new Manager({new Feed(feedOf("f", 50, 0, 0))}, false, 0));
-    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noTermination})) << "no active port, no wave";
-}
-
-TEST(ProjectValidity, copies_share_components_and_ports) {
-    OwningProject source;
-    source.setComponentManager(new Manager({new Feed(feedOf("f", 50, 0, 0))}, false, 0));
-    source.setWaveGuidePortManager(new WaveGuidePortManager({new WaveGuidePort}));
-    source.setStaticVoltageList(new StaticVoltageList(1, 2, 3, {{4, 5, 6, 7}}));
-    v6ProjectFile copy(source);
-    EXPECT_NE(copy.getComponentManager(), source.getComponentManager());
-    EXPECT_EQ(copy.getComponentManager()->getComponents(), source.getComponentManager()->getComponents());
-    EXPECT_NE(copy.getWaveGuidePortManager(), source.getWaveGuidePortManager());
-    EXPECT_EQ(copy.getWaveGuidePortManager()->getWaveguidePorts(),
-              source.getWaveGuidePortManager()->getWaveguidePorts());
-    EXPECT_NE(copy.getStaticVoltageList(), source.getStaticVoltageList());
-    EXPECT_EQ(*copy.getStaticVoltageList(), *source.getStaticVoltageList());
-    copy.clearComponents();
-    copy.clearWaveguidePorts();
-    EXPECT_EQ(copy.getComponentManager()->getNumberOfPorts() + copy.getWaveGuidePortManager()->getNumberOfPorts(), 0U);
-    EXPECT_EQ(source.getComponentManager()->getNumberOfComponents(), 1U);
-    EXPECT_EQ(source.getWaveGuidePortManager()->getNumberOfPorts(), 1U);
-    deleteContents(copy);
-    v6ProjectFile empty;
-    empty.clearComponents();
-    empty.clearWaveguidePorts();
-    deleteContents(empty);
 }
 
 }  // namespace

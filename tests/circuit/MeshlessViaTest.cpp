@@ -1,7 +1,8 @@
 #include <QByteArray>
 #include <sstream>
 
-#include "circuit/CircuitTestSupport.h"
+#include "EachMember.h"
+#include "TestSupport.h"
 #include "quarn/MeshlessVia.h"
 #include "results/ResultFolder.h"
 
@@ -140,22 +141,15 @@ TEST(MeshlessViaModel, radii) {
               "invalid inner/outer radius for Meshless Via: Rinner=0.333333, Router=1e-07");
 }
 
-TEST(MeshlessViaModel, every_value_counts_for_equality) {
-    const auto via = [](int changed) {
-        double v[14] = {};
-        int ids[4] = {};
-        if (changed < 14) v[changed] = 0.25;
-        if (changed >= 14 && changed < 18) ids[changed - 14] = 1;
-        v[6] += 1;  // the outer radius is above the inner one
-        MeshlessVia result(P(v, P::Type(ids[0]), ids[1]), P(v + 3, P::Type(ids[2]), ids[3]), v[6], v[7], v[8], v[9]);
-        result.setInnerDielectricPermittivity(v[10]);
-        return result;
-    };
-    EXPECT_EQ(via(99), via(99));
-    for (const int changed : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 14, 15, 16, 17}) {
-        EXPECT_NE(via(99), via(changed)) << changed;
-        EXPECT_FALSE(via(99) == via(changed)) << changed;
-    }
+TEST(MeshlessViaModel, EveryValueCountsForEquality) {
+    using std::tuple;
+    const auto points = changedOneByOne<P>(tuple(0.0, 0.0, 0.0, P::OnVertex, 0), tuple(1.0, 1.0, 1.0, P::OnEdge, 1));
+    expectAllDifferent(points);
+    auto vias = changedOneByOne<MeshlessVia>(tuple(points[0], points[0], 2.0, 0.0, 0.0, 0.0),
+                                             tuple(points[1], points[1], 3.0, 1.0, 1.0, 1.0));
+    vias.push_back(vias[0]);
+    vias.back().setInnerDielectricPermittivity(1);
+    expectAllDifferent(vias);
 }
 
 TEST(MeshlessViaModel, text_forms) {

@@ -1,4 +1,4 @@
-#include "circuit/CircuitTestSupport.h"
+#include "TestSupport.h"
 #include "quarn/WaveGuidePort.h"
 
 namespace quarn::test {

@@ -35,6 +35,10 @@ void expectDeepCopy(Wave* wave) {
     delete static_cast<TFSFPlaneWave*>(source.getPlaneWave());
     source.setPlaneWave(wave);
     source.setPathToGeometryFile("geometry");
+    source.setComponentManager(
+        new ComponentManager({new CircuitComponent("c", 0, 0, 0, CircuitComponent::X, true)}, false, 0));
+    source.setWaveGuidePortManager(new WaveGuidePortManager({new WaveGuidePort}));
+    source.setStaticVoltageList(new StaticVoltageList(1, 2, 3, {{4, 5, 6, 7}}));
     v6ProjectFile copy(source);
     expectCopy(copy.getBoundaryConditions(), source.getBoundaryConditions());
     expectCopy(copy.getAmbientConditions(), source.getAmbientConditions());
@@ -46,13 +50,26 @@ void expectDeepCopy(Wave* wave) {
     EXPECT_EQ(copy.getPathToGeometryFile(), "geometry");
     EXPECT_EQ(saved(copy), saved(source));
     copy.getWaveforms().clear();
+    expectCopy(copy.getStaticVoltageList(), source.getStaticVoltageList());
+    const auto *components = copy.getComponentManager(), *sourceComponents = source.getComponentManager();
+    const auto *ports = copy.getWaveGuidePortManager(), *sourcePorts = source.getWaveGuidePortManager();
+    EXPECT_TRUE(components != sourceComponents && components->getComponents() == sourceComponents->getComponents());
+    EXPECT_TRUE(ports != sourcePorts && ports->getWaveguidePorts() == sourcePorts->getWaveguidePorts());
+    copy.clearComponents();
+    copy.clearWaveguidePorts();
+    EXPECT_EQ(components->getNumberOfPorts() + ports->getNumberOfPorts(), 0U);
+    EXPECT_EQ(sourceComponents->getNumberOfComponents() + sourcePorts->getNumberOfPorts(), 2U);
     deleteContents(copy);
 }
 
-TEST(ProjectModel, copy_constructor_copies_objects_and_shares_waveforms) {
+TEST(ProjectModel, copy_constructor_copies_objects_and_shares_waveforms_components_and_ports) {
     expectDeepCopy(new PlaneWave(1, 2, 3, PlaneWave::Theta, "a"));
     expectDeepCopy(new TFSFPlaneWave(1, 2, 3, PlaneWave::Theta, "a", true, false, true, false, true, true));
     expectDeepCopy(new GaussianBeam(1, 2, 3, PlaneWave::Theta, "a", 4, 5, 6, 7));
+    v6ProjectFile empty;
+    empty.clearComponents();
+    empty.clearWaveguidePorts();
+    deleteContents(empty);
 }
 
 TEST(ProjectModel, assignment_shares_the_objects) {
