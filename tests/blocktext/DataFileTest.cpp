@@ -34,7 +34,7 @@ TEST_F(DataFile, EachTypeHasItsSize) {
     EXPECT_FALSE(reader.read(std::get<0>(found)));
 }
 
-TEST_F(DataFile, closedFilesRefuseEverything) {
+TEST_F(DataFile, ClosedFilesRefuseAllOperations) {
     DataFileReader reader;
     int value = 7;
     EXPECT_FALSE(reader.open(m_path));
@@ -49,7 +49,7 @@ TEST_F(DataFile, closedFilesRefuseEverything) {
     EXPECT_EQ(bytes(), "");
 }
 
-TEST_F(DataFile, readerGoesToPositions) {
+TEST_F(DataFile, ReaderMovesToPositions) {
     m_folder.put("data", "0123456789");
     DataFileReader reader;
     ASSERT_TRUE(reader.open(m_path));
@@ -67,7 +67,7 @@ TEST_F(DataFile, readerGoesToPositions) {
     EXPECT_TRUE(reader.seek(9) && reader.read(digit)) << "the end of the file is forgotten";
 }
 
-TEST_F(DataFile, writerGoesToPositions) {
+TEST_F(DataFile, WriterMovesToPositions) {
     DataFileWriter writer;
     ASSERT_TRUE(writer.open(m_path, "wb"));
     const auto put = [&](char c) { return writer.write(static_cast<signed char>(c)); };
@@ -77,7 +77,7 @@ TEST_F(DataFile, writerGoesToPositions) {
     EXPECT_EQ(bytes(), QByteArray("aBc\0e", 5)) << "of a file that is still open";
 }
 
-TEST_F(DataFile, openingAgainClosesFirst) {
+TEST_F(DataFile, OpeningAgainClosesFirst) {
     DataFileWriter writer;
     ASSERT_TRUE(writer.open(m_path, "wb") && writer.write(1));
     int waited = -1;
@@ -93,7 +93,7 @@ TEST_F(DataFile, openingAgainClosesFirst) {
     EXPECT_EQ(reader.tell(), -1) << "the file before stayed open";
 }
 
-TEST_F(DataFile, writerEndsWithItsDataInTheFile) {
+TEST_F(DataFile, DestructorWritesTheDataToTheFile) {
     {
         DataFileWriter writer;
         ASSERT_TRUE(writer.open(m_path, "wb") && writer.write(1));
@@ -102,7 +102,7 @@ TEST_F(DataFile, writerEndsWithItsDataInTheFile) {
 }
 
 #ifdef Q_OS_LINUX
-TEST_F(DataFile, fullDiskShowsAtTheLatestOnClosing) {
+TEST_F(DataFile, FullDiskIsReportedOnClosingAtTheLatest) {
     DataFileWriter writer;
     ASSERT_TRUE(writer.open("/dev/full", "wb") && writer.write(1));
     EXPECT_FALSE(writer.flush());

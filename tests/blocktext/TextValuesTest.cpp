@@ -23,7 +23,7 @@ class NumberReading : public testing::Test {};
 using NumberTypes = testing::Types<int, unsigned, float, double>;
 TYPED_TEST_SUITE(NumberReading, NumberTypes);
 
-TYPED_TEST(NumberReading, agrees_with_the_text_stream_whatever_surrounds_a_token) {
+TYPED_TEST(NumberReading, AgreesWithTheTextStreamForAnyTokenAndContext) {
     for (const QString& token : tokens.split(' ')) {
         for (const char* behind : {"", " 7", "\n7", "\r\n7", "\t"}) {
             QString text = " \n\t" + token + behind;
@@ -39,7 +39,7 @@ TYPED_TEST(NumberReading, agrees_with_the_text_stream_whatever_surrounds_a_token
     }
 }
 
-TYPED_TEST(NumberReading, keeps_the_value_when_there_is_no_number) {
+TYPED_TEST(NumberReading, KeepsTheValueWhenThereIsNoNumber) {
     for (const char* text : {"abc 5", "", "-"}) {
         onBothStreams(text, [&](QTextStream& in) {
             TypeParam value{42};
@@ -51,7 +51,7 @@ TYPED_TEST(NumberReading, keeps_the_value_when_there_is_no_number) {
 }
 
 // What goes is the character whose code is the index of the first CR, then that of the first LF.
-TEST(TextValues, stripping_escape_characters_goes_by_their_index) {
+TEST(TextValues, StrippingRemovesCharactersByTheIndexOfLineEnds) {
     const auto stripped = [](QString text) {
         v6ProjectFile::StripEscapeCharacters(text);
         return text;

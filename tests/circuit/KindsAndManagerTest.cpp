@@ -54,7 +54,7 @@ const QString doubtful =
     "warning: A %1 circuit component is specified as a Port.  S-parameters for this Port may be invalid.";
 // clang-format on
 
-TEST(ComponentKinds, drawn_ones) {
+TEST(ComponentKinds, DrawnComponentsHaveDefaults) {
     const Feed feed("f", {}, {}, Component::ParallelCurrent, 1, 2, 3, 4, 5, Component::Parallel);
     EXPECT_TRUE(feed.isActive() && feed.isPort());
     EXPECT_EQ(feed.getCapacitance() - feed.getInductance(), -1);
@@ -64,7 +64,7 @@ TEST(ComponentKinds, drawn_ones) {
     EXPECT_FALSE(load.isPort() || load.isActive() || SBlock("s", {}, {}, "file").isPort());
 }
 
-TEST(ComponentKinds, feeds_and_passive_loads_are_checked_alike) {
+TEST(ComponentKinds, FeedsAndPassiveLoadsAreCheckedAlike) {
     Feed feed(base("f"), Component::SeriesVoltage, -1, -1, -1, -1, -1, -1, -1, Component::Series, positive);
     const QStringList warnings{negativeR, negativeC, negativeL};
     EXPECT_EQ(findingsOf(feed, Engine::FDTD), QStringList(noWaveform) + warnings + QStringList(negativeDelay));
@@ -79,7 +79,7 @@ TEST(ComponentKinds, feeds_and_passive_loads_are_checked_alike) {
     EXPECT_EQ(findingsOf(active, Engine::FDTD), QStringList());
 }
 
-TEST(ComponentKinds, switches) {
+TEST(ComponentKinds, SwitchTransitionsAreChecked) {
     using Transitions = std::vector<std::pair<int, int>>;
     const auto check = [](const Transitions& transitions, Engine engine = Engine::FDTD) {
         Switch component(base("s"), Switch::Open, positive);
@@ -97,7 +97,7 @@ TEST(ComponentKinds, switches) {
     EXPECT_EQ(check({{10, std::numeric_limits<int>::max()}, {20, 1}}), QStringList(overlap)) << "without overflow";
 }
 
-TEST(ComponentKinds, diodes_and_lumped_components) {
+TEST(ComponentKinds, DiodesAndLumpedComponentsAreChecked) {
     for (int i = 0; i < 7; ++i) {
         const auto check = [i](float value, Engine engine) {
             float p[] = {1, 1, 1, 1, 1, 1, 1};
@@ -120,7 +120,7 @@ QStringList namesOf(const Manager& manager) {
     return names;
 }
 
-TEST(ComponentManager, inserts_ports_before_other_components) {
+TEST(ComponentManager, InsertsPortsBeforeOtherComponents) {
     Component p1 = base("P1"), p2 = base("P2"), p3 = base("P3"), a = base("A", false), b = base("B", false);
     Manager manager({}, false, 7);
     EXPECT_EQ(manager.getActivePort(), -1);
@@ -136,7 +136,7 @@ TEST(ComponentManager, inserts_ports_before_other_components) {
     EXPECT_EQ(copy.getNumberOfComponents(), 5U);
 }
 
-TEST(ComponentManager, insertions_that_fail_leave_the_list) {
+TEST(ComponentManager, FailedInsertionsLeaveTheListUnchanged) {
     Component a = base("A", false), p1 = base("P1"), p2 = base("P2"), p1Again = base("P1"), lower = base("p1");
     Component umlaut = base("Ö", false);
     Manager manager({&a, &p1}, false, -1);
@@ -155,7 +155,7 @@ TEST(ComponentManager, insertions_that_fail_leave_the_list) {
     EXPECT_EQ(namesOf(ports), (QStringList{"P1", "P1", "p1"}));
 }
 
-TEST(ComponentManager, listed_components_that_change_their_role_are_noticed) {
+TEST(ComponentManager, InsertionSeesChangedRolesOfListedComponents) {
     Component p1 = base("P1"), a = base("A", false), b = base("B", false), p2 = base("P2"), p3 = base("P3");
     Manager manager({&p1, &a, &b}, false, -1);
     a = base("A");
@@ -165,7 +165,7 @@ TEST(ComponentManager, listed_components_that_change_their_role_are_noticed) {
     EXPECT_EQ(thrownBy([&] { manager.insert(&p3, true); }), "invalid order of quarn circuit components");
 }
 
-TEST(ComponentManager, null_pointers_are_left_out) {
+TEST(ComponentManager, NullPointersAreIgnored) {
     ComponentManager manager({nullptr}, true, 0);
     manager.insert(nullptr, true);
     EXPECT_TRUE(manager.getComponents().empty());
@@ -175,7 +175,7 @@ TEST(ComponentManager, null_pointers_are_left_out) {
     EXPECT_TRUE(ports.getWaveguidePorts().empty());
 }
 
-TEST(ComponentManager, nonlinear_capacitors_are_noticed_on_demand) {
+TEST(ComponentManager, NonlinearCapacitorsAreFoundByCaching) {
     NonlinearCapacitor capacitor(base("c", false), 1, 1, 2, 3, 4, 5, 6, 7, positive);
     EXPECT_EQ(capacitor.getC1() + 10 * capacitor.getVs() + 100 * capacitor.getA3(), 731);
     Manager manager({}, false, -1);
@@ -190,7 +190,7 @@ TEST(ComponentManager, nonlinear_capacitors_are_noticed_on_demand) {
     EXPECT_TRUE(manager.hasNonlinearCapacitor()) << "as it was";
 }
 
-TEST(ComponentManager, s_parameters_leave_one_feed_active) {
+TEST(ComponentManager, SParametersLeaveOneFeedActive) {
     Feed a = feedOf("a", 50, 0, 0), b = feedOf("b", 50, 0, 0), c = feedOf("c", 50, 0, 0, false);
     const Manager without({&a, &b, &c}, false, 1);
     EXPECT_TRUE(a.isActive() && b.isActive() && c.isActive());
@@ -201,7 +201,7 @@ TEST(ComponentManager, s_parameters_leave_one_feed_active) {
     EXPECT_EQ(b.getWaveformIndex(), 0);
 }
 
-TEST(ComponentManager, the_active_port_is_a_position_among_null_pointers_too) {
+TEST(ComponentManager, ActivePortCountsNullPointers) {
     struct Row {
         int given, listed;
         bool isActive;
@@ -220,7 +220,7 @@ QStringList portFindings(Component& port, float l = 0, float c = 0) {
     return findingsOf(Manager({&feed, &port}, true, 0), Engine::FDTD);
 }
 
-TEST(ComponentManager, impedances_of_ports_are_compared_with_the_active_feed) {
+TEST(ComponentManager, ComparesPortImpedancesWithTheActiveFeed) {
     const auto load = [](float r, float l, float c, float feedL, float feedC, bool isPort = true) {
         PassiveLoad port = loadOf("p", r, l, c, isPort);
         return portFindings(port, feedL, feedC);
@@ -242,7 +242,7 @@ TEST(ComponentManager, impedances_of_ports_are_compared_with_the_active_feed) {
     EXPECT_EQ(feed(75, 8, 9), (QStringList{reactance, mismatch}));
 }
 
-TEST(ComponentManager, kinds_that_are_doubtful_as_ports) {
+TEST(ComponentManager, WarnsAboutKindsThatAreUnsuitableAsPorts) {
     LumpedComponent lumped(base("l"), positive, {}, {});
     SBlock block(base("b"), "file", {});
     Diode diode(base("d"), 1, 1, 1, 1, 1, 1, 1, positive);
@@ -266,7 +266,7 @@ TEST(ComponentManager, kinds_that_are_doubtful_as_ports) {
     EXPECT_EQ(findingsOf(all, Engine::FEM), (QStringList{diodeEngine, diodeEngine, switchEngine, negativeC}));
 }
 
-TEST(ComponentManager, without_a_valid_active_feed_nothing_is_compared) {
+TEST(ComponentManager, ComparesNothingWithoutAValidActiveFeed) {
     Feed feed = feedOf("f", 50, 0, 0), other = feedOf("g", 75, 8, 9), noPort = feedOf("h", 1, 2, 3, false);
     PassiveLoad load = loadOf("l", 75, 0, 0), plain = loadOf("m", 75, 0, 0, false);
     EXPECT_EQ(findingsOf(Manager({}, true, 0), Engine::FDTD), QStringList(noComponents));
@@ -287,7 +287,7 @@ TEST(ComponentManager, without_a_valid_active_feed_nothing_is_compared) {
     EXPECT_EQ(findingsOf(stale, Engine::FDTD), QStringList(negativeR)) << "the ports were counted before";
 }
 
-TEST(StaticVoltages, thresholds_are_checked_beyond_fdtd) {
+TEST(StaticVoltages, ThresholdsAreCheckedExceptForFDTD) {
     const QString text = "The voltage %1 threshhold %2 be greater than zero.";
     StaticVoltageList list(0, -1, 3, {});
     EXPECT_EQ(findingsOf(list, Engine::FDTD), QStringList());

@@ -38,7 +38,7 @@ protected:
     ResultFolder m_folder;
 };
 
-TEST_F(MeshlessViaFile, bytes) {
+TEST_F(MeshlessViaFile, HasItsBytes) {
     const std::vector<MeshlessVia> vias{coaxialVia(), MeshlessVia()};
     const std::string bytes = check + twoVias + coaxialBytes + unsetBytes, path = write(std::string(999, 'x'));
     MeshlessVia::write_binary(vias, path);
@@ -61,7 +61,7 @@ struct Pipe : std::streambuf {
     std::string m_text;
 };
 
-TEST(MeshlessViaStream, needs_no_position_and_leaves_what_follows) {
+TEST(MeshlessViaStream, NeedsNoPositionAndLeavesTheRest) {
     const std::vector<MeshlessVia> vias(5000, coaxialVia());
     std::stringstream written;
     MeshlessVia::write_binary_stream(vias, written);
@@ -80,7 +80,7 @@ TEST(MeshlessViaStream, needs_no_position_and_leaves_what_follows) {
     EXPECT_TRUE(list.empty());
 }
 
-TEST_F(MeshlessViaFile, failures_have_messages_and_leave_the_list_empty) {
+TEST_F(MeshlessViaFile, FailuresHaveMessagesAndLeaveTheListEmpty) {
     const std::string order = "Unable to read meshless vias, byte order check failed";
     const std::string content = "Unable to read meshless vias";
     struct Row {
@@ -88,16 +88,16 @@ TEST_F(MeshlessViaFile, failures_have_messages_and_leave_the_list_empty) {
         std::uint64_t count;  // as the counter reads it; its message where it cannot
     };
     const Row rows[] = {
-        {"empty", "", order, 0},
-        {"short_check", check.substr(1), order, 0},
-        {"check_of_another_byte_order", bytesOf("000000000001e240") + noVias, order, 0},
-        {"no_count", check, content, 0},
-        {"short_count", check + noVias.substr(1), content, 0},
-        {"three_named_and_two_there", check + bytesOf("0300000000000000") + coaxialBytes + unsetBytes, content, 3},
-        {"one_byte_short", check + bytesOf("0100000000000000") + coaxialBytes.substr(1), content, 1},
-        {"hostile_count", check + bytesOf("0000000000000020") + coaxialBytes, content, std::uint64_t(1) << 61},
-        {"count_that_wraps_to_0", check + bytesOf("0000000000000080"), content, std::uint64_t(1) << 63},
-        {"largest_count", check + bytesOf("ffffffffffffffff") + unsetBytes, content, ~std::uint64_t(0)},
+        {"Empty", "", order, 0},
+        {"ShortCheck", check.substr(1), order, 0},
+        {"CheckOfAnotherByteOrder", bytesOf("000000000001e240") + noVias, order, 0},
+        {"NoCount", check, content, 0},
+        {"ShortCount", check + noVias.substr(1), content, 0},
+        {"ThreeNamedButTwoPresent", check + bytesOf("0300000000000000") + coaxialBytes + unsetBytes, content, 3},
+        {"OneByteShort", check + bytesOf("0100000000000000") + coaxialBytes.substr(1), content, 1},
+        {"HostileCount", check + bytesOf("0000000000000020") + coaxialBytes, content, std::uint64_t(1) << 61},
+        {"CountThatOverflowsToZero", check + bytesOf("0000000000000080"), content, std::uint64_t(1) << 63},
+        {"LargestCount", check + bytesOf("ffffffffffffffff") + unsetBytes, content, ~std::uint64_t(0)},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -120,7 +120,7 @@ TEST_F(MeshlessViaFile, failures_have_messages_and_leave_the_list_empty) {
     }
 }
 
-TEST_F(MeshlessViaFile, that_cannot_be_opened) {
+TEST_F(MeshlessViaFile, UnopenedFilesAreReported) {
     const std::string path = m_folder.path("no folder/vias").toStdString();
     std::vector<MeshlessVia> list(1);
     EXPECT_EQ(MeshlessVia::getNbMeshlessVias(path), 0U);
@@ -130,7 +130,7 @@ TEST_F(MeshlessViaFile, that_cannot_be_opened) {
     EXPECT_EQ(thrownBy([&] { MeshlessVia::write_binary({}, path); }), "Unable to write <" + path + ">");
 }
 
-TEST(MeshlessViaModel, radii) {
+TEST(MeshlessViaModel, ChecksTheRadii) {
     const P a, b;
     const MeshlessVia solid(a, b, 0.5, 1, 2);
     EXPECT_EQ(solid.getInnerRadius(), 0);
@@ -152,7 +152,7 @@ TEST(MeshlessViaModel, EveryValueCountsForEquality) {
     expectAllDifferent(vias);
 }
 
-TEST(MeshlessViaModel, text_forms) {
+TEST(MeshlessViaModel, HasTextForms) {
     EXPECT_EQ(P().str(), "[(0, 0, 0)]");
     EXPECT_EQ(P(0.1, -2, 1234567, P::OnEdge, 5).str(), "[(0.1, -2, 1.23457e+06) on edge 5]");
     EXPECT_EQ(P(1, 2, 3, P::OnFace, -1).str(), "[(1, 2, 3) on face -1]");

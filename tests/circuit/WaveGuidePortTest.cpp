@@ -21,7 +21,7 @@ Keys keysOf(const WaveGuidePortManager& manager) {
     return keys;
 }
 
-TEST(WaveGuidePorts, are_kept_sorted_by_waveguide_and_mode) {
+TEST(WaveGuidePortManager, KeepsPortsSortedByWaveguideAndMode) {
     WaveGuidePort ports[] = {portOf(2, 1), portOf(1, 3), portOf(1, 1), portOf(-1, 9), portOf(10, 0)};
     WaveGuidePortManager manager;
     for (auto& port : ports) manager.insert(&port);
@@ -36,7 +36,7 @@ TEST(WaveGuidePorts, are_kept_sorted_by_waveguide_and_mode) {
 }
 
 // A loaded list may have such ports.
-TEST(WaveGuidePorts, of_listed_ports_with_the_same_numbers_the_last_survives_an_insertion) {
+TEST(WaveGuidePortManager, InsertionKeepsTheLastOfListedPortsWithEqualNumbers) {
     WaveGuidePort first = portOf(2, 1), second = portOf(2, 1), other = portOf(1, 1);
     WaveGuidePortManager manager({&first, &second});
     EXPECT_NE(thrownBy([&] { manager.insert(&first); }), "nothing");
@@ -51,7 +51,7 @@ TEST(WaveGuidePorts, of_listed_ports_with_the_same_numbers_the_last_survives_an_
               QStringList("error: The number of ports is greater than the number of waveguide ports."));
 }
 
-TEST(WaveGuidePorts, are_counted_on_demand_and_shared_by_copies) {
+TEST(WaveGuidePortManager, CountsPortsByCachingAndSharesThemWithCopies) {
     WaveGuidePort a = portOf(1, 1), b = portOf(2, 1);
     WaveGuidePortManager manager;
     manager.insert(&a);
@@ -69,7 +69,7 @@ TEST(WaveGuidePorts, are_counted_on_demand_and_shared_by_copies) {
     EXPECT_EQ(manager.getNumberOfPorts() + manager.getNumberOfWaveguidePorts(), 0U);
 }
 
-TEST(WaveGuidePorts, text_form) {
+TEST(WaveGuidePortManager, HasATextForm) {
     WaveGuidePort port;
     const QString head = "name                  : noname\nwaveguide number      : -1\nwaveguide mode number : -1\n";
     EXPECT_EQ(port.qstr(),
@@ -102,7 +102,7 @@ TEST(WaveGuidePorts, text_form) {
     }
 }
 
-TEST(WaveGuidePorts, names_from_file_names) {
+TEST(WaveGuidePortManager, DerivesPortNamesFromFileNames) {
     WaveGuidePort port;
     for (const auto& [file, name] :
          {std::pair("a_b_c_d", "b_c"), {"a__d", ""}, {"a_d", ""}, {"ad", ""}, {"_mode 1_", "mode 1"}}) {

@@ -6,7 +6,7 @@
 namespace quarn::test {
 namespace {
 
-TEST(Vector3D, normalizeScalesToLengthOne) {
+TEST(Vector3D, NormalizeScalesToLengthOne) {
     Vector3D vector(2, -3, 6);
     EXPECT_EQ(vector.mag(), 7);
     EXPECT_EQ(&vector.normalize(), &vector);
@@ -15,7 +15,7 @@ TEST(Vector3D, normalizeScalesToLengthOne) {
     EXPECT_EQ(vector.getZ(), 6.0 / 7);
 }
 
-TEST(Vector3D, zeroDividesNothing) {
+TEST(Vector3D, DivisionByZeroChangesNothing) {
     Vector3D vector(1, 2, 3);
     vector /= 0.0;
     vector /= -0.0;
@@ -24,7 +24,7 @@ TEST(Vector3D, zeroDividesNothing) {
 }
 
 // Each cell with those behind it: the order is that of the list.
-TEST(Ivec3, ordersByXThenYThenZ) {
+TEST(Ivec3, OrdersByXThenYThenZ) {
     const ivec3 ascending[] = {{-5, 9, 9}, {1, -2, 3}, {1, 2, 3}, {1, 2, 4}, {1, 5, 0}, {2, 0, 0}};
     for (const ivec3& a : ascending) {
         for (const ivec3& b : ascending) {

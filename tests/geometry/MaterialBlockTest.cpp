@@ -219,7 +219,7 @@ const Block blocks[] = {
      [] { return new MagneticSampled("", {{1, 2, 3}, {4, 5, 6}}); }},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(GeometryFile, MaterialBlock, testing::ValuesIn(blocks), rowName<Block>);
+INSTANTIATE_TEST_SUITE_P(, MaterialBlock, testing::ValuesIn(blocks), rowName<Block>);
 
 }  // namespace
 }  // namespace quarn::test

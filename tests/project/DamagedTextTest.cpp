@@ -123,10 +123,10 @@ QByteArray viaSample() {
 }
 
 const Format formats[] = {
-    {"project", [] { return golden.toUtf8(); }, smallProject, rewrittenProject},
-    {"geometry", geometrySample, smallGeometry, rewrittenGeometry},
-    {"cut", cutSample, cutSample, rewrittenCut},
-    {"vias", viaSample, viaSample, rewrittenVias},
+    {"Project", [] { return golden.toUtf8(); }, smallProject, rewrittenProject},
+    {"Geometry", geometrySample, smallGeometry, rewrittenGeometry},
+    {"Cut", cutSample, cutSample, rewrittenCut},
+    {"Vias", viaSample, viaSample, rewrittenVias},
 };
 
 class DamagedText : public testing::TestWithParam<Format> {
@@ -138,13 +138,13 @@ protected:
     }
 };
 
-TEST_P(DamagedText, of_any_length_is_refused_or_stable) {
+TEST_P(DamagedText, IsRefusedOrStableAtAnyLength) {
     const QByteArray whole = GetParam().sample();
     EXPECT_EQ(GetParam().rewritten(whole), whole);
     for (int length = 0; length < whole.size(); ++length) expectStable(whole.left(length));
 }
 
-TEST_P(DamagedText, with_any_byte_changed_is_refused_or_stable) {
+TEST_P(DamagedText, IsRefusedOrStableWithAnyByteChanged) {
     const QByteArray whole = GetParam().smallSample();
     EXPECT_FALSE(GetParam().rewritten(whole).isNull());
     for (int i = 0; i < whole.size(); ++i) {

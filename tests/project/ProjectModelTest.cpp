@@ -7,7 +7,7 @@ namespace {
 using B = BoundaryConditions;
 using Units = QPair<QString, double>;
 
-TEST(ProjectModel, defaults) {
+TEST(ProjectModel, HasDefaults) {
     EXPECT_EQ(OwningProject().getDisplayUnits(), Units("m", 1.0));
     EXPECT_EQ(OwningProject().getModelingUnits(), Units("m", 1.0));
     ProjectFile base;
@@ -62,7 +62,7 @@ void expectDeepCopy(Wave* wave) {
     deleteContents(copy);
 }
 
-TEST(ProjectModel, copy_constructor_copies_objects_and_shares_waveforms_components_and_ports) {
+TEST(ProjectModel, CopyConstructorCopiesObjectsAndSharesWaveformsComponentsAndPorts) {
     expectDeepCopy(new PlaneWave(1, 2, 3, PlaneWave::Theta, "a"));
     expectDeepCopy(new TFSFPlaneWave(1, 2, 3, PlaneWave::Theta, "a", true, false, true, false, true, true));
     expectDeepCopy(new GaussianBeam(1, 2, 3, PlaneWave::Theta, "a", 4, 5, 6, 7));
@@ -72,7 +72,7 @@ TEST(ProjectModel, copy_constructor_copies_objects_and_shares_waveforms_componen
     deleteContents(empty);
 }
 
-TEST(ProjectModel, assignment_shares_the_objects) {
+TEST(ProjectModel, AssignmentSharesTheObjects) {
     OwningProject source;
     describe(source);
     v6ProjectFile other;
@@ -84,7 +84,7 @@ TEST(ProjectModel, assignment_shares_the_objects) {
     EXPECT_EQ(saved(other), saved(source));
 }
 
-TEST(ProjectModel, contents_are_deleted_once_and_forgotten) {
+TEST(ProjectModel, ContentsAreDeletedOnceAndPointersReset) {
     v6ProjectFile project;
     describe(project);
     project.getWaveforms().push_back(project.getWaveforms().front());
@@ -95,7 +95,7 @@ TEST(ProjectModel, contents_are_deleted_once_and_forgotten) {
 }
 
 // The address sanitizer sees what is left.
-TEST(ProjectModel, copies_and_their_loaded_contents_are_deleted) {
+TEST(ProjectModel, CopiesAndTheirLoadedContentsAreDeleted) {
     OwningProject source;
     v6ProjectFile copy(source);
     load(copy, expanded("Version 8; FDTDProject{ RequestResults{ DFTParameters{ NormalizeFields; } } }"));
@@ -103,7 +103,7 @@ TEST(ProjectModel, copies_and_their_loaded_contents_are_deleted) {
     deleteContents(copy);
 }
 
-TEST(ProjectModel, waves_that_were_sliced_are_plain) {
+TEST(ProjectModel, SlicedWavesBecomePlainPlaneWaves) {
     const TFSFPlaneWave box(1, 2, 3, PlaneWave::Theta, "a", true, false, true, false, true, true);
     const GaussianBeam beam(1, 2, 3, PlaneWave::Theta, "a", 4, 5, 6, 7);
     const PlaneWave plain(1, 2, 3, PlaneWave::Theta, "a");
@@ -116,7 +116,7 @@ TEST(ProjectModel, waves_that_were_sliced_are_plain) {
     EXPECT_EQ(filled, box) << "an object never changes its class";
 }
 
-TEST(ProjectModel, load_replaces_objects_of_the_caller_without_deleting_them) {
+TEST(ProjectModel, LoadReplacesObjectsOfTheCallerWithoutDeletingThem) {
     B boundaries(B::PEC, B::PEC, B::PEC, B::PEC, B::PEC, B::PEC, 1);
     OwningProject project;
     project.setBoundaryConditions(&boundaries);
@@ -125,7 +125,7 @@ TEST(ProjectModel, load_replaces_objects_of_the_caller_without_deleting_them) {
     EXPECT_EQ(boundaries.getNumberOfPECBoundaries(), 6);
 }
 
-TEST(BoundaryConditionsModel, sides_and_derived_answers) {
+TEST(BoundaryConditionsModel, AnswersFollowTheTypesOfTheSides) {
     B conditions(B::PEC, B::Liao, B::PEC, B::Periodic, B::ESymmetry, B::MSymmetry, 8);
     EXPECT_EQ(conditions.getNumberOfPECBoundaries(), 2);
     EXPECT_TRUE(conditions.hasPECBoundary() && conditions.hasLiaoBoundary() && conditions.hasPeriodicBoundary());
@@ -142,7 +142,7 @@ TEST(BoundaryConditionsModel, sides_and_derived_answers) {
     EXPECT_TRUE(conditions.getPMLKappaMax() == 1 && conditions.getPMLAlphaMax() == 0);
 }
 
-TEST(BoundaryConditionsModel, numbers_and_names_of_types) {
+TEST(BoundaryConditionsModel, ConvertsNumbersAndNamesOfTypes) {
     for (int type = 0; type < 7; ++type) {
         const QString name = v6ProjectFile::OuterBoundaryTypeToDescriptor(static_cast<B::BoundaryType>(type));
         EXPECT_EQ(v6ProjectFile::OuterBoundaryDescriptorToType(type), type);

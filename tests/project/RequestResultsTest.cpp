@@ -130,9 +130,9 @@ struct Row {
 
 void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 
-class RequestsRead : public testing::TestWithParam<Row> {};
+class RequestReading : public testing::TestWithParam<Row> {};
 
-TEST_P(RequestsRead, and_written) {
+TEST_P(RequestReading, IsWrittenInCanonicalForm) {
     expectLoads<Project>(fileWith(GetParam().read), expanded(GetParam().written), requestsOf);
 }
 
@@ -159,67 +159,67 @@ QString temperatureRise(const QString& immersive, const QString& plane) {
 
 // clang-format off
 const Row rows[] = {
-    {"grid_indices_alone", "MultiPointFieldRequest{ " + threePoints + "} ",
+    {"GridIndicesAlone", "MultiPointFieldRequest{ " + threePoints + "} ",
      multiPoint(noBoxes + "AdditionalPoints 3 1 2 3 4 5 6 7 8 9; ")},
-    {"grid_indices_become_boxes", "MultiPointFieldRequest{ GridIndices 4 0 0 0 0 0 1 0 0 3 0 0 1; } ",
+    {"GridIndicesBecomeBoxes", "MultiPointFieldRequest{ GridIndices 4 0 0 0 0 0 1 0 0 3 0 0 1; } ",
      multiPoint("GridBoxes 1 0 0 0 0 0 3; PointsToRemoveFromBoxes 1 0 0 2; AdditionalPoints 0; ")},
-    {"grid_indices_beside_empty_lists",
+    {"GridIndicesBesideEmptyLists",
      "MultiPointFieldRequest{ " + threePoints + "GridBoxes 0; AdditionalPoints -3; PointsToRemoveFromBoxes 1 1 2 3; } ",
      multiPoint(noBoxes + "AdditionalPoints 3 1 2 3 4 5 6 7 8 9; ")},
-    {"boxes_before_grid_indices", "MultiPointFieldRequest{ GridIndices 1 5 5 5; GridBoxes 1 0 0 0 2 2 2; } ",
+    {"BoxesBeforeGridIndices", "MultiPointFieldRequest{ GridIndices 1 5 5 5; GridBoxes 1 0 0 0 2 2 2; } ",
      multiPoint("GridBoxes 1 0 0 0 2 2 2; PointsToRemoveFromBoxes 0; AdditionalPoints 0; ")},
-    {"additional_points_before_grid_indices", "MultiPointFieldRequest{ " + threePoints + "AdditionalPoints 1 5 5 5; } ",
+    {"AdditionalPointsBeforeGridIndices", "MultiPointFieldRequest{ " + threePoints + "AdditionalPoints 1 5 5 5; } ",
      multiPoint(noBoxes + "AdditionalPoints 1 5 5 5; ")},
-    {"removed_points_once_and_only_in_boxes",
+    {"RemovedPointsCountOnceAndOnlyInBoxes",
      "MultiPointFieldRequest{ PointsToRemoveFromBoxes 4 0 0 1 9 9 9 0 0 0 0 0 1; GridBoxes 1 0 0 0 0 0 2; } ",
      multiPoint("GridBoxes 1 0 0 0 0 0 2; PointsToRemoveFromBoxes 2 0 0 0 0 0 1; AdditionalPoints 0; ")},
-    {"lists_in_pieces_and_over_lines",
+    {"ListsInPiecesAndOverLines",
      "MultiPointFieldRequest{ AdditionalPoints 1 1 2 3; AdditionalPoints 1; 4 5; 6; AdditionalPoints 0; } ",
      multiPoint(noBoxes + "AdditionalPoints 2 1 2 3 4 5 6; ")},
-    {"huge_count_as_far_as_the_line_goes", "MultiPointFieldRequest{ GridBoxes 2000000000 1 1 1 2 2 2 3 3 3 4; } ",
+    {"HugeCountEndsWithTheLine", "MultiPointFieldRequest{ GridBoxes 2000000000 1 1 1 2 2 2 3 3 3 4; } ",
      multiPoint("GridBoxes 1 1 1 1 2 2 2; PointsToRemoveFromBoxes 0; AdditionalPoints 0; ")},
-    {"count_beyond_integers_as_none", "MultiPointFieldRequest{ AdditionalPoints 3000000000 1 1 1; Snapped; } ",
+    {"CountBeyondIntegersIsTakenAsZero", "MultiPointFieldRequest{ AdditionalPoints 3000000000 1 1 1; Snapped; } ",
      multiPoint(noBoxes + "AdditionalPoints 0; ", "Snapped; ")},
-    {"unknown_words_and_blocks_of_points",
+    {"UnknownWordsAndBlocksOfPoints",
      "MultiPointFieldRequest{ foo Snapped; foo{ Snapped; } SteadyJ SteadyTotalE; Snapped 0; MinTimestep 7; } ",
      multiPoint(noBoxes + "AdditionalPoints 0; ", "SteadyTotalE; SteadyJ; Snapped; ", 7)},
-    {"points_with_unknown_lines",
+    {"PointsWithUnknownLines",
      "MultiFieldIndexedPoint{ foo XIndex 1; foo{ YIndex 1; } XPosition 2; Definition{ foo J; J{ } File  my file ; "
      "TotalB; } ZIndex 3; } MultiFieldInterpolatedPoint{ ZPosition 1e-3; XIndex 1; } ",
      "MultiFieldIndexedPoint{ Definition{ File my file; MinTimestep -1; MaxTimestep -1; DeltaTimestep -1; TotalB; } "
      "XIndex 0; YIndex 0; ZIndex 3; } MultiFieldInterpolatedPoint{ " + definition +
      "XPosition 0; YPosition 0; ZPosition 0.0010000000474974513; } "},
-    {"planes_up_to_another_word", "RawSARPlanes{ Plane XZ 4; Plane zx 5; Planes YZ 6; } MultiFieldIndexedPoint{ } ",
+    {"PlanesEndAtAnotherWord", "RawSARPlanes{ Plane XZ 4; Plane zx 5; Planes YZ 6; } MultiFieldIndexedPoint{ } ",
      "RawSARPlanes{ Plane XY 4; Plane XY 5; } "},
-    {"planes_up_to_a_block", "RawSARPlanes{ Plane YZ 4; foo{ } Plane ZX 1; } ", "RawSARPlanes{ Plane YZ 4; } "},
-    {"far_zone_requests_among_others", "FarZoneRequests{ foo SteadyState; foo{ Transient{ } } Transient{ Angle 1 2; } } ",
+    {"PlanesEndAtABlock", "RawSARPlanes{ Plane YZ 4; foo{ } Plane ZX 1; } ", "RawSARPlanes{ Plane YZ 4; } "},
+    {"FarZoneRequestsAmongOthers", "FarZoneRequests{ foo SteadyState; foo{ Transient{ } } Transient{ Angle 1 2; } } ",
      "FarZoneRequests{ Transient{ OutputFileName ; Angle 1 2; } } "},
-    {"averaging_defaults_and_drops_lines",
+    {"AveragingDefaultsAndDropsLines",
      "SARAveraging{ foo average_one_gram; automatic_subregion_cutoff_in_db 3; materials_to_use -1; } ",
      "SARAveraging{ " + noAveraging + "} "},
-    {"averaging_takes_inner_blocks_as_lines", "SARAveraging{ foo{ average_one_gram; } } ",
+    {"AveragingTakesInnerBlocksAsLines", "SARAveraging{ foo{ average_one_gram; } } ",
      "SARAveraging{ average_one_gram; " + noAveraging + "} "},
-    {"averaging_materials_have_eight_bits", "SARAveraging{ materials_to_use 3 1 256 511; outputAveragedFileName  a b ; } ",
+    {"AveragingMaterialsHaveEightBits", "SARAveraging{ materials_to_use 3 1 256 511; outputAveragedFileName  a b ; } ",
      "SARAveraging{ lower_bound  0 0 0; upper_bound  0 0 0; materials_to_use 3 1 0 255; outputAveragedFileName a b; } "},
-    {"averaging_slices_by_their_normal", "SARAveraging{ save_one_gram_x_slices; save_ten_gram_z_slices; } ",
+    {"AveragingSlicesByTheirNormal", "SARAveraging{ save_one_gram_x_slices; save_ten_gram_z_slices; } ",
      "SARAveraging{ lower_bound  0 0 0; upper_bound  0 0 0; save_ten_gram_z_slices; save_one_gram_x_slices; "
      "outputAveragedFileName project; } "},
-    {"temperature_rise_defaults", "TemperatureRiseRequest{ } ", temperatureRise(noParameters, "XY")},
-    {"temperature_rise_lenient_names",
+    {"TemperatureRiseDefaults", "TemperatureRiseRequest{ } ", temperatureRise(noParameters, "XY")},
+    {"TemperatureRiseLenientNames",
      "TemperatureRiseRequest{ plane_type XZ; steady_state_type foo; foo{ plane_type YZ; } foo plane_type YZ; "
      "begin_<PhysicalParameters> Body; density 9; end_<PhysicalParameters>; "
      "begin_<PhysicalParameters> Immersive; density 9; end_<PhysicalParameters>; initial_temperature_filename ; } ",
      temperatureRise(QString(noParameters).replace("density 0", "density 9"), "ZX")},
-    {"hac_words_one_by_one", frequencies + "HACRequest{ foo Origin 1 2 3 4 U 5 6 7; V{ 1 2 3; } end_<V>; W 8 x; } ",
+    {"HACWordsAreReadOneByOne", frequencies + "HACRequest{ foo Origin 1 2 3 4 U 5 6 7; V{ 1 2 3; } end_<V>; W 8 x; } ",
      frequencies + "HACRequest{ Origin 1 2 3; U 5 6 7; V 0 0 0; W 8 0 0; } "},
-    {"hac_without_frequencies_is_lost", hac, ""},
-    {"unknown_blocks_and_lines", "RawSARPlanes{ } foo{ MultiFieldIndexedPoint{ } } foo; MultiFieldIndexedPoint{ } ",
+    {"HACWithoutFrequenciesIsLost", hac, ""},
+    {"UnknownBlocksAndLines", "RawSARPlanes{ } foo{ MultiFieldIndexedPoint{ } } foo; MultiFieldIndexedPoint{ } ",
      "MultiFieldIndexedPoint{ " + definition + origin + "} "},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(rows, RequestsRead, testing::ValuesIn(rows), rowName<Row>);
+INSTANTIATE_TEST_SUITE_P(, RequestReading, testing::ValuesIn(rows), rowName<Row>);
 
-TEST(RequestResults, boxes_that_overlap_beyond_reason_leave_their_request_out) {
+TEST(RequestResults, RequestsWithTooManyOverlappingBoxesAreDropped) {
     const QString boxes = "GridBoxes 1100" + QString(" 0 0 0 9 9 39").repeated(1100) + "; ";
     QString removed = "PointsToRemoveFromBoxes 1100";
     for (int i = 0; i < 1100; ++i) removed += QString(" %1 %2 %3").arg(i / 400).arg(i / 40 % 10).arg(i % 40);
@@ -270,7 +270,7 @@ const QString boundLines =
     "lower_bound  1 0 0|lower_bound  0 2 0|lower_bound  0 0 3|upper_bound  4 0 0|upper_bound  0 5 0|upper_bound  0 0 "
     "6|";
 
-TEST(RequestMembers, of_averaging_requests) {
+TEST(RequestMembers, AveragingRequestsCompareAndWriteEachMember) {
     const std::tuple noAverages(false, false, false), averages(true, true, true);
     const std::tuple rest(false, 0.0F, std::vector<std::uint8_t>()), changed(true, 7.0F, std::vector<std::uint8_t>{8});
     expectLines(
@@ -290,7 +290,7 @@ const auto noTemperatureRise = std::tuple_cat(
     std::tuple(false, false, false, 0.0F, 0.0F, 0, 0, TemperatureRiseRequest::XY), noBounds,
     std::tuple(false, 0.0F, noTissue, noTissue, 0.0F, noTissue, noTissue, QString(), QString(), false, 0.0F, 0.0F));
 
-TEST(RequestMembers, of_temperature_rise_requests) {
+TEST(RequestMembers, TemperatureRiseRequestsCompareAndWriteEachMember) {
     const auto changed = std::tuple_cat(
         std::tuple(true, true, true, 1.0F, 2.0F, 3, 3, TemperatureRiseRequest::ZX),
         bounds,
@@ -310,7 +310,7 @@ TEST(RequestMembers, of_temperature_rise_requests) {
 const QString definitionLines =
     "ScatteredE|TotalE|ScatteredH|TotalH|ScatteredB|TotalB|J|MinTimestep 1|MaxTimestep 2|DeltaTimestep 3|File a b";
 
-TEST(RequestMembers, of_near_zone_points) {
+TEST(RequestMembers, NearZonePointsCompareAndWriteEachMember) {
     const auto blank = std::tuple_cat(noFlags, std::tuple(false, -1, -1, -1, QString()));
     const auto changed = std::tuple_cat(allFlags, std::tuple(true, 1, 2, 3, QString("a b")));
     expectLines(
@@ -329,7 +329,7 @@ TEST(RequestMembers, of_near_zone_points) {
     EXPECT_NE(static_cast<const NearZoneMultiFieldPoint&>(indexed), NearZoneMultiFieldInterpolatedPoint());
 }
 
-TEST(RequestMembers, of_multi_point_requests) {
+TEST(RequestMembers, MultiPointRequestsCompareAndWriteEachMember) {
     using R = MultiPointFieldRequest;
     const std::pair<bool R::*, const char*> flags[] = {{&R::collectTransientTotalE, "TransientTotalE"},
                                                        {&R::collectTransientTotalH, "TransientTotalH"},
@@ -365,7 +365,7 @@ TEST(RequestMembers, of_multi_point_requests) {
         [](const auto& project) { return project.GetMultiPointFieldRequests().at(0); });
 }
 
-TEST(NearZonePoints, are_cells_with_a_type) {
+TEST(NearZonePoint, HasACellAndAType) {
     NearZonePoint point, typed;
     point.Point({1, 2, 3});
     typed.Point({1, 2, 3});
@@ -375,7 +375,7 @@ TEST(NearZonePoints, are_cells_with_a_type) {
     EXPECT_EQ(typed.Type() * 1000 + typed.X() * 100 + typed.Y() * 10 + typed.Z(), 4123);
 }
 
-TEST(TemperatureRise, names_files_and_leaves_out_what_has_no_name) {
+TEST(TemperatureRise, NamesFilesAndOmitsUnnamedValues) {
     for (const auto& [plane, prefix] : {std::pair(0, ".xy"), {1, ".yz"}, {2, ".zx"}, {5, ".zx"}}) {
         Project project;
         auto arguments = noTemperatureRise;

@@ -29,7 +29,7 @@ const QString badSamples = "error: The user defined waveform is incorrectly spec
 const QString fewSamples = "error: There are not enough points specified in the user defined waveform.";
 // clang-format on
 
-TEST(Validity, absorbing_layers_are_checked_for_fem_only) {
+TEST(Validity, AbsorbingLayersAreCheckedOnlyForFEM) {
     const auto check = [](Engine engine, B::BoundaryType lowerX, B::BoundaryType others, int layers) {
         const B conditions(lowerX, others, others, others, others, others, layers);
         return findingsOf(conditions, engine);
@@ -42,7 +42,7 @@ TEST(Validity, absorbing_layers_are_checked_for_fem_only) {
     EXPECT_EQ(check(Engine::FEM, B::Liao, B::PEC, 0), QStringList()) << "no CPML side";
 }
 
-TEST(Validity, waveforms_are_checked_for_fdtd_only) {
+TEST(Validity, WaveformsAreCheckedOnlyForFDTD) {
     const auto check = [](const W& waveform, bool convergence = false, Engine engine = Engine::FDTD) {
         TerminationCriteria criteria(0, 2, 0);
         if (convergence) criteria.addConvergence(-40, 5, 5, true, TerminationCriteria::Medium);
@@ -64,7 +64,7 @@ TEST(Validity, waveforms_are_checked_for_fdtd_only) {
     QLocale::setDefault(QLocale::c());
 }
 
-TEST(Validity, termination_criteria_are_checked_for_fem_only) {
+TEST(Validity, TerminationCriteriaAreCheckedOnlyForFEM) {
     const auto check = [](unsigned maximum, Engine engine) {
         QStringList warnings("earlier");
         TerminationCriteria(0, maximum, 0).checkValidity(warnings, engine);
@@ -74,7 +74,7 @@ TEST(Validity, termination_criteria_are_checked_for_fem_only) {
     EXPECT_EQ(check(1, Engine::FEM) + check(0, Engine::FDTD), QStringList());
 }
 
-TEST(Validity, td_afs_criteria_are_checked_for_s_parameters_and_fdtd) {
+TEST(Validity, TdAfsCriteriaAreCheckedForSParametersAndFDTD) {
     using C = TdAfsTerminationCriteria;
     using Texts = std::vector<std::string>;
     const auto check = [](float start, float stop, int points, int passes, C::ConvergenceType type, Engine engine) {
@@ -96,7 +96,7 @@ TEST(Validity, td_afs_criteria_are_checked_for_s_parameters_and_fdtd) {
     EXPECT_EQ(check(0, 0, 0, 0, C::SParameters, Engine::FEM), Texts());
 }
 
-TEST(Validity, project_checks_its_parts_in_order) {
+TEST(Validity, ProjectChecksItsPartsInOrder) {
     OwningProject project;
     EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noExcitation, noTermination}));
     project.setTdAfsTerminationCriteria(new TdAfsTerminationCriteria);

@@ -81,7 +81,7 @@ struct SourceRow {
 
 void PrintTo(const SourceRow& row, std::ostream* out) { *out << row.name; }
 
-class FarFieldOf : public testing::TestWithParam<SourceRow> {
+class FarFieldOfSource : public testing::TestWithParam<SourceRow> {
 protected:
     double deviationForCells(float size) const {
         const ExactRun run(GetParam().grid(size, 1.6F), openBoundaries());
@@ -94,7 +94,7 @@ protected:
 double boundForCells(double size) { return std::pow(waveNumber * size, 2) / 24.0; }
 
 // Half the size leaves a quarter of the deviation.
-TEST_P(FarFieldOf, meets_the_closed_form_the_better_the_finer_the_cells) {
+TEST_P(FarFieldOfSource, ConvergesToTheClosedFormWithFinerCells) {
     const double largestRatio = GetParam().grid == gradedGrid ? 2.0 : 1.0;
     const double coarse = deviationForCells(0.05F);
     EXPECT_LT(coarse, boundForCells(largestRatio * 0.05));
@@ -131,19 +131,19 @@ std::unique_ptr<exact::Source> obliqueWire(const ExactRun& run) {
 }
 
 const SourceRow sourceRows[] = {
-    {"an_electric_dipole_along_x", evenGrid, centred<ElectricDipole, 0>},
-    {"an_electric_dipole_along_y", evenGrid, centred<ElectricDipole, 1>},
-    {"an_electric_dipole_along_z", evenGrid, centred<ElectricDipole, 2>},
-    {"a_small_loop_around_x", evenGrid, centred<MagneticDipole, 0>},
-    {"a_small_loop_around_z", evenGrid, centred<MagneticDipole, 2>},
-    {"an_electric_dipole_off_centre", evenGrid, offCentre},
-    {"an_electric_dipole_off_centre_on_graded_cells", gradedGrid, offCentre},
-    {"a_half_wave_dipole", evenGrid, halfWave},
-    {"an_oblique_wire", evenGrid, obliqueWire},
-    {"a_phased_array", evenGrid, phasedArray},
-    {"a_phased_array_on_graded_cells", gradedGrid, phasedArray},
+    {"AnElectricDipoleAlongX", evenGrid, centred<ElectricDipole, 0>},
+    {"AnElectricDipoleAlongY", evenGrid, centred<ElectricDipole, 1>},
+    {"AnElectricDipoleAlongZ", evenGrid, centred<ElectricDipole, 2>},
+    {"ASmallLoopAroundX", evenGrid, centred<MagneticDipole, 0>},
+    {"ASmallLoopAroundZ", evenGrid, centred<MagneticDipole, 2>},
+    {"AnElectricDipoleOffCentre", evenGrid, offCentre},
+    {"AnElectricDipoleOffCentreOnGradedCells", gradedGrid, offCentre},
+    {"AHalfWaveDipole", evenGrid, halfWave},
+    {"AnObliqueWire", evenGrid, obliqueWire},
+    {"APhasedArray", evenGrid, phasedArray},
+    {"APhasedArrayOnGradedCells", gradedGrid, phasedArray},
 };
-INSTANTIATE_TEST_SUITE_P(, FarFieldOf, testing::ValuesIn(sourceRows), rowName<SourceRow>);
+INSTANTIATE_TEST_SUITE_P(, FarFieldOfSource, testing::ValuesIn(sourceRows), rowName<SourceRow>);
 
 // Image theory: the plane mirrors an electric dipole with its part along the plane reversed, a magnetic one with its
 // part across the plane reversed.
@@ -181,7 +181,7 @@ protected:
     }
 };
 
-TEST_P(FarFieldOverPlane, follows_image_theory_and_is_zero_below) {
+TEST_P(FarFieldOverPlane, FollowsImageTheoryAndIsZeroBelow) {
     const double bound = boundForCells(0.05);
     EXPECT_LT(deviationOf<ElectricDipole>(along(axis)), bound) << "across the plane";
     EXPECT_LT(deviationOf<ElectricDipole>(along((axis + 1) % 3)), bound) << "along the plane";
@@ -194,7 +194,7 @@ INSTANTIATE_TEST_SUITE_P(, FarFieldOverPlane,
                          testing::Values(FarZoneBox::XLower, FarZoneBox::YLower, FarZoneBox::ZLower, FarZoneBox::XUpper,
                                          FarZoneBox::YUpper, FarZoneBox::ZUpper));
 
-TEST(FarField, carries_the_power_that_flows_through_the_box) {
+TEST(FarField, CarriesThePowerThatFlowsThroughTheBox) {
     const ExactRun run(evenGrid(0.05F, 1.6F), openBoundaries());
     const auto source = phasedArray(run);
     const FieldsOnSSFarZoneBox fields = run.fieldsOf(*source, frequency);

@@ -100,18 +100,18 @@ struct Writer {
 void PrintTo(const Writer& writer, std::ostream* out) { *out << writer.name; }
 
 const Writer writers[] = {
-    {"project", writesProject},
-    {"geometry", writesGeometry},
-    {"sar_plane", writesSarPlane},
-    {"records", writesRecords},
-    {"near_zone_point", writesNearZonePoint},
-    {"multi_point_set", writesMultiPointSet},
+    {"Project", writesProject},
+    {"Geometry", writesGeometry},
+    {"SarPlane", writesSarPlane},
+    {"Records", writesRecords},
+    {"NearZonePoint", writesNearZonePoint},
+    {"MultiPointSet", writesMultiPointSet},
 };
 
 // Those that choose how to write.
 const Writer replacingWriters[] = {
-    {"vias", writesVias},
-    {"sar_combination", combinesSarPlanes},
+    {"Vias", writesVias},
+    {"SarCombination", combinesSarPlanes},
 };
 
 class FailingWriter : public testing::TestWithParam<Writer> {
@@ -150,23 +150,23 @@ protected:
 
 class ReplacingWriter : public FailingWriter {};
 
-TEST_P(FailingWriter, with_nothing_in_its_way_writes) { EXPECT_TRUE(writes("out")); }
+TEST_P(FailingWriter, WritesWithoutAFault) { EXPECT_TRUE(writes("out")); }
 
-TEST_P(FailingWriter, without_a_folder_reports_it) { EXPECT_FALSE(writes("no/such/folder/out")); }
+TEST_P(FailingWriter, ReportsAMissingFolder) { EXPECT_FALSE(writes("no/such/folder/out")); }
 
-TEST_P(FailingWriter, on_a_full_disk_reports_it) {
+TEST_P(FailingWriter, ReportsAFullDisk) {
     EXPECT_FALSE(writesWith<FullDisk>("out"));
     for (const char* file : {"device", "device_info.bin"}) QFile::link("/dev/full", m_folder.path(file));
     EXPECT_FALSE(writes("device"));
 }
 
-TEST_P(FailingWriter, in_a_closed_folder_reports_it) {
+TEST_P(FailingWriter, ReportsAClosedFolder) {
     putEarlier("closed", 0555);
     EXPECT_FALSE(writesWith<WithoutPrivileges>("closed/new"));
     setPermissions("closed", 0755);
 }
 
-TEST_P(ReplacingWriter, keeps_an_earlier_file_that_it_has_no_room_or_no_permission_to_replace) {
+TEST_P(ReplacingWriter, KeepsAnEarlierFileWithoutSpaceOrPermission) {
     putEarlier("open", 0777);
     EXPECT_FALSE(writesWith<FullDisk>("open/out"));
     setPermissions("open/out", 0640);
@@ -181,7 +181,7 @@ TEST_P(ReplacingWriter, keeps_an_earlier_file_that_it_has_no_room_or_no_permissi
     EXPECT_EQ(QFile::permissions(m_folder.path("open/out")) & 0xFFF, 0x640);
 }
 
-TEST_P(ReplacingWriter, writes_into_a_file_that_cannot_be_replaced) {
+TEST_P(ReplacingWriter, WritesIntoAFileThatCannotBeReplaced) {
     putEarlier("linked", 0755);
     putEarlier("closed", 0555);
     putEarlier("everybody", 01777);  // only its owner can rename over a file here
@@ -201,7 +201,7 @@ TEST_P(ReplacingWriter, writes_into_a_file_that_cannot_be_replaced) {
               "2 outoutoutorigin out");
 }
 
-TEST_P(ReplacingWriter, takes_names_as_long_as_can_be_and_follows_links_to_their_end) {
+TEST_P(ReplacingWriter, AcceptsTheLongestNamesAndFollowsLinks) {
     const QByteArray longest(NAME_MAX, 'n');
     const QByteArray longPath = longest.left(259 - m_folder.path("x").size());
     ASSERT_TRUE(QFile::link("loop", m_folder.path("loop")) && QFile::link(longPath + 'n', m_folder.path("link")));
@@ -218,7 +218,7 @@ INSTANTIATE_TEST_SUITE_P(, FailingWriter, testing::ValuesIn(writers), rowName<Wr
 INSTANTIATE_TEST_SUITE_P(Replacing, FailingWriter, testing::ValuesIn(replacingWriters), rowName<Writer>);
 INSTANTIATE_TEST_SUITE_P(, ReplacingWriter, testing::ValuesIn(replacingWriters), rowName<Writer>);
 
-TEST(WriterOfASet, whose_folder_vanishes_reports_it_at_the_next_file) {
+TEST(MultiPointSetWriter, ReportsAVanishedFolderAtTheNextFile) {
     const ResultFolder folder;
     MultiPointResultWriter writer(true, false, false, false, false, false, false, false, false, false, false);
     ASSERT_TRUE(writer.beginResultWriting(folder.path("set"), GridIndexBoxes(std::vector<ivec3>{{1, 2, 3}})));
@@ -227,7 +227,7 @@ TEST(WriterOfASet, whose_folder_vanishes_reports_it_at_the_next_file) {
     EXPECT_FALSE(writer.beginTransientScatteredE());
 }
 
-TEST(WriterOfASet, reports_it_when_the_disk_fills_up) {
+TEST(MultiPointSetWriter, ReportsAFullDisk) {
     const ResultFolder folder;
     MultiPointResultWriter writer(false, true, false, false, false, false, false, false, true, false, false);
     ASSERT_TRUE(writer.beginResultWriting(folder.path("set"), GridIndexBoxes(std::vector<ivec3>{{1, 2, 3}})));
@@ -255,7 +255,7 @@ TEST(WriterOfASet, reports_it_when_the_disk_fills_up) {
 }
 
 // Into a file with two links the content has to be copied.
-TEST(FileReplacement, copies_only_what_there_is_room_for) {
+TEST(FileReplacement, CopiesOnlyWhatFitsOnTheDisk) {
     const ResultFolder folder;
     const QString target = folder.put("out", "earlier");
     ASSERT_TRUE(folder.linkHard("out", "link") && QFile::setPermissions(target, QFile::Permissions(0x600)));

@@ -93,7 +93,7 @@ struct MultiPoint : testing::Test {
     Floats list;
 };
 
-TEST_F(MultiPoint, eachGroupHasItsBitAndItsFiles) {
+TEST_F(MultiPoint, EachGroupHasItsBitAndItsFiles) {
     for (std::size_t row = 0; row < groupRows.size(); ++row) {
         const GroupRow& group = groupRows[row];
         SCOPED_TRACE(group.fileName);
@@ -141,7 +141,7 @@ TEST_F(MultiPoint, eachGroupHasItsBitAndItsFiles) {
     }
 }
 
-TEST_F(MultiPoint, geometryIsInTheOrderOfTheIndexBoxes) {
+TEST_F(MultiPoint, GeometryIsInTheOrderOfTheIndexBoxes) {
     const auto writer = writerOf(0);
     ASSERT_TRUE(writer->beginResultWriting(base, twoPoints));
     EXPECT_EQ(folder.bytes("b_geom.bin").toHex(' '),
@@ -156,7 +156,7 @@ TEST_F(MultiPoint, geometryIsInTheOrderOfTheIndexBoxes) {
     EXPECT_EQ(points.size(), 1U);
 }
 
-TEST_F(MultiPoint, timestepsAreListedAtOnceAndReplacedByARestart) {
+TEST_F(MultiPoint, TimestepsAreListedImmediatelyAndReplacedByARestart) {
     const auto writer = writerOf(1);
     ASSERT_TRUE(writer->beginResultWriting(base, twoPoints) && reader.beginResultReading(base));
     list = {7};
@@ -176,7 +176,7 @@ TEST_F(MultiPoint, timestepsAreListedAtOnceAndReplacedByARestart) {
     EXPECT_FALSE(writer->beginTimestep(4) || writer->beginFrequency(1)) << "all is closed";
 }
 
-TEST_F(MultiPoint, frequenciesAtAnIndexAreDoubles) {
+TEST_F(MultiPoint, FrequenciesAtAnIndexAreDoubles) {
     const auto writer = writerOf(10);
     ASSERT_TRUE(writer->beginResultWriting(base, twoPoints));
     EXPECT_TRUE(writer->beginFrequencyAtIndex({1, -2}, 3) && writer->beginSteadyJ() && writer->endFrequency());
@@ -188,7 +188,7 @@ TEST_F(MultiPoint, frequenciesAtAnIndexAreDoubles) {
     EXPECT_EQ(list, (Floats{0, 1.875F, 0, -2})) << "read as floats, as the format has it";
 }
 
-TEST_F(MultiPoint, nothingMovesUnlessAllFilesOfAGroupAreOpen) {
+TEST_F(MultiPoint, NothingIsReadOrWrittenUnlessAllFilesOfAGroupAreOpen) {
     Writer writer(false, true, false, false, false, false, false, true, false, false, false);
     EXPECT_FALSE(writer.writeTransient(1, 2, 3) || writer.writeSteady({1, 2}, {3, 4}, {5, 6}) || writer.endSteady());
     ASSERT_TRUE(writer.beginResultWriting(base, twoPoints) && writer.beginTimestep(0) && writer.beginFrequency(1));
@@ -211,7 +211,7 @@ TEST_F(MultiPoint, nothingMovesUnlessAllFilesOfAGroupAreOpen) {
     EXPECT_FALSE((reader.beginTimestep(1) && reader.beginTransientTotalE()) || reader.beginSteadyTotalH());
 }
 
-TEST_F(MultiPoint, blocksHoldWhatIsThere) {
+TEST_F(MultiPoint, BlocksHoldTheValuesPresent) {
     const auto writer = writerOf(7);
     ASSERT_TRUE(writer->beginResultWriting(base, twoPoints) && writer->beginFrequency(1) &&
                 writer->beginSteadyTotalE());
@@ -237,7 +237,7 @@ TEST_F(MultiPoint, blocksHoldWhatIsThere) {
 }
 
 // The engine has written all components but one, each in turn, which ends within its second value.
-TEST_F(MultiPoint, aReadThatFailsIsRepeatedOnceTheEngineHasGoneOn) {
+TEST_F(MultiPoint, FailedReadSucceedsOnceTheEngineHasWrittenMore) {
     folder.put("b_info.bin", QByteArray::fromHex("526d707400 00000041 03000000"));
     ASSERT_TRUE(reader.beginResultReading(base) && reader.beginTimestep(0) && reader.beginFrequency(0));
     const QByteArray values = QByteArray::fromHex(QByteArray(floats[0]) + floats[1] + floats[2]);
@@ -258,7 +258,7 @@ TEST_F(MultiPoint, aReadThatFailsIsRepeatedOnceTheEngineHasGoneOn) {
     }
 }
 
-TEST_F(MultiPoint, refusedInfoFiles) {
+TEST_F(MultiPoint, RefusesInvalidInfoFiles) {
     const auto begins = [&](const char* hex) {
         folder.put("b_info.bin", QByteArray::fromHex(hex));
         return reader.beginResultReading(base);
@@ -279,7 +279,7 @@ TEST_F(MultiPoint, refusedInfoFiles) {
     EXPECT_EQ(folder.names(), QStringList{"b_info.bin"});
 }
 
-TEST_F(MultiPoint, deletingTakesOneIndexMoreThanIsListed) {
+TEST_F(MultiPoint, DeletingRemovesOneIndexMoreThanListed) {
     Writer writer(false, true, false, false, false, false, false, false, false, false, true);
     ASSERT_TRUE(writer.beginResultWriting(base, twoPoints) && writer.beginFrequency(1) && writer.beginTimestep(1) &&
                 writer.beginTimestep(2) && writer.endResultWriting());
@@ -303,7 +303,7 @@ TEST_F(MultiPoint, deletingTakesOneIndexMoreThanIsListed) {
     EXPECT_TRUE(folder.has("b_transient_Ex_total_ts000.bin") && folder.has("b_transient_Ex_total_ts-1.bin"));
 }
 
-TEST_F(MultiPoint, deletingFromAFolderThatCannotBeListedTriesNames) {
+TEST_F(MultiPoint, DeletingFromAFolderThatCannotBeListedTriesNames) {
     const QByteArray path = folder.path("").toLocal8Bit();
     for (const int numTimes : {2, 1 << 28}) {
         const auto writer = writerOf(1);

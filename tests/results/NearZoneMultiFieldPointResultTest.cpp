@@ -51,7 +51,7 @@ Header headerOf(const Group& group) {
     return {1, 2, 4, is(0), is(1), is(2), is(3), is(4), is(5), is(6)};
 }
 
-TEST(NearZoneMultiFieldPointResult, eachGroupHasItsBitAndItsPlace) {
+TEST(NearZoneMultiFieldPointResult, EachGroupHasItsBitAndItsPlace) {
     for (const Group& group : groups) {
         SCOPED_TRACE(group.flagWord);
         const Stream stream = streamOf();
@@ -78,7 +78,7 @@ TEST(NearZoneMultiFieldPointResult, eachGroupHasItsBitAndItsPlace) {
     }
 }
 
-TEST(NearZoneMultiFieldPointResult, allGroupsAndNone) {
+TEST(NearZoneMultiFieldPointResult, RecordsMayHaveAllGroupsOrNone) {
     for (const bool all : {false, true}) {
         const Stream stream = streamOf();
         Result result;
@@ -92,7 +92,7 @@ TEST(NearZoneMultiFieldPointResult, allGroupsAndNone) {
     }
 }
 
-TEST(NearZoneMultiFieldPointResult, refusedHeaders) {
+TEST(NearZoneMultiFieldPointResult, RefusesInvalidHeaders) {
     const QByteArray position(12, '\0');
     Result result;
     Header header;

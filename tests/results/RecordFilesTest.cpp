@@ -49,7 +49,7 @@ void checkCodec(const QByteArray& types, const typename Codec::Record& record) {
     EXPECT_EQ(all, std::vector<Record>{{}});
 }
 
-TEST(RecordCodec, bytesOfEachKind) {
+TEST(RecordCodec, EachKindHasItsBytes) {
     checkCodec<SystemRadiatedPower>("f", {1});
     checkCodec<SystemEigenMode>("ff", {{1, 2}});
     checkCodec<CircuitComponentVCTransient>("fff", CircuitComponentVCTransientRecord{1, 2, 3});
@@ -64,7 +64,7 @@ TEST(RecordCodec, bytesOfEachKind) {
     checkCodec<AveragedSarStatistics>("fiiiffiiiiii", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
 }
 
-TEST(RecordCodec, recordThatEndsEarlyKeepsWhatWasThereAndIsReadOnceItIsWhole) {
+TEST(RecordCodec, TruncatedRecordIsReadOnceItIsComplete) {
     const ResultFolder folder;
     DataFileReader reader;
     ASSERT_TRUE(reader.open(folder.put("file", countingUp("ffff").left(15))));
@@ -76,7 +76,7 @@ TEST(RecordCodec, recordThatEndsEarlyKeepsWhatWasThereAndIsReadOnceItIsWhole) {
     EXPECT_EQ(record, (IncidentPlaneWaveFieldsInstantaneous::Record{1, 2, 3, 4}));
 }
 
-TEST(FileHeader, bytes) {
+TEST(FileHeader, HasItsBytes) {
     const ResultFolder folder;
     DataFileWriter writer;
     ASSERT_TRUE(writer.open(folder.path("file"), "wb"));
@@ -92,7 +92,7 @@ TEST(FileHeader, bytes) {
     EXPECT_EQ(header, FileHeader(13, 1));
 }
 
-TEST(SystemDissipatedPower, headerSaysHowManyValuesARecordHas) {
+TEST(SystemDissipatedPower, HeaderDeterminesTheNumberOfValues) {
     const ResultFolder folder;
     SystemDissipatedPower file;
     DataFileWriter writer;

@@ -44,7 +44,7 @@ struct SarFile : testing::Test {
     QString error, warning;
 };
 
-TEST_F(SarFile, bytesOfEachPlane) {
+TEST_F(SarFile, EachPlaneHasItsBytes) {
     struct Row {
         SARPlane::Plane plane;
         const char* code;
@@ -75,7 +75,7 @@ TEST_F(SarFile, bytesOfEachPlane) {
     }
 }
 
-TEST_F(SarFile, refusedFilesAndPlanes) {
+TEST_F(SarFile, RefusesInvalidFilesAndPlanes) {
     const QByteArray good = plane(1, record);
     EXPECT_EQ(read(QFileInfo(folder.put("f", good)).fileName()).size(), 1U);
     const auto begins = [&](int offset, char byte) {
@@ -96,7 +96,7 @@ TEST_F(SarFile, refusedFilesAndPlanes) {
     EXPECT_FALSE(folder.has("new"));
 }
 
-TEST_F(SarFile, combiningTakesAsManyRecordsAsAFileSays) {
+TEST_F(SarFile, CombiningTakesTheStatedNumberOfRecords) {
     const QByteArray other = QByteArray::fromHex("07000000 08000000 000080bf");
     folder.put("a", plane(2, record + other + other));
     folder.put("b", plane(0, record));
@@ -113,7 +113,7 @@ TEST_F(SarFile, combiningTakesAsManyRecordsAsAFileSays) {
     EXPECT_EQ(folder.bytes("c").toHex(), plane(2, record + record).toHex()) << "a link stays one";
 }
 
-TEST_F(SarFile, failedCombinationsKeepWhatIsJoinedOrChangeNothing) {
+TEST_F(SarFile, FailedCombinationsKeepJoinedRecordsOrChangeNothing) {
     const QString a = folder.put("%2a", plane(1, record));
     const QString output = folder.put("out", "earlier");
     const QString incompatible = "Incompatible plane data found when combining output file '%1' into '%2'.";
@@ -128,11 +128,11 @@ TEST_F(SarFile, failedCombinationsKeepWhatIsJoinedOrChangeNothing) {
         QByteArray output = "earlier";
     };
     const Row rows[] = {
-        {"another plane", start("010000000900000000000000"), incompatible, "unavailable"},
-        {"another index", start("020000000800000000000000"), incompatible, "unavailable"},
-        {"an empty file", "", unopened, "unavailable"},
-        {"a short file", plane(2, record + record).chopped(1), corrupt, "incomplete", plane(3, record + record)},
-        {"too large a number", tooMany + record, corrupt, "incomplete", tooMany + record + record},
+        {"AnotherPlane", start("010000000900000000000000"), incompatible, "unavailable"},
+        {"AnotherIndex", start("020000000800000000000000"), incompatible, "unavailable"},
+        {"AnEmptyFile", "", unopened, "unavailable"},
+        {"AShortFile", plane(2, record + record).chopped(1), corrupt, "incomplete", plane(3, record + record)},
+        {"TooLargeANumber", tooMany + record, corrupt, "incomplete", tooMany + record + record},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -164,7 +164,7 @@ TEST_F(SarFile, failedCombinationsKeepWhatIsJoinedOrChangeNothing) {
     EXPECT_EQ(folder.bytes("%2a"), plane(1, record));
 }
 
-TEST_F(SarFile, combiningReportsHowManyRecordsAreJoinedUntilItIsStopped) {
+TEST_F(SarFile, CombiningReportsJoinedRecordsUntilStopped) {
     const QString a = folder.put("a", start("0200000009000000a0860100") + record.repeated(100000));
     const QString output = folder.put("out", "earlier");
     for (const bool continues : {false, true}) {
@@ -181,7 +181,7 @@ TEST_F(SarFile, combiningReportsHowManyRecordsAreJoinedUntilItIsStopped) {
               "Combining into SAR output file '" + output + "' was stopped.SAR data will be unavailable on disk.");
 }
 
-TEST_F(SarFile, aDiskThatFillsUpLeavesTheWholeRecordsThatFit) {
+TEST_F(SarFile, FullDiskLeavesTheCompleteRecordsThatFit) {
     folder.put("a", plane(9, record.repeated(9)));
     const QString output = folder.put("out", "earlier");
     for (const rlim_t room : {28 + 2 * 12 + 5, 28, 27}) {
@@ -192,7 +192,7 @@ TEST_F(SarFile, aDiskThatFillsUpLeavesTheWholeRecordsThatFit) {
 }
 
 #ifdef Q_OS_LINUX
-TEST_F(SarFile, fullDiskIsSeenBeforeCombiningSucceeds) {
+TEST_F(SarFile, FullDiskMakesCombiningFail) {
     folder.put("a", plane(1, record));
     EXPECT_FALSE(combine({"a"}, "/dev/full"));
     EXPECT_EQ(error, "Failed to write data to SAR output file '/dev/full'.");
@@ -201,7 +201,7 @@ TEST_F(SarFile, fullDiskIsSeenBeforeCombiningSucceeds) {
 }
 
 // Of a file with holes, which takes no room.
-TEST_F(SarFile, numbersOfRecordsMayNotAddUpToMoreThanAnInteger) {
+TEST_F(SarFile, RefusesATotalBeyondTheRangeOfInt) {
     folder.put("a", start("0200000009000000ffffff7f"));
     if (!QFile::resize(folder.path("a"), 28 + 12LL * 0x7FFFFFFF)) GTEST_SKIP() << "no holes in files here";
     EXPECT_FALSE(combine({"a", "a"}, folder.path("out")));
