@@ -1,5 +1,5 @@
-// A text and a script of operations on it: the first bytes choose the operations, the rest is the text. Every operation
-// ends, and a stream over a device gives what one over a string gives.
+// The first bytes of the input choose operations, the rest is the text on which they are performed. Every operation
+// must end, and a device stream must give the same results as a string stream.
 
 #include <QTextStream>
 #include <algorithm>

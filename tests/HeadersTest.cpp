@@ -1,5 +1,5 @@
-// The public headers in C++20, where a comparison also tries the operators with their sides exchanged, and with
-// warnings that users of the headers may have turned on.
+// Compiles the public headers in C++20, where a comparison also considers operators with exchanged operands, and with
+// warnings that users of the headers may enable.
 
 namespace quarn {
 class FarZoneRotation;

@@ -11,7 +11,7 @@ using namespace blocktext;
 const struct {
     const char* behaviour;
     Unknown unknown;
-    QString content, outcome;  // the outcome: the numbers read, whether the walk was complete, and what is left
+    QString content, outcome;  // the outcome: the numbers read, whether the walk was complete, and the rest of the stream
 } rows[] = {
     {"LineIsDropped", Unknown::DropLine, "number 1 foo number 2; number 3; end_<A>; z;", "1 3 complete {z}"},
     {"WordIsDropped", Unknown::DropWord, "number 1 foo number 2; number 3; end_<A>; z;", "1 2 3 complete {z}"},

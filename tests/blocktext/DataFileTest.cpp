@@ -64,7 +64,7 @@ TEST_F(DataFile, ReaderMovesToPositions) {
     EXPECT_EQ(reader.tell(), 1);
     EXPECT_TRUE(reader.seek(20));
     EXPECT_FALSE(reader.read(digit));
-    EXPECT_TRUE(reader.seek(9) && reader.read(digit)) << "the end of the file is forgotten";
+    EXPECT_TRUE(reader.seek(9) && reader.read(digit)) << "seeking back clears the end-of-file state";
 }
 
 TEST_F(DataFile, WriterMovesToPositions) {
@@ -74,7 +74,7 @@ TEST_F(DataFile, WriterMovesToPositions) {
     EXPECT_TRUE(put('a') && put('b') && put('c') && writer.seek(1) && put('B') && writer.skip(2) && put('e'));
     EXPECT_FALSE(writer.seek(-1));
     EXPECT_TRUE(writer.flush());
-    EXPECT_EQ(bytes(), QByteArray("aBc\0e", 5)) << "of a file that is still open";
+    EXPECT_EQ(bytes(), QByteArray("aBc\0e", 5)) << "flushed while the file is open";
 }
 
 TEST_F(DataFile, OpeningAgainClosesFirst) {

@@ -7,8 +7,8 @@
 namespace quarn::test {
 namespace {
 
-// Signs and bases, reals, words, things that follow a number at once, the ends of the integers, numbers that are longer
-// than they need to be, and characters that are not ASCII. U+00A0 and U+2009 count as white space.
+// Signs and bases, reals, words, numbers with characters directly behind them, the limits of the integers, numbers with
+// superfluous digits, and non-ASCII characters. U+00A0 and U+2009 count as white space.
 const QString tokens =
     "0 -0 7 +7 -7 --7 - + 007 010 -010 08 0x1F -0X1f 0b101 0b2 0x 1e5 1E5 1e+5 1e-5 1e 1e+ e5 .5 -.5 5. 5.e3 5.25 "
     "1.5.2 . "
@@ -50,7 +50,7 @@ TYPED_TEST(NumberReading, KeepsTheValueWhenThereIsNoNumber) {
     }
 }
 
-// What goes is the character whose code is the index of the first CR, then that of the first LF.
+// Removes the characters whose code is the index of the first CR, then likewise for the first LF.
 TEST(TextValues, StrippingRemovesCharactersByTheIndexOfLineEnds) {
     const auto stripped = [](QString text) {
         v6ProjectFile::StripEscapeCharacters(text);

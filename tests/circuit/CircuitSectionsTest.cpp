@@ -8,12 +8,12 @@ using Component = CircuitComponent;
 using Line = Component::ImpedanceLine;
 using PinGroup = Component::PinGroup;
 
-// A project file whose run parameters are boundaries and `run`; both in short form.
+// A project file whose run parameters are boundaries and `run`, which is in short form.
 QString fileOf(const QString& run) {
     return expanded("Version 8; FDTDProject{ RunParameters{ OuterBoundaries{ } " + run + "} }");
 }
 
-// The run parameters behind the boundaries, as they are saved.
+// The saved run parameters behind the boundaries.
 QString savedSections(v6ProjectFile& project) {
     const QString text = saved(project), before = "end_<OuterBoundaries>\n";
     const int begin = text.indexOf(before) + before.size();
@@ -114,7 +114,7 @@ std::vector<Line> lines() {
     return all;
 }
 
-// What `components` and `ports` say, by way of the classes.
+// Sets through the classes what `components` and `ports` state as text.
 void describeComponents(v6ProjectFile& project) {
     constexpr auto positive = Component::Positive, negative = Component::Negative;
     Component base("Feed 1 Ω", {{0.1, -2, 0}, {1.0 / 3, 1e-9, 5}}, {}, 0, 1, 2, Component::Z, true);
@@ -207,7 +207,7 @@ TEST(CircuitSections, StaticVoltagesNeedNoManager) {
     EXPECT_EQ(savedSections(project), expanded(section + "WaveGuidePorts{ } "));
 }
 
-// Text that ends anywhere, in a word too, loads what it can.
+// Text that ends anywhere, even within a word, is loaded as far as possible.
 TEST(CircuitSections, LoadsTextTruncatedAnywhere) {
     const QString text = fileOf(components + ports);
     for (int size = 0; size < text.size(); size += 3) {
@@ -231,7 +231,7 @@ TEST(CircuitSections, LaterBlocksReplaceOnlyThoseOfTheSameLoad) {
     EXPECT_NE(project.getStaticVoltageList(), &ownVoltages);
     EXPECT_EQ(project.getComponentManager()->getNumberOfComponents(), 1U);
     EXPECT_EQ(project.getWaveGuidePortManager()->getNumberOfPorts(), 2U);
-    EXPECT_EQ(ownManager.getComponent(0)->getComponentName(), "own") << "nobody deleted it";
+    EXPECT_EQ(ownManager.getComponent(0)->getComponentName(), "own") << "the caller's manager was not deleted";
 }
 
 TEST(CircuitSections, ClearedComponentsAndPortsStayAlive) {
@@ -292,7 +292,7 @@ TEST(CircuitSections, TheLastActiveRecordIsTheActivePort) {
     }
 }
 
-// A record as it is saved when only its kind was given.
+// The saved form of a record that gives only its kind.
 QString record(const QString& kind, const QString& cell = "XLocation 1; YLocation 1; ZLocation 1; ",
                const QString& roles = "TermType InputOutput; Calibration KeepSelfKeepMutual; ") {
     return "FeedData{ ComponentName noname; " + cell + "FileName ; " + kind + roles + "} ";

@@ -36,7 +36,7 @@ struct Difference {
     std::string report;
 };
 
-// Each difference alone gives its report. Made together, the first in the table is the one that is reported.
+// Each difference alone gives its report. Of several differences, the first in the table is reported.
 template <class T, std::size_t count>
 void expectReports(const T& original, const Difference<T> (&differences)[count]) {
     T all = original;
@@ -244,7 +244,7 @@ TEST(ComponentNames, AreDerivedFromFileNames) {
     EXPECT_EQ(name("port_Feed 1_v.dat"), "Feed 1 ");
     EXPECT_EQ(name("a_b_c_d"), "b c ");
     EXPECT_EQ(name("_x_"), "x ");
-    EXPECT_EQ(name("a__b"), " ") << "an empty part counts, and is not an empty name";
+    EXPECT_EQ(name("a__b"), " ") << "an empty part still makes a name";
     const auto phrases = QString(
                              "passive load |voltage source |current source |switch |nonlinear capacitor |diode |"
                              "lumped component |S-parameter block |")
@@ -269,7 +269,7 @@ TEST(ComponentGeometry, ListsPointsOfImpedanceLines) {
     expectPoints(Line::Coaxial, {{1, 2, 3}, {0, 0, 1}});
     expectPoints(Line::Bundle, {{1, 0, 0}, {2, 0, 0}, {3, 0, 0}, {4, 0, 0.1}});
     expectPoints(Line::MultiPin, {{1, 2, 3}, {0.1, -2, 1234567}});
-    EXPECT_EQ(component.getAllPointsOfImpedanceLine(0), std::vector<Point>(2)) << "its nodes are no end points";
+    EXPECT_EQ(component.getAllPointsOfImpedanceLine(0), std::vector<Point>(2)) << "its nodes are not end points";
 }
 
 TEST(ComponentGeometry, ExtentAndPinGroupsDependOnTheLines) {

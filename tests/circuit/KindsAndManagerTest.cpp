@@ -89,7 +89,7 @@ TEST(ComponentKinds, SwitchTransitionsAreChecked) {
     EXPECT_EQ(check({}, Engine::FEM), QStringList(switchEngine));
     EXPECT_EQ(check({}), QStringList(noTransition));
     EXPECT_EQ(check({{-5, -5}}), QStringList());
-    EXPECT_EQ(check({{10, 5}, {15, 3}}), QStringList(overlap)) << "the start is where the one before ends";
+    EXPECT_EQ(check({{10, 5}, {15, 3}}), QStringList(overlap)) << "the start equals the end of the previous transition";
     EXPECT_EQ(check({{10, 5}, {16, 3}}), QStringList());
     EXPECT_EQ(check({{10, 5}, {10, 1}}), QStringList(order));
     EXPECT_EQ(check({{10, -5}, {10, 1}}), QStringList(order));
@@ -143,7 +143,8 @@ TEST(ComponentManager, FailedInsertionsLeaveTheListUnchanged) {
     EXPECT_EQ(thrownBy([&] { manager.insert(&p2, false); }), "invalid order of quarn circuit components");
     EXPECT_EQ(namesOf(manager), (QStringList{"A", "P1"}));
     manager.insert(&umlaut, false);
-    EXPECT_EQ(namesOf(manager), (QStringList{"A", "P1", "Ö"})) << "no port: no matter what the order is";
+    EXPECT_EQ(namesOf(manager), (QStringList{"A", "P1", "Ö"}))
+        << "any order is accepted for components that are not ports";
     EXPECT_EQ(thrownBy([&] { manager.insert(&p1Again, true); }),
               "Unable to insert new circuit component: name <P1> is not unique");
     EXPECT_EQ(thrownBy([&] { manager.insert(&umlaut, true); }),
@@ -181,13 +182,13 @@ TEST(ComponentManager, NonlinearCapacitorsAreFoundByCaching) {
     Manager manager({}, false, -1);
     manager.insert(&capacitor, false);
     EXPECT_TRUE(manager.hasAnyOfType(Component::NonLinearCapacitor) && !manager.hasNonlinearCapacitor());
-    EXPECT_TRUE(Manager(manager).hasNonlinearCapacitor()) << "a copy looks anew";
+    EXPECT_TRUE(Manager(manager).hasNonlinearCapacitor()) << "a copy updates its answers";
     Manager assigned({}, true, 3);
     assigned = manager;
     EXPECT_FALSE(assigned.hasNonlinearCapacitor() || assigned.computeSParameters());
     manager.cacheVariables();
     manager.clearComponents();
-    EXPECT_TRUE(manager.hasNonlinearCapacitor()) << "as it was";
+    EXPECT_TRUE(manager.hasNonlinearCapacitor()) << "clearing does not update the answer";
 }
 
 TEST(ComponentManager, SParametersLeaveOneFeedActive) {
@@ -214,7 +215,7 @@ TEST(ComponentManager, ActivePortCountsNullPointers) {
     }
 }
 
-// What is found with the port beside an active feed of 50 ohms, 2 H and 3 F, or of 50 ohms alone.
+// The findings for a port beside an active feed of 50 ohms, `l` and `c`.
 QStringList portFindings(Component& port, float l = 0, float c = 0) {
     Feed feed = feedOf("active", 50, l, c);
     return findingsOf(Manager({&feed, &port}, true, 0), Engine::FDTD);
@@ -231,12 +232,12 @@ TEST(ComponentManager, ComparesPortImpedancesWithTheActiveFeed) {
     EXPECT_EQ(load(50, 0, 3, 0, 0), (QStringList{reactance, mismatch}));
     EXPECT_EQ(load(50, 2, 3, 2, 3), QStringList(reactance));
     EXPECT_EQ(load(50, 0, 0, 2, 3), (QStringList{reactance, mismatch})) << "the active feed is reactive itself";
-    EXPECT_EQ(load(75, 2, 3, 0, 0, false), QStringList()) << "no port";
+    EXPECT_EQ(load(75, 2, 3, 0, 0, false), QStringList()) << "not a port";
     const auto feed = [](float r, float l, float c) {
         Feed port = feedOf("p", r, l, c);
         return portFindings(port, 2, 3);
     };
-    EXPECT_EQ(feed(50, 8, 9), QStringList(reactance)) << "one value in common is enough for a feed";
+    EXPECT_EQ(feed(50, 8, 9), QStringList(reactance)) << "a feed needs only one common value";
     EXPECT_EQ(feed(75, 2, 9), QStringList(reactance));
     EXPECT_EQ(feed(75, 8, 3), QStringList(reactance));
     EXPECT_EQ(feed(75, 8, 9), (QStringList{reactance, mismatch}));
@@ -262,7 +263,7 @@ TEST(ComponentManager, WarnsAboutKindsThatAreUnsuitableAsPorts) {
         (QStringList{
             reactance, mismatch, doubtful.arg("Switch"), doubtful.arg("Nonlinear Capacitor"), doubtful.arg("Diode")}) +
             own)
-        << "each once, in this order, and then the components' own";
+        << "each once, in this order, followed by the findings of the components";
     EXPECT_EQ(findingsOf(all, Engine::FEM), (QStringList{diodeEngine, diodeEngine, switchEngine, negativeC}));
 }
 
@@ -284,7 +285,7 @@ TEST(ComponentManager, ComparesNothingWithoutAValidActiveFeed) {
     EXPECT_EQ(findingsOf(Manager({&other, &load}, true, 0), Engine::FDTD), QStringList(inactive));
     Manager stale({&load}, false, -1);
     load = loadOf("n", -1, 0, 0, false);
-    EXPECT_EQ(findingsOf(stale, Engine::FDTD), QStringList(negativeR)) << "the ports were counted before";
+    EXPECT_EQ(findingsOf(stale, Engine::FDTD), QStringList(negativeR)) << "the ports were counted before the change";
 }
 
 TEST(StaticVoltages, ThresholdsAreCheckedExceptForFDTD) {

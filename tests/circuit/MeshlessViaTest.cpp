@@ -53,7 +53,7 @@ TEST_F(MeshlessViaFile, HasItsBytes) {
     EXPECT_TRUE(list.empty()) << "the list is replaced";
 }
 
-// The input of a pipe: no position to ask for.
+// Input like that of a pipe, which has no position.
 struct Pipe : std::streambuf {
     explicit Pipe(std::string text) : m_text(std::move(text)) {
         setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
@@ -85,7 +85,7 @@ TEST_F(MeshlessViaFile, FailuresHaveMessagesAndLeaveTheListEmpty) {
     const std::string content = "Unable to read meshless vias";
     struct Row {
         std::string name, bytes, message;
-        std::uint64_t count;  // as the counter reads it; its message where it cannot
+        std::uint64_t count;  // the result of getNbMeshlessVias
     };
     const Row rows[] = {
         {"Empty", "", order, 0},

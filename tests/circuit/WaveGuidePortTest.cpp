@@ -35,7 +35,7 @@ TEST(WaveGuidePortManager, KeepsPortsSortedByWaveguideAndMode) {
     EXPECT_EQ(keysOf(manager), before);
 }
 
-// A loaded list may have such ports.
+// A loaded list may contain such ports.
 TEST(WaveGuidePortManager, InsertionKeepsTheLastOfListedPortsWithEqualNumbers) {
     WaveGuidePort first = portOf(2, 1), second = portOf(2, 1), other = portOf(1, 1);
     WaveGuidePortManager manager({&first, &second});
@@ -43,7 +43,7 @@ TEST(WaveGuidePortManager, InsertionKeepsTheLastOfListedPortsWithEqualNumbers) {
     EXPECT_EQ(manager.getNumberOfWaveguidePorts(), 2U) << "unchanged";
     manager.insert(&other);
     EXPECT_EQ(manager.getWaveguidePorts(), (std::vector<WaveGuidePort*>{&other, &second}));
-    EXPECT_EQ(findingsOf(manager, Engine::FDTD), QStringList()) << "as many as were counted";
+    EXPECT_EQ(findingsOf(manager, Engine::FDTD), QStringList()) << "the count still holds";
     WaveGuidePort third = portOf(3, 1);
     WaveGuidePortManager doubled({&first, &second, &second});
     doubled.insert(&third);

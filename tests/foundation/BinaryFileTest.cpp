@@ -36,7 +36,7 @@ Stream streamOf(const Bytes& bytes) {
     return stream;
 }
 
-// The bytes that a value becomes, that become the value, and of which none may miss.
+// The value is written as the bytes and read from them, and from one byte less it is not.
 template <class T>
 void expectBytes(const T& value, const Bytes& bytes, bool write(const T&, std::FILE*), bool read(T&, std::FILE*)) {
     const Stream written(std::tmpfile());
@@ -48,9 +48,9 @@ void expectBytes(const T& value, const Bytes& bytes, bool write(const T&, std::F
     found = {};
     const Stream tooShort = streamOf({bytes.begin(), bytes.end() - 1});
     EXPECT_FALSE(read(found, tooShort.get()));
-    EXPECT_TRUE(std::feof(tooShort.get())) << "every byte is tried";
+    EXPECT_TRUE(std::feof(tooShort.get())) << "reading must reach the end of the file";
     EXPECT_FALSE(read(found, nullptr));
-    EXPECT_EQ(found, T()) << "changed by a number that is not all there";
+    EXPECT_EQ(found, T()) << "an incomplete number must not change the value";
     EXPECT_FALSE(write(value, Stream(std::fopen("/dev/null", "rb")).get()));
     EXPECT_FALSE(write(value, nullptr));
 }
@@ -74,7 +74,7 @@ TEST(BinaryFile, SupportsTheReversedByteOrder) {
     expectBytes<long long>(0x0102030405060708, {1, 2, 3, 4, 5, 6, 7, 8}, writeScalar<reversed>, readScalar<reversed>);
 }
 
-// Of an odd length, so that numbers lie across the ends of the stream's buffer; unbuffered, line-buffered, and tiny.
+// The odd length makes numbers cross the ends of the stream's buffer, which is also tiny, line-buffered or absent.
 TEST(BinaryFile, MovesNumbersAcrossAnyBuffer) {
     const std::pair<int, std::size_t> buffers[] = {
         {_IOFBF, 4096}, {_IOFBF, 16}, {_IOFBF, 3}, {_IOLBF, 64}, {_IONBF, 0}};
@@ -102,7 +102,7 @@ TEST(BinaryFile, MovesNumbersAcrossAnyBuffer) {
 
 class OpenFile : public testing::Test {
 protected:
-    // The path of a file in the test's folder, brought to a length by slashes.
+    // The path of a file in the test's folder, extended to a length by slashes.
     QString path(int length) const {
         return m_folder.path() + QString(length - m_folder.path().size() - 1, QLatin1Char('/')) + "f";
     }
@@ -155,7 +155,7 @@ TEST_F(OpenFile, RetriesUntilTheMaximumWait) {
     EXPECT_EQ(both, 5);
 }
 
-// Each wait is twice the one before, so that the sum is one less than a power of two.
+// Each wait is twice the previous one, so that the sum is one less than a power of two.
 TEST_F(OpenFile, RetriesUntilTheFileIsThere) {
     const QString late = m_folder.filePath("late");
     std::thread other([&] {

@@ -23,7 +23,7 @@ TEST(Vector3D, DivisionByZeroChangesNothing) {
     EXPECT_EQ(Vector3D().normalize().getX(), 0);
 }
 
-// Each cell with those behind it: the order is that of the list.
+// Compares each cell with each other one: their order is that of the list.
 TEST(Ivec3, OrdersByXThenYThenZ) {
     const ivec3 ascending[] = {{-5, 9, 9}, {1, -2, 3}, {1, 2, 3}, {1, 2, 4}, {1, 5, 0}, {2, 0, 0}};
     for (const ivec3& a : ascending) {

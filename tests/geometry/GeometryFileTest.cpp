@@ -55,7 +55,7 @@ void PrintTo(const Reading& row, std::ostream* out) { *out << row.name; }
 
 class GeometryReading : public testing::TestWithParam<Reading> {};
 
-// Both texts are blocks of a file.
+// Both texts are blocks of a geometry file.
 TEST_P(GeometryReading, GivesTheSameFileAsTheEquivalentText) {
     const auto canonical = [](const QString& blocks) {
         v6GeometryFile file;
@@ -270,7 +270,7 @@ TEST(GeometryFile, PhysicalParametersOutliveTheirFile) {
     EXPECT_EQ(fromCopy.getPhysicalParameters()->getDensity(), 3.0F);
     EXPECT_EQ(*second.getElectricMaterials()[1]->getPhysicalParameters(), own);
     second.setElectricMaterials({});
-    EXPECT_EQ(*loaded, *fromLoad.getPhysicalParameters()) << "what was stored before is not deleted";
+    EXPECT_EQ(*loaded, *fromLoad.getPhysicalParameters()) << "the parameters stored before are not deleted";
 }
 
 class CountedWire : public ElectricThinWire {

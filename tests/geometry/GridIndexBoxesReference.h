@@ -19,8 +19,8 @@ inline std::vector<ivec3> cellsOf(const GridIndexBoxes::Box& box) {
     return cells;
 }
 
-/// Index boxes in the plainest way: recursion on copies, each cell tried for each box, the points in a list. For small
-/// numbers only.
+/// A simple reference for index boxes: it recurses on copies, tests each cell for each box and keeps all points in a
+/// list. For small numbers only.
 class ReferenceBoxes {
 public:
     explicit ReferenceBoxes(const std::set<ivec3>& cells) { bisect(cells); }

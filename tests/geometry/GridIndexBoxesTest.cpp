@@ -110,7 +110,7 @@ TEST(GridIndexBoxes, NumbersFollowTheOrderOfTheBox) {
     EXPECT_EQ(boxes.getPoint(22), ivec3(6, 8, 10));
 }
 
-// Clouds of all densities, in a cube, flat and long, and of clumps.
+// Point clouds of all densities, in cubic, flat and long regions, with clusters.
 TEST(GridIndexBoxes, BisectsLikeTheReference) {
     std::mt19937 random(1);
     const ivec3 sizes[] = {{8, 8, 8}, {30, 30, 1}, {1, 3, 200}, {2, 2, 2}, {40, 40, 40}};
@@ -132,7 +132,7 @@ TEST(GridIndexBoxes, BisectsLikeTheReference) {
     }
 }
 
-// Boxes that overlap, that hold nothing, and that are excluded completely; exclusions in several boxes and in none.
+// Overlapping, empty and completely excluded boxes; exclusions in several boxes and outside all boxes.
 TEST(GridIndexBoxes, ExcludesAndIntersectsLikeTheReference) {
     std::mt19937 random(2);
     for (int round = 0; round < 300; ++round) {
@@ -172,7 +172,8 @@ TEST(GridIndexBoxes, IntersectionWithNothingLeavesNothing) {
     EXPECT_EQ(boxes.getNumPoints(), 0);
 }
 
-// Bounding boxes of 2^33, 2^32, 2^32 and 2^96 cells: with 32 bits there would be none, with 64 none in the last.
+// Bounding boxes of 2^33, 2^32, 2^32 and 2^96 cells: a volume of 32 bits would overflow to 0, one of 64 bits in the
+// last.
 TEST(GridIndexBoxes, FarApartPointsMakeNoBox) {
     const Cells clouds[] = {{{0, 0, 0}, {1, 1, 1}, {2047, 2047, 2047}},
                             {{0, 0, 0}, {0, 1, 1}, {0, 65535, 65535}},
@@ -188,7 +189,7 @@ TEST(GridIndexBoxes, FarApartPointsMakeNoBox) {
     EXPECT_EQ(dense.getPoint(2), ivec3(highest, 0, lowest + 2));
 }
 
-// Cells beyond the largest int have no number, but stay known.
+// Cells beyond the largest int have no number, but remain in the set.
 TEST(GridIndexBoxes, HandlesBoxesWithMoreCellsThanIntegers) {
     const Box all({lowest, lowest, lowest}, {highest, highest, highest});
     const Exclusions exclusions = {{lowest, lowest, lowest + 1}, {0, 0, 0}, {5, 5, 5}, {highest, highest, highest}};
@@ -212,12 +213,13 @@ TEST(GridIndexBoxes, BoxesThatRepeatTooManyExclusionsAreRefused) {
     EXPECT_THROW(GridIndexBoxes(boxes, exclusions, {}), std::runtime_error);
 
     for (int z = 0; z < 3000; ++z) exclusions.emplace(5, 0, z);
-    EXPECT_THROW(GridIndexBoxes(boxes, exclusions, {}), std::runtime_error) << "exclusions in no box change nothing";
+    EXPECT_THROW(GridIndexBoxes(boxes, exclusions, {}), std::runtime_error)
+        << "exclusions outside all boxes do not raise the limit";
     std::vector<Box> more = boxes;
     more.push_back({{5, 0, 0}, {5, 0, 9999}});
     GridIndexBoxes withinLimit(more, exclusions, {});
     withinLimit.intersectBoundingBox({0, 0, 0}, {0, 0, 9999});
-    EXPECT_EQ(withinLimit.getNumPoints(), 1100 * 8900) << "what is kept was stored before and is stored again";
+    EXPECT_EQ(withinLimit.getNumPoints(), 1100 * 8900) << "intersecting stores no more exclusions than before";
 }
 
 TEST(GridIndexBoxes, MovedFromObjectIsEmptyAndUsable) {

@@ -11,7 +11,7 @@ namespace {
 
 using testing::ElementsAreArray;
 
-// One axis as the getters give it.
+// The x axis as returned by the getters.
 struct Axis {
     std::vector<double> electricNodes, magneticNodes;
     std::vector<float> electricDeltas, magneticDeltas;
@@ -61,7 +61,7 @@ const Layout layouts[] = {
      {{0, 0.1F}},
      {0.1F, 0.1F, 0.1F, 0.1F},
      {0, 0.10000000149011612, 0.20000000298023224, 0.30000001192092896}},
-    // Measured from node 2, not from the origin: 0.2 and 1 in double precision.
+    // Distances are measured from node 2, not from the origin: 0.2 and 1 in double precision.
     {"RunIsMeasuredFromItsBeginning",
      5,
      -1,
@@ -128,7 +128,7 @@ TEST(Grid, CopiesAreIndependent) {
     EXPECT_THAT(Axis(assigned).electricNodes, ElementsAreArray({5.0, 6.0}));
 }
 
-// Each pair of runs would fill the whole axis again if runs were filled as they come.
+// Filling the runs in the given order would fill the whole axis again for each pair of runs.
 TEST(Grid, FillsEachCellOnceForAlternatingRuns) {
     constexpr std::int32_t cells = 1000000;
     Grid::Runs runs;

@@ -59,7 +59,7 @@ QByteArray rewrittenVias(const QByteArray& bytes) {
     return QByteArray::fromStdString(output.str());
 }
 
-// The number of points, a range and the samples of the cut as lines of its format.
+// The number of points, a range and the samples of the cut, as lines of its format.
 QByteArray rewrittenCut(const QByteArray& bytes) {
     QTextStream input(bytes);
     NSMACutPlane cut;

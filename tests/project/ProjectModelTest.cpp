@@ -94,7 +94,7 @@ TEST(ProjectModel, ContentsAreDeletedOnceAndPointersReset) {
     deleteContents(project);
 }
 
-// The address sanitizer sees what is left.
+// The address sanitizer detects objects that are left.
 TEST(ProjectModel, CopiesAndTheirLoadedContentsAreDeleted) {
     OwningProject source;
     v6ProjectFile copy(source);
@@ -133,11 +133,11 @@ TEST(BoundaryConditionsModel, AnswersFollowTheTypesOfTheSides) {
     for (const int noSide : {-1, 6}) conditions.setBoundaryType(static_cast<BoundingBoxSide>(noSide), B::CPML);
     conditions.setBoundaryType(BoundingBoxSide::Top, B::PMC);
     EXPECT_EQ(conditions.getUpperZ(), B::PMC);
-    EXPECT_EQ(conditions.getBoundaryType(static_cast<BoundingBoxSide>(6)), B::PEC) << "as lower X";
+    EXPECT_EQ(conditions.getBoundaryType(static_cast<BoundingBoxSide>(6)), B::PEC) << "the type of lower X";
     EXPECT_FALSE(conditions.hasPMCBoundary()) << "the answer is cached";
     conditions.cacheVariables();
     EXPECT_TRUE(conditions.hasPMCBoundary());
-    EXPECT_FALSE(conditions.hasCPMLBoundary()) << "no side outside the box may have been set";
+    EXPECT_FALSE(conditions.hasCPMLBoundary()) << "invalid sides must be ignored";
     EXPECT_EQ(conditions.getPML_M() * 10 + conditions.getPML_Ma(), 42);
     EXPECT_TRUE(conditions.getPMLKappaMax() == 1 && conditions.getPMLAlphaMax() == 0);
 }

@@ -22,7 +22,7 @@ TEST(ProjectText, EverySectionIsWrittenInOrderAndReadBack) {
     }
 }
 
-// In short form: a project file with its three frames, and boundaries unless the run parameters bring their own.
+// A project file with its three blocks in short form, and with boundaries unless the run parameters contain them.
 const QString sides =
     "LowerX ORBC_CPML; UpperX ORBC_CPML; LowerY ORBC_CPML; UpperY ORBC_CPML; LowerZ ORBC_CPML; "
     "UpperZ ORBC_CPML; NumberOfPMLLayers 8; ";
@@ -196,7 +196,7 @@ TEST(ProjectText, FirstLineDeterminesTheVersion) {
     stream.setStatus(QTextStream::ReadCorruptData);
     unsigned major = 41, minor = 42;
     v6ProjectFile::getFileVersion(stream, major, minor);
-    EXPECT_EQ(major * 100 + minor, 4142U) << "a stream in error leaves both";
+    EXPECT_EQ(major * 100 + minor, 4142U) << "a stream in error leaves both unchanged";
 }
 
 TEST(ProjectText, OuterBlockNamesTheEngineAndIsTheOnlyOneRead) {
@@ -239,7 +239,7 @@ TEST(ProjectText, LoadResetsSomeSettingsAndKeepsOrExtendsOthers) {
     EXPECT_EQ(project.getWaveforms().size(), 2U);
     EXPECT_EQ(project.getSteadyStateFrequencies().size(), 2U);
     EXPECT_EQ(project.getTdAfsTerminationCriteria(), tdAfsCriteria);
-    EXPECT_EQ(project.getBoundaryConditions()->getFrequency(), 9.0F) << "of the waveform that was there";
+    EXPECT_EQ(project.getBoundaryConditions()->getFrequency(), 9.0F) << "the frequency of the earlier waveform";
 }
 
 TEST(ProjectText, LoadSetsMembersThatAreNotSaved) {
@@ -295,7 +295,7 @@ TEST(ProjectText, LoadsDeeplyNestedAndRepeatedBlocks) {
     const QString sections = golden.mid(run, golden.indexOf("UseTimestep") - run);
     const QString parameters = golden.mid(dft, golden.indexOf("SteadyStateStorage") - dft);
     load(repeated, QString(golden).insert(dft, parameters).insert(run, sections));
-    EXPECT_EQ(repeated.getWaveforms().size(), 12U) << "the other objects were replaced, and nobody else has them";
+    EXPECT_EQ(repeated.getWaveforms().size(), 12U) << "the other objects were replaced and must have been deleted";
 }
 
 TEST(ProjectText, FailedSaveWritesNothing) {
@@ -319,7 +319,7 @@ TEST(ProjectText, FailedSaveWritesNothing) {
     EXPECT_TRUE(project.saveToStream(stream)) << "true stands for an error";
 }
 
-// Loads a file with the bytes, which the load opens again as `reopened`, and returns its errors.
+// Loads a file with these bytes, which load() opens again at `reopened`, and returns the errors.
 QStringList loadFromFile(v6ProjectFile& project, const QByteArray& bytes, const QString& path, const QString& reopened,
                          bool loads) {
     QFile file(path);
@@ -340,7 +340,7 @@ void expectSavesAndLoadsFiles() {
     OwningProject project;
     describe(project);
     EXPECT_EQ(saved(project), golden);
-    EXPECT_FALSE(project.save(file.fileName(), stream, file)) << "always";
+    EXPECT_FALSE(project.save(file.fileName(), stream, file)) << "save always returns false";
     EXPECT_TRUE(!file.isOpen() && result.open(QIODevice::ReadOnly));
     const QByteArray bytes = result.readAll();
     EXPECT_EQ(bytes, golden.toUtf8());
@@ -351,7 +351,7 @@ void expectSavesAndLoadsFiles() {
     }
 }
 
-// The locale of a host application, its decimal comma and its 8-bit encoding must not reach the file.
+// The locale of a host application, its decimal comma and its 8-bit encoding must not affect the file.
 TEST(ProjectFiles, AreSavedAndLoadedInAnyLocale) {
     const std::string locale = std::setlocale(LC_ALL, nullptr);
     expectSavesAndLoadsFiles();

@@ -1,5 +1,5 @@
-// A sample of each kind of result file, cut off at each length, and with each byte of its header changed to every
-// other: what must be refused is, and of the records those are read that are there.
+// A sample of each kind of result file is truncated at each length, and each byte of its header is changed to every
+// other value. Invalid headers must be refused, and complete records must be read.
 
 #include <gtest/gtest.h>
 
@@ -80,7 +80,7 @@ int readInfo(const QString& path) {
     return reader.beginResultReading(path.chopped(9)) ? 0 : refused;
 }
 
-// Of a set whose other files are sound.
+// Reads a file of a result set whose other files are valid.
 template <class Read>
 int readFromSet(const QString& path, Read read) {
     const QString base = path.section('/', 0, -2) + "/b";

@@ -20,7 +20,7 @@ FarZoneBox boxWith(const Types& t, std::uint32_t x, std::uint32_t y, std::uint32
     return {BoundaryConditions(t[0], t[1], t[2], t[3], t[4], t[5], 8), grid};
 }
 
-// A face that stands on an axis: the type of which side is PEC, the indices of that axis, the coordinate of the centre.
+// A face on a PEC side: the types of the sides, the node indices of the faces and the coordinate of the centre.
 struct ImageRow {
     FarZoneBox::Face face;
     std::size_t side;

@@ -17,7 +17,7 @@ constexpr double millisecond = 1e6;
 
 Clock::time_point theTime;
 Clock::time_point theSameTime() { return theTime; }
-/// Makes a report of every look at the clock.
+/// A clock that makes every check produce a report.
 Clock::time_point aMinuteLater() { return theTime += std::chrono::minutes(1); }
 
 TEST(FarZoneProgress, ReportsAShareOfTheKnownWorkOnceFiftyMillisecondsHavePassed) {

@@ -7,7 +7,7 @@
 
 #include "results/FarZoneSurface.h"
 
-/// The far-zone sums written down as they are defined: every cell by itself, in double precision.
+/// The far-zone sums by their definition: cell by cell, in double precision.
 namespace quarn::test {
 
 inline double sinc(double x) { return x == 0.0 ? 1.0 : std::sin(x) / x; }
@@ -41,10 +41,10 @@ inline farzone::FaceSums referenceSums(const farzone::Surface& surface, double w
     return sums;
 }
 
-/// A surface with its own samples, which are waves of a few directions with noise on them: a face then has a peak.
+/// A surface with its own samples: waves of a few directions with noise, so that the sums of a face have a peak.
 class SampledBox {
 public:
-    /// Sizes of the cells along x, y and z; the lower corner stands at `corner`.
+    /// Sizes of the cells along x, y and z; the lower corner lies at `corner`.
     SampledBox(const std::array<std::vector<double>, 3>& sizes, const farzone::Vector& corner, double waveNumber) {
         for (std::size_t axis = 0; axis < farzone::numAxes; ++axis) place(axis, sizes[axis], corner[axis]);
         std::mt19937 random(1);

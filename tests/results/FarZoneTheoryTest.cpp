@@ -1,5 +1,5 @@
-// Far fields of sources that are known in closed form, from their near fields on the box: pattern, absolute level and
-// phase. Only the size of the cells keeps the two apart.
+// Compares far fields computed from the near fields of sources on the box with the closed form: pattern, absolute level
+// and phase. They differ only by the discretization.
 
 #include <gmock/gmock.h>
 
@@ -27,7 +27,8 @@ Grid evenGrid(float size, float length) {
     return grid;
 }
 
-// Fine in the middle and coarse outside, more so towards higher coordinates: the box's centre is not midway.
+// Fine cells in the middle and coarser ones outside, more so towards higher coordinates, so that the centre of the box
+// is not in its middle.
 Grid gradedGrid(float size, float length) {
     const auto cells = static_cast<std::int32_t>(std::lround(length / size));
     const Grid::Runs runs{{0, 1.5F * size}, {cells / 4, size}, {cells / 2, 2 * size}};
@@ -37,7 +38,7 @@ Grid gradedGrid(float size, float length) {
     return grid;
 }
 
-// From the middle of the grid.
+// The position relative to the middle of the grid.
 Vector at(const ExactRun& run, double x, double y, double z) {
     double low[3], high[3];
     run.grid().getUserBoundingBox(low[0], high[0], low[1], high[1], low[2], high[2]);
@@ -89,11 +90,11 @@ protected:
     }
 };
 
-// What the middle of a cell has more than the mean over the cell, for a wave along the face: 1 - sin(a) / a of half the
-// phase across it.
+// The excess of the field in the middle of a cell over its mean, for a wave along the face: 1 - sin(a) / a, where a is
+// half the phase across the cell.
 double boundForCells(double size) { return std::pow(waveNumber * size, 2) / 24.0; }
 
-// Half the size leaves a quarter of the deviation.
+// Halving the cell size divides the deviation by four.
 TEST_P(FarFieldOfSource, ConvergesToTheClosedFormWithFinerCells) {
     const double largestRatio = GetParam().grid == gradedGrid ? 2.0 : 1.0;
     const double coarse = deviationForCells(0.05F);
@@ -145,14 +146,14 @@ const SourceRow sourceRows[] = {
 };
 INSTANTIATE_TEST_SUITE_P(, FarFieldOfSource, testing::ValuesIn(sourceRows), rowName<SourceRow>);
 
-// Image theory: the plane mirrors an electric dipole with its part along the plane reversed, a magnetic one with its
-// part across the plane reversed.
+// Image theory: the image of an electric dipole has its component along the plane reversed, that of a magnetic dipole
+// its component across the plane.
 class FarFieldOverPlane : public testing::TestWithParam<FarZoneBox::Face> {
 protected:
     std::size_t axis = GetParam() % 3;
     double upwards = GetParam() < FarZoneBox::XUpper ? 1.0 : -1.0;
 
-    /// Where the plane stands comes from the run; the source is at a height above it.
+    /// The run determines the position of the plane; the source is at a height above it.
     template <class Dipole>
     void addOverPlane(Sources& sources, const ExactRun& run, const ComplexVector& moment) const {
         const double acrossSign = std::is_same_v<Dipole, ElectricDipole> ? 1.0 : -1.0;

@@ -1,4 +1,4 @@
-// The two ways of summing over the faces of a box against the sum over single cells.
+// Compares the two methods of summing over the faces of a box with the sum over single cells.
 
 #include "results/FarZoneTransform.h"
 
@@ -119,7 +119,7 @@ std::vector<FarField> fieldsBy(Method method, const Surface& surface, const std:
     return fields;
 }
 
-// The plane stands off the centre, so that the image's path counts; fields are of the order of 1000 V.
+// The plane lies off the centre, so that the path of the image matters; fields are of the order of 1000 V.
 TEST(FarZoneTransform, GivesTheSameImageByBothMethods) {
     SampledBox box(shapes[1].sizes, shapes[1].corner, twoPi);
     const std::vector<Direction> directions = randomDirections(100);
@@ -181,7 +181,7 @@ const Choice choices[] = {
 };
 INSTANTIATE_TEST_SUITE_P(, FarZoneMethod, testing::ValuesIn(choices), rowName<Choice>);
 
-// A place or a size that is no number makes fields that are none, by whatever way.
+// A NaN position or size gives NaN fields with either method.
 TEST(FarZoneTransform, DoesNotSampleCellsWithoutAFinitePlace) {
     SampledBox box(shapes[0].sizes, shapes[0].corner, twoPi);
     box.surface().axes[1].middles[3] = std::numeric_limits<double>::quiet_NaN();

@@ -1,5 +1,5 @@
-// Writers of every format on a disk that is full and in folders that are not there, closed, or do not let a file be
-// replaced: each says that it failed, and those that choose how to write leave an earlier file as it was.
+// Writers of every format on a full disk and in folders that are missing, closed or do not allow a file to be replaced:
+// each reports the failure, and those that use a FileReplacement leave an earlier file unchanged.
 
 #include <gtest/gtest.h>
 
@@ -55,7 +55,7 @@ bool writesSarPlane(const QString& path) {
     return writer.endResultWriting() && isWritten;
 }
 
-// Made before anything stands in the way, where everybody can read it.
+// Created before any fault is active, and readable by everybody.
 const QString& sarPart() {
     static const ResultFolder folder;
     static const QString path = folder.path("part");
@@ -108,7 +108,7 @@ const Writer writers[] = {
     {"MultiPointSet", writesMultiPointSet},
 };
 
-// Those that choose how to write.
+// Writers that use a FileReplacement.
 const Writer replacingWriters[] = {
     {"Vias", writesVias},
     {"SarCombination", combinesSarPlanes},
@@ -176,7 +176,7 @@ TEST_P(ReplacingWriter, KeepsAnEarlierFileWithoutSpaceOrPermission) {
     QFile::link(m_folder.path("elsewhere"), m_folder.path("open/out.new0"));
     m_folder.put("open/out.new1", "somebody's");
     EXPECT_TRUE(writes("open/out"));
-    EXPECT_FALSE(m_folder.has("elsewhere")) << "nor is anything written through what is planted";
+    EXPECT_FALSE(m_folder.has("elsewhere")) << "a symbolic link at the temporary name must not be followed";
     EXPECT_EQ(m_folder.bytes("open/out.new1"), "somebody's");
     EXPECT_EQ(QFile::permissions(m_folder.path("open/out")) & 0xFFF, 0x640);
 }
@@ -233,7 +233,7 @@ TEST(MultiPointSetWriter, ReportsAFullDisk) {
     ASSERT_TRUE(writer.beginResultWriting(folder.path("set"), GridIndexBoxes(std::vector<ivec3>{{1, 2, 3}})));
     std::vector<bool> done;
     {
-        const FullDisk disk;  // with room for two times and two frequencies
+        const FullDisk disk;  // large enough for two times and two frequencies
         done = {writer.beginTimestep(1), writer.beginTimestep(2), writer.beginTransientTotalE()};
         for (int i = 0; i < 3; ++i) writer.writeTransient(1, 2, 3);
         done.push_back(writer.endTransient());
@@ -246,15 +246,15 @@ TEST(MultiPointSetWriter, ReportsAFullDisk) {
         writer.endTimestep();
     }
     EXPECT_TRUE(writer.beginResultWriting(folder.path("next"), GridIndexBoxes(std::vector<ivec3>{{1, 2, 3}})))
-        << "what the set before lost is no failure of this one";
-    EXPECT_TRUE(writer.beginTimestep(1) && writer.beginTransientTotalE()) << "nor of its first group";
+        << "data lost from the previous set must not fail this one";
+    EXPECT_TRUE(writer.beginTimestep(1) && writer.beginTransientTotalE()) << "or its first group";
     SarResultWriter plane;
     ASSERT_TRUE(plane.beginResultWriting(folder.path("lost"), SARPlane::XY, 0, 1));
-    EXPECT_TRUE((FullDisk(), plane.beginResultWriting(folder.path("plane"), SARPlane::XY, 0, 1))) << "nor of a plane";
+    EXPECT_TRUE((FullDisk(), plane.beginResultWriting(folder.path("plane"), SARPlane::XY, 0, 1))) << "or a plane";
     EXPECT_EQ(done, (std::vector<bool>{true, true, true, false, false, true, true, false, true, false, true}));
 }
 
-// Into a file with two links the content has to be copied.
+// A file with two hard links is not replaced: the content is copied into it.
 TEST(FileReplacement, CopiesOnlyWhatFitsOnTheDisk) {
     const ResultFolder folder;
     const QString target = folder.put("out", "earlier");
@@ -262,7 +262,7 @@ TEST(FileReplacement, CopiesOnlyWhatFitsOnTheDisk) {
     for (const QByteArray& content : {QByteArray(200000, 'n'), QByteArray("new")}) {
         FileReplacement replacement(target);
         folder.put("out.new0", content);
-        EXPECT_EQ(QFile::permissions(replacement.path()) & 0xFF, 0) << "as of the earlier file";
+        EXPECT_EQ(QFile::permissions(replacement.path()) & 0xFF, 0) << "the permissions of the earlier file";
         const auto takePlace = [&](rlim_t room) { return FullDisk(room), replacement.takePlace(); };
         EXPECT_EQ(takePlace(100000), content == "new");
         EXPECT_EQ(folder.bytes("link"), content == "new" ? content : "earlier");

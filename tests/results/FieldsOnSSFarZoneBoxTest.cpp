@@ -24,7 +24,7 @@ Grid smallGrid() {
     return grid;
 }
 
-/// Each number of the file is its own index among the numbers.
+/// Each number of the file is its own index.
 QByteArray boxFile(int records) {
     QByteArray bytes("!tavrixfdtdL\x08\0\0\0", headerSize);
     for (int i = 0; i < 8 * records; ++i) {
@@ -71,7 +71,8 @@ TEST(FieldsOnSSFarZoneBox, ReadsFacesAndCellsInOrderAndIgnoresTheRest) {
     EXPECT_EQ(record, numRecords);
 }
 
-// Nodes along x stand at 2, 2.5, 3, 3.5, 4, 5, ... 10 from the lower to the upper face; the centre is half of node 18.
+// The nodes along x are at 2, 2.5, 3, 3.5, 4, 5, ... 10 from the lower to the upper face; the centre is half of node
+// 18.
 TEST(FieldsOnSSFarZoneBox, MeasuresCellsAndFacesFromTheCentreOfTheBox) {
     const Loaded loaded(boxFile(numRecords));
     const FieldsOnSSFarZoneBox& f = loaded.fields;

@@ -1,4 +1,4 @@
-// Files that become shorter while they are read, and readers for whose results there is no memory.
+// Files that are truncated while they are read, and readers without enough memory for their results.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ namespace {
 
 std::size_t largestAllocation = SIZE_MAX;
 
-/// As long as it lives there is no memory for anything large.
+/// Makes large allocations fail as long as it lives.
 class LowMemory {
 public:
     LittleMemory() { largestAllocation = 1 << 16; }
@@ -45,7 +45,9 @@ struct Reading {
     const char* name;
     QByteArray header;
     int recordSize;
-    int (*read)(const QString& path, const std::function<void()>& cut);  // the records there are once one is read
+    int (*read)(
+        const QString& path,
+        const std::function<void()>& cut);  // returns the number of records read when the file is cut after the first
 };
 
 void PrintTo(const Reading& row, std::ostream* out) { *out << row.name; }
@@ -111,7 +113,7 @@ TEST(LowMemory, MakesBlockReadersFailWithEmptyLists) {
     }
     EXPECT_FALSE(anySucceeded);
     EXPECT_EQ(points.size() + times.size() + values.size() + block.size(), 0u);
-    EXPECT_TRUE(set.readGeometry(points)) << "with memory again";
+    EXPECT_TRUE(set.readGeometry(points)) << "with enough memory again";
 }
 
 TEST(LowMemory, MakesTheFieldsOfABoxIncomplete) {

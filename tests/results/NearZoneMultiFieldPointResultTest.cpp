@@ -27,7 +27,7 @@ QByteArray hexOf(const Stream& stream) {
     return bytes.toHex();
 }
 
-// With each number different from all others.
+// Each number differs from all others.
 const Record record{1, {2, 3, 4}, {5, 6, 7}, {8, 9, 10}, {11, 12, 13}, {14, 15, 16}, {17, 18, 19}, {20, 21, 22}};
 
 struct Group {
@@ -73,7 +73,7 @@ TEST(NearZoneMultiFieldPointResult, EachGroupHasItsBitAndItsPlace) {
         Record expected;
         expected.time = 1;
         expected.*group.components = record.*group.components;
-        EXPECT_EQ(read, expected) << "groups that are not there stay as they were";
+        EXPECT_EQ(read, expected) << "groups that are not in the file are unchanged";
         EXPECT_FALSE(reader.readRecord(stream.get(), read));
     }
 }
@@ -98,7 +98,7 @@ TEST(NearZoneMultiFieldPointResult, RefusesInvalidHeaders) {
     Header header;
     Stream stream = streamOf("Rnzq" + QByteArray(40, '\0'));
     EXPECT_FALSE(result.readAndGetHeader(stream.get(), header));
-    EXPECT_EQ(std::ftell(stream.get()), 4) << "refused right after the letter";
+    EXPECT_EQ(std::ftell(stream.get()), 4) << "refused at the first wrong character";
     stream = streamOf(QByteArray("Rnzp\0", 5) + position + QByteArray("\x01\x42", 2));
     EXPECT_FALSE(result.readAndGetHeader(stream.get(), header)) << "bit 0 is no group";
     EXPECT_TRUE(header.collectTotalE() && header.collectJ() && !header.collectScatteredE());
@@ -109,9 +109,9 @@ TEST(NearZoneMultiFieldPointResult, RefusesInvalidHeaders) {
     EXPECT_FALSE(result.readAndGetHeader(stream.get(), header));
     EXPECT_EQ(header.getVersion(), 5);
     Record read;
-    EXPECT_TRUE(result.readRecord(stream.get(), read)) << "by the header of before";
+    EXPECT_TRUE(result.readRecord(stream.get(), read)) << "with the previous header";
     EXPECT_TRUE(result.setAndWriteHeader(header, streamOf().get()));
-    EXPECT_FALSE(result.readRecord(stream.get(), read)) << "nothing is known of version 5";
+    EXPECT_FALSE(result.readRecord(stream.get(), read)) << "version 5 is not supported";
 }
 
 }  // namespace

@@ -53,7 +53,8 @@ TEST_F(FarZone, AppendsRecordsWithUnchangedAngles) {
     EXPECT_EQ(records[3].phi, 100.0F);
 }
 
-// At the pole the components turn with the azimuth; a polar angle below 0 is the other side with reversed components.
+// At the pole the components rotate with the azimuth; a negative polar angle is the opposite azimuth with reversed
+// components.
 TEST_F(FarZone, AcceptsPolesAndAnglesBeyondTheirRange) {
     const auto quarter = static_cast<float>(pi / 2);
     const Records r = compute({{0, 0}, {0, quarter}, {-0.5F, 0.25F}, {0.5F, static_cast<float>(0.25 + pi)}});
@@ -63,7 +64,7 @@ TEST_F(FarZone, AcceptsPolesAndAnglesBeyondTheirRange) {
     EXPECT_LT(std::abs(r[2].ePhi + r[3].ePhi), 1e-5F * std::abs(r[2].ePhi));
 }
 
-// The same direction among so many others is computed in another way.
+// A direction among many others is computed with the other method.
 TEST_F(FarZone, DoesNotDependOnTheOtherDirections) {
     const auto all = sphere(3);
     const Records together = compute(all);

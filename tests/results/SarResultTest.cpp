@@ -17,7 +17,7 @@ const QByteArray record = QByteArray::fromHex("01000000 02000000 00004040");
 
 QByteArray start(const char* hex) { return header + QByteArray::fromHex(hex); }
 
-// Of the plane z = 9, with a number of records that may not be that of the records.
+// A file of the plane z = 9. The number of records in its header may differ from that of `records`.
 QByteArray plane(char numRecords, const QByteArray& records) {
     return start("0200000009000000") + numRecords + QByteArray(3, '\0') + records;
 }
@@ -68,7 +68,7 @@ TEST_F(SarFile, EachPlaneHasItsBytes) {
         ASSERT_TRUE(reader.beginResultReading(folder.path("f")));
         EXPECT_EQ(reader.getPlane(), row.plane);
         EXPECT_EQ(reader.getPlaneIndex(), -9);
-        EXPECT_EQ(reader.getNumberOfRecords(), 2) << "appending does not count";
+        EXPECT_EQ(reader.getNumberOfRecords(), 2) << "appending does not change the number";
         EXPECT_EQ(reader.getNumberOfRecordsLeft(), 3);
         EXPECT_EQ(read("f").front(), row.read);
         EXPECT_EQ(read("f").size(), 3U);
@@ -105,12 +105,12 @@ TEST_F(SarFile, CombiningTakesTheStatedNumberOfRecords) {
     EXPECT_TRUE(combine({"a", "missing", "b", "c"}, output));
     EXPECT_EQ(folder.bytes("out").toHex(), plane(3, record + other + record).toHex());
     EXPECT_EQ(error + warning, QString());
-    EXPECT_EQ(folder.names(), (QStringList{"a", "b", "c", "out"})) << "nothing else is left, nor missing";
-    EXPECT_TRUE(combine({"a", "c"}, folder.path("a"))) << "the output is one of them";
+    EXPECT_EQ(folder.names(), (QStringList{"a", "b", "c", "out"})) << "no file is added or removed";
+    EXPECT_TRUE(combine({"a", "c"}, folder.path("a"))) << "the output is one of the parts";
     EXPECT_EQ(folder.bytes("a").toHex(), plane(3, record + other + record).toHex());
     ASSERT_TRUE(QFile::link(folder.path("c"), folder.path("link")));
     EXPECT_TRUE(combine({"c", "c"}, folder.path("link")));
-    EXPECT_EQ(folder.bytes("c").toHex(), plane(2, record + record).toHex()) << "a link stays one";
+    EXPECT_EQ(folder.bytes("c").toHex(), plane(2, record + record).toHex()) << "the link is followed";
 }
 
 TEST_F(SarFile, FailedCombinationsKeepJoinedRecordsOrChangeNothing) {
@@ -144,14 +144,14 @@ TEST_F(SarFile, FailedCombinationsKeepJoinedRecordsOrChangeNothing) {
         folder.put("out", "earlier");
         ASSERT_TRUE(QFile::link(b, folder.path("symlink")) && folder.linkHard("b%1", "link"));
         for (const char* same : {"b%1", "./b%1", "symlink", "link"}) {
-            EXPECT_FALSE(combine({"%2a", "b%1"}, folder.path(same))) << "the output is one of them";
+            EXPECT_FALSE(combine({"%2a", "b%1"}, folder.path(same))) << "the output is one of the parts";
             EXPECT_EQ(folder.bytes("b%1"), row.second);
         }
         EXPECT_EQ(folder.names(), (QStringList{"%2a", "b%1", "link", "out", "symlink"}));
         EXPECT_TRUE(QFile::remove(folder.path("link")) && QFile::remove(folder.path("symlink")));
     }
     ASSERT_EQ(mkfifo(folder.path("pipe").toLocal8Bit(), 0600), 0);
-    EXPECT_FALSE(combine({"%2a", "pipe"}, output)) << "and nobody is waited for";
+    EXPECT_FALSE(combine({"%2a", "pipe"}, output)) << "without waiting for a writer";
     EXPECT_EQ(error, unopened.arg(folder.path("pipe"), output));
     const QString creation = "Failed to create SAR output file '%1'.";
     for (const QString& nowhere : {folder.path("no/out"), folder.path(".")}) {
@@ -200,10 +200,10 @@ TEST_F(SarFile, FullDiskMakesCombiningFail) {
     EXPECT_FALSE(QFileInfo("/dev/full").isFile()) << "a device is not replaced";
 }
 
-// Of a file with holes, which takes no room.
+// Uses a sparse file, which takes no space on the disk.
 TEST_F(SarFile, RefusesATotalBeyondTheRangeOfInt) {
     folder.put("a", start("0200000009000000ffffff7f"));
-    if (!QFile::resize(folder.path("a"), 28 + 12LL * 0x7FFFFFFF)) GTEST_SKIP() << "no holes in files here";
+    if (!QFile::resize(folder.path("a"), 28 + 12LL * 0x7FFFFFFF)) GTEST_SKIP() << "no sparse files here";
     EXPECT_FALSE(combine({"a", "a"}, folder.path("out")));
     EXPECT_EQ(error, QString("Failed to create SAR output file '%1'.").arg(folder.path("out")));
     EXPECT_EQ(folder.names(), QStringList{"a"});
