@@ -6,7 +6,7 @@
 #include "quarn/BoundaryConditions.h"
 #include "quarn/v6ProjectFile.h"
 
-/// A project that can be saved, to which benchmarks add what they measure. It owns that.
+/// A project that can be saved. Benchmarks add the objects that they measure; the project owns them.
 class SavedProject {
 public:
     SavedProject() {

@@ -1,5 +1,5 @@
-# Compiled once, linked twice: `quarn` is what users get and shows public symbols only; `quarn_static`, never
-# installed, lets tests, benchmarks and fuzz harnesses reach the internal functions as well.
+# The sources are compiled once and linked twice: `quarn` is installed and exports only public symbols; `quarn_static`,
+# never installed, gives tests, benchmarks and fuzz harnesses access to internal functions.
 include(GenerateExportHeader)
 
 file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.cpp)

@@ -1,5 +1,5 @@
-// A text and a script of operations on it: the first bytes choose the operations, the rest is the text. Every operation
-// ends, and a stream over a device gives what one over a string gives.
+// The first bytes of the input choose operations, the rest is the text on which they are performed. Every operation
+// must end, and a device stream must give the same results as a string stream.
 
 #include <QTextStream>
 #include <algorithm>
@@ -7,60 +7,21 @@
 
 #include "Harness.h"
 #include "MemoryBound.h"
-#include "quarn/DelimManager.h"
+#include "tests/blocktext/DelimScript.h"
 
 namespace {
 
-// What came of one operation.
-struct Outcome {
-    bool result;
-    QString name;
-    QString value;
-    QString description;
-    QString word;
+constexpr const char* operations[] = {
+    "is", "more", "seek", "first", "next", "find", "findnext", "line", "space", "word"};
 
-    bool operator==(const Outcome& other) const {
-        return result == other.result && name == other.name && value == other.value &&
-               description == other.description && word == other.word;
+// The low bits of a byte choose the operation, the high bit whether only the block "Units" is wanted.
+QString scriptOf(const std::uint8_t* data, std::size_t size) {
+    QStringList script;
+    for (std::size_t i = 0; i < size; ++i) {
+        const QString operation = operations[std::min<std::size_t>(data[i] & 0x0F, std::size(operations) - 1)];
+        script << ((data[i] & 0x80) != 0 || operation.startsWith("find") ? operation + ":Units" : operation);
     }
-};
-
-Outcome perform(quarn::DelimManager& delim, std::uint8_t operation) {
-    Outcome o{true, QString(), QString(), QString(), QString()};
-    const bool named = (operation & 0x80) != 0;
-    if (named) o.name = QStringLiteral("Units");
-    switch (operation & 0x0F) {
-        case 0:
-            o.result = delim.IsDelim(o.name, o.value, o.description);
-            break;
-        case 1:
-            o.result = delim.ContinueReading();
-            break;
-        case 2:
-            o.result = delim.SeekToEndOfDelim();
-            break;
-        case 3:
-            o.result = delim.GetFirstDelim(o.name, o.value, o.description);
-            break;
-        case 4:
-            o.result = delim.GetNextDelim(o.name, o.value, o.description);
-            break;
-        case 5:
-            o.result = delim.FindFirstDelim(QStringLiteral("Units"), o.value, o.description);
-            break;
-        case 6:
-            o.result = delim.FindNextDelim(QStringLiteral("Units"), o.value, o.description);
-            break;
-        case 7:
-            o.word = delim.GetStream().readLine();
-            break;
-        case 8:
-            quarn::DelimManager::skipWhiteSpace(delim.GetStream());
-            break;
-        default:
-            delim.GetStream() >> o.word;
-    }
-    return o;
+    return script.join(' ');
 }
 
 }  // namespace
@@ -68,17 +29,12 @@ Outcome perform(quarn::DelimManager& delim, std::uint8_t operation) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const fuzz::MemoryBound bound(size);
     constexpr std::size_t longestScript = 16;
-    const std::size_t operations = std::min(size / 4, longestScript);
-    const auto text =
-        QString::fromLatin1(reinterpret_cast<const char*>(data + operations), static_cast<int>(size - operations));
-    QString string = text;
-    QTextStream overString(&string, QIODevice::ReadOnly);
-    QTextStream overDevice(text.toUtf8());
+    const std::size_t scriptSize = std::min(size / 4, longestScript);
+    const auto* text = reinterpret_cast<const char*>(data + scriptSize);
+    QString string = QString::fromLatin1(text, static_cast<int>(size - scriptSize));
+    QTextStream overString(&string, QIODevice::ReadOnly), overDevice(string.toUtf8());
     overDevice.setCodec("UTF-8");
-    quarn::DelimManager fromString(overString, QString());
-    quarn::DelimManager fromDevice(overDevice, QString());
-    for (std::size_t i = 0; i < operations; ++i) {
-        fuzz::require(perform(fromString, data[i]) == perform(fromDevice, data[i]));
-    }
+    const QString script = scriptOf(data, scriptSize);
+    fuzz::require(quarn::test::outcome(overString, script) == quarn::test::outcome(overDevice, script));
     return 0;
 }

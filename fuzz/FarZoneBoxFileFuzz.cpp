@@ -1,5 +1,5 @@
-// Any bytes as the box field file of a small box, over a PEC plane in every second size: the far field of a box that
-// loads can be computed, and one that does not load gives nothing.
+// Reads any bytes as the field file of a small box, above a PEC plane for every second input size. The far field of a
+// loaded box can be computed; a file that is refused gives no records.
 
 #include <cstddef>
 #include <cstdint>

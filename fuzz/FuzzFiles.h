@@ -11,7 +11,7 @@
 
 #include "Harness.h"
 
-/// What harnesses of file formats share: the files of one input, in one temporary folder.
+/// The files of one input, in a temporary folder; shared by the harnesses of file formats.
 namespace fuzz {
 
 inline const QTemporaryDir& folder() {
@@ -32,7 +32,7 @@ inline QByteArray contents(const QString& name) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// An input that is several files: before each but the last stands its length, in one byte.
+/// Splits an input into several files: one byte before each file except the last gives its length.
 class Pieces {
 public:
     Pieces(const std::uint8_t* data, std::size_t size) : m_rest(bytesOf(data, size)) {}

@@ -1,5 +1,5 @@
-// Any bytes as a geometry file: loading, copying and saving end, and leave nothing behind. A stream over a device gives
-// what one over a string gives, and what was saved is loaded and saved as it is.
+// Loads, copies and saves any bytes as a geometry file without endless loops or leaks. A device stream must give the
+// same result as a string stream, and a saved text must be loaded and saved without a change.
 
 #include <QStringList>
 #include <QTextStream>
@@ -16,7 +16,7 @@ namespace {
 
 using fuzz::require;
 
-// Large grids are legal and would take most of the time.
+// Refuses large grids, which are valid but would take most of the time.
 class SmallGrid : public quarn::Grid {
 public:
     bool initialize(std::uint32_t cellsInX, std::uint32_t cellsInY, std::uint32_t cellsInZ, float originX,

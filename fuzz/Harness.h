@@ -5,15 +5,15 @@
 #include <cstdint>
 #include <cstdlib>
 
-/// What all harnesses share.
+/// Functions that all harnesses share.
 namespace fuzz {
 
-/// The input, which is not copied.
+/// The input as bytes, without a copy.
 inline QByteArray bytesOf(const std::uint8_t* data, std::size_t size) {
     return QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size));
 }
 
-/// What a harness asserts: a finding when it does not hold.
+/// Reports a finding unless the condition holds.
 inline void require(bool holds) {
     if (!holds) std::abort();
 }

@@ -7,8 +7,8 @@
 
 namespace fuzz {
 
-/// Ends the run when, as long as the object lives, more memory is taken than an input of its size deserves. The fixed
-/// part is what index boxes that overlap may take before they are refused.
+/// Aborts when more memory is allocated than an input of this size may need, as long as the object lives. The fixed
+/// part is what overlapping index boxes may use before they are refused.
 class MemoryBound {
 public:
     explicit MemoryBound(std::size_t inputSize) {

@@ -1,5 +1,5 @@
-// Any bytes as a file of meshless vias: they are refused with a message and an empty list, or give vias that are
-// written back as the bytes that they came from.
+// Reads any bytes as a file of meshless vias: they are refused with a message and an empty list, or give vias that are
+// written as the same bytes.
 
 #include <cstdint>
 #include <sstream>

@@ -1,5 +1,5 @@
-// Any bytes as antenna pattern cuts, one after the other: reading ends, a stream over a device gives what one over a
-// string gives, and what was read can be looked up.
+// Reads any bytes as a sequence of antenna pattern cuts. Reading must end, a device stream must give the same cuts as a
+// string stream, and every sample must be found by its angle.
 
 #include <QTextStream>
 #include <algorithm>

@@ -1,5 +1,5 @@
-// Any bytes as a project file: loading, checking, copying and saving end, and leave nothing behind. A stream over a
-// device gives what one over a string gives, and what was saved is loaded and saved as it is.
+// Loads, checks and saves any bytes as a project file without endless loops or leaks. A device stream must give the
+// same result as a string stream, and a saved text must be loaded and saved without a change.
 
 #include <QTextStream>
 #include <cstdint>
@@ -21,8 +21,7 @@ public:
     Project(const Project&) = delete;
     Project& operator=(const Project&) = delete;
 
-    // Without boundary conditions a project cannot be saved. The modeling units of a file as it is written are not
-    // read.
+    // Saving needs boundary conditions. The modeling units of a saved file are not read back.
     QString saved() {
         setModelingUnits({QStringLiteral("m"), 1.0});
         using quarn::BoundaryConditions;
@@ -56,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     if (fuzz::hasMarkInValue(saved)) return 0;
 
-    // The reader takes the close line of this pulse for that of the section, and loses what is written behind it.
+    // The reader takes the close line of this pulse for that of the section and does not read the rest of the section.
     if (saved.contains(QStringLiteral("begin_<IEC_61000_4_2>"))) return 0;
     QTextStream again(&saved, QIODevice::ReadOnly);
     Project reloaded(again);

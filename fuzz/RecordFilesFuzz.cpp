@@ -1,5 +1,5 @@
-// Any bytes as a file of each kind of record: reading ends, one by one and in blocks alike, and what was read is
-// written as it was.
+// Reads any bytes as a file of each kind of record. Reading must end, single records must equal those of a block, and
+// they must be written as the same bytes.
 
 #include <cstring>
 #include <iterator>

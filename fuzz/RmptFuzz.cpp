@@ -1,5 +1,5 @@
-// Any bytes as the files of a multi-point result: info, geometry, time steps, frequencies, and one for all components.
-// Reading ends, blocks hold what single values do, and what can be read can be deleted.
+// Reads any bytes as the files of a multi-point result: info, geometry, time steps, frequencies, and one file for all
+// components. Reading must end, blocks must equal single values, and a readable result can be deleted.
 
 #include <complex>
 #include <cstring>

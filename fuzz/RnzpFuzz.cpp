@@ -1,4 +1,4 @@
-// Any bytes as the fields at a point: reading ends, and what was read is written as it was.
+// Reads any bytes as the fields at a point. Reading must end, and the records must be written as the same bytes.
 
 #include <cstdio>
 #include <memory>

@@ -1,5 +1,5 @@
-// Any bytes as two partial SAR files: reading and combining end. A combination holds the records of both, up to the end
-// of a file that is cut short, which is reported. Any other failure leaves the earlier output.
+// Reads and combines any bytes as two partial SAR files. A combination holds the records of both, up to the end of a
+// truncated file, which is reported. Any other failure leaves the earlier output.
 
 #include <algorithm>
 #include <cstdint>
@@ -15,7 +15,7 @@ using fuzz::require;
 constexpr int headerSize = 28;
 constexpr int recordSize = 12;
 
-// The records that the header of a file announces, as far as the file holds them whole.
+// The complete records of a file, up to the number in its header.
 struct Announced {
     QByteArray records;
     bool isComplete;
@@ -29,7 +29,7 @@ Announced announced(const char* name) {
             count == reader.getNumberOfRecords()};
 }
 
-// What a combination takes: nothing behind the first file that is cut short.
+// The records that a combination takes: none behind the first truncated file.
 Announced combined() {
     const Announced first = announced("a"), second = announced("b");
     if (!first.isComplete) return first;

@@ -8,7 +8,7 @@
 
 namespace fuzz {
 
-/// One text as a stream over a device and as one over a string.
+/// The same text as a device stream and as a string stream.
 class TwoStreams {
 public:
     explicit TwoStreams(const QByteArray& bytes) : overDevice(bytes) {
@@ -25,14 +25,15 @@ private:
     QString m_text;
 };
 
-/// Whether the text may end in the middle of a character: then a device stream is not at its end behind the last one.
+/// Whether the text may end within a character: a device stream then does not report its end after the last complete
+/// one.
 inline bool endsInsideCharacter(const QByteArray& bytes) {
     const QByteArray end = bytes.right(3);
     return std::any_of(end.begin(), end.end(), [](char byte) { return static_cast<unsigned char>(byte) >= 0xC0; });
 }
 
-/// Whether a value holds what opens or closes a block. The format has no way to write that: it is read as an open or a
-/// close line.
+/// Whether a value contains the mark of an open or close line. The format cannot represent this: the value is read as
+/// an open or close line.
 inline bool hasMarkInValue(const QString& text) {
     static const QRegularExpression mark(QStringLiteral("[^\\n](begin|end)_<"));
     return text.contains(mark);

@@ -5,7 +5,7 @@ test_packages=("${build_packages[@]}" gnuplot-nox libbenchmark-dev libgmock-dev 
 fuzz_packages=("${build_packages[@]}" clang libclang-rt-14-dev llvm)  # llvm: names and lines in the findings
 lint_packages=(clang-tidy cppcheck)
 
-# need_packages NAME...: installs those that are missing; silent when none is.
+# need_packages NAME...: installs the missing packages; prints nothing when all are installed.
 need_packages() {
     local name missing=() as_root=()
     for name in "$@"; do

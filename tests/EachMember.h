@@ -22,8 +22,8 @@ std::vector<T> changedOneByOne(const Arguments& blank, const Arguments& changed,
 
 }  // namespace detail
 
-/// An object made from the arguments of `blank`, then for each argument one that has that of `changed` in its place.
-/// Objects whose members are all set at once would not show two of them exchanged.
+/// An object made from the arguments of `blank`, then one object for each argument, in which it is replaced by that of
+/// `changed`. Changing one argument at a time also detects members that are exchanged.
 template <class T, class... Arguments>
 std::vector<T> changedOneByOne(const std::tuple<Arguments...>& blank, const std::tuple<Arguments...>& changed) {
     return detail::changedOneByOne<T>(blank, changed, std::index_sequence_for<Arguments...>());

@@ -1,6 +1,6 @@
 #pragma once
 
-// What goes wrong outside the library, for as long as an object lives. Nothing may be printed meanwhile.
+// Faults outside the library that last as long as an object lives. Nothing may be printed meanwhile.
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -11,7 +11,7 @@
 
 namespace quarn::test {
 
-/// Files can be no longer than 8 bytes or as given, also those of processes that are started.
+/// Limits files to 8 bytes or the given number, also in child processes.
 class FullDisk {
 public:
     explicit FullDisk(rlim_t room = 8) {
@@ -31,7 +31,7 @@ private:
     rlimit m_before{};
 };
 
-/// The administrator, for whom permissions mean nothing, is somebody else.
+/// Drops the privileges of the administrator, for whom file permissions do not count.
 class WithoutPrivileges {
 public:
     WithoutPrivileges() {

@@ -1,5 +1,5 @@
-// The public headers in C++20, where a comparison also tries the operators with their sides exchanged, and with
-// warnings that users of the headers may have turned on.
+// Compiles the public headers in C++20, where a comparison also considers operators with exchanged operands, and with
+// warnings that users of the headers may enable.
 
 namespace quarn {
 class FarZoneRotation;
@@ -38,7 +38,7 @@ static_assert(std::is_same_v<decltype(std::declval<FarZoneBox>().getNumberOnXFac
 static_assert(std::is_same_v<decltype(CircuitComponent::ImpedanceLine::nodes), std::array<int, 2>>);
 static_assert(std::has_virtual_destructor_v<GeometryFile> && !std::has_virtual_destructor_v<ProjectFile>);
 
-TEST(MaterialComparison, finds_materials_in_lists) {
+TEST(MaterialComparison, FindsMaterialsInLists) {
     const std::list<ElectricThinWire> wires{ElectricThinWire("thin", 1), ElectricThinWire("thick", 2)};
     const Material& thick = wires.back();
     EXPECT_EQ(std::find(wires.begin(), wires.end(), ElectricThinWire("thick", 2)), std::prev(wires.end()));

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QTextStream>
+#include <stdexcept>
 #include <string>
 
 #include "quarn/v6ProjectFile.h"
@@ -12,7 +13,7 @@ inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << tex
 
 namespace quarn::test {
 
-/// A project that owns what it points to, as somebody has to delete the contents of a loaded file.
+/// A project that owns the objects it points to.
 class OwningProject : public v6ProjectFile {
 public:
     OwningProject() = default;
@@ -27,7 +28,7 @@ std::string rowName(const testing::TestParamInfo<Row>& row) {
     return row.param.name;
 }
 
-/// Calls `use` with a stream over the text and again with one over a device: the two must not differ.
+/// Calls `use` with a string stream and with a device stream over the same text: both must give the same result.
 template <class Use>
 void onBothStreams(QString text, Use use) {
     QTextStream overString(&text, QIODevice::ReadOnly), overDevice(text.toUtf8());
@@ -38,7 +39,7 @@ void onBothStreams(QString text, Use use) {
     }
 }
 
-/// Writes out the short form that rows use: "A{ key 1; B{ } }" is block A with a key line and an empty block B.
+/// Expands the short form of a text: "A{ key 1; B{ } }" is block A with a key line and an empty block B.
 inline QString expanded(const QString& shortForm) {
     QString text, line;
     QStringList open;
@@ -59,8 +60,19 @@ inline QString expanded(const QString& shortForm) {
 inline QString saved(v6ProjectFile& project) {
     QByteArray bytes;
     QTextStream stream(&bytes, QIODevice::WriteOnly);
-    EXPECT_FALSE(project.saveToStream(stream)) << "true stands for an error here";
+    EXPECT_FALSE(project.saveToStream(stream)) << "saveToStream returns true on error";
     return QString::fromUtf8(bytes);
+}
+
+/// Loads a project from both kinds of stream and compares the text that `textOf` returns for it.
+template <class Project = OwningProject, class TextOf>
+void expectLoads(const QString& file, const QString& expected, TextOf textOf) {
+    onBothStreams(file, [&](QTextStream& stream) {
+        Project project;
+        QStringList errors;
+        EXPECT_TRUE(project.loadFromStream(stream, errors));
+        EXPECT_EQ(textOf(project), expected);
+    });
 }
 
 inline void load(v6ProjectFile& project, QString text) {
@@ -68,6 +80,27 @@ inline void load(v6ProjectFile& project, QString text) {
     QStringList errors;
     EXPECT_TRUE(project.loadFromStream(stream, errors));
     EXPECT_EQ(errors, QStringList());
+}
+
+/// The message of the std::runtime_error that `call` throws, or "nothing".
+template <class Call>
+std::string thrownBy(Call call) {
+    try {
+        call();
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+    return "nothing";
+}
+
+/// The findings that a check appends to lists that already have an entry: errors, then warnings.
+template <class Checked, class... Arguments>
+QStringList findingsOf(const Checked& checked, const Arguments&... arguments) {
+    QStringList errors("error: "), warnings("warning: "), found;
+    checked.checkValidity(errors, warnings, arguments...);
+    for (const QString& text : errors.mid(1)) found << errors.first() + text;
+    for (const QString& text : warnings.mid(1)) found << warnings.first() + text;
+    return found;
 }
 
 }  // namespace quarn::test

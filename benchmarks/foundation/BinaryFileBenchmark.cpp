@@ -1,4 +1,5 @@
-// A file of floats, moved value by value and beside that by one call for all of them. Compare the times of a pair.
+// Reads and writes a file of floats value by value. The reference is one call for all of them. Compare the times of
+// each pair.
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
-// A geometry file whose axes have a size of their own for each cell, loaded into a grid, beside an XML document that
-// holds the same numbers in the same layout: an element for each axis, and in it one index and one size a line. Both
-// start from UTF-8 bytes in memory and end in an initialised grid. Compare the times of the pair.
+// Loads a geometry file with a separate size for each cell into a grid. The reference is an XML document with the same
+// numbers in the same layout: an element for each axis with one index and one size per line. Both start from UTF-8
+// bytes in memory and end with an initialised grid. Compare the times of the pair.
 
 #include <benchmark/benchmark.h>
 

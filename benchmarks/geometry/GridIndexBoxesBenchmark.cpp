@@ -1,7 +1,7 @@
-// Index boxes of a million cells, of a ball and of random ones. Building stands beside std::sort of the same shuffled
-// list; looking cells up in random order stands beside the same on a sorted list of runs along z with their cumulative
-// counts, the plainest index of that kind. Compare the times of a pair. The last benchmark gives boxes their
-// exclusions: compare the times of a row with the next, which has twice as many of both.
+// Index boxes of a million cells, forming a ball or random. Building is compared with std::sort of the same shuffled
+// list; looking up cells in random order is compared with a sorted list of runs along z and their cumulative counts,
+// the simplest index of this kind. Compare the times of each pair. The last benchmark assigns exclusions to boxes:
+// compare the times of each row with the next, which has twice as many of both.
 
 #include <benchmark/benchmark.h>
 
@@ -88,7 +88,7 @@ void buildSortReference(benchmark::State& state) {
 }
 BENCHMARK(buildSortReference)->Arg(Ball)->Arg(Random)->Unit(benchmark::kMillisecond);
 
-// The sum over all cells that an index of them must give, in whatever order it numbers them.
+// Summed over all cells, this value does not depend on the order of their numbers.
 long long checksum(const ivec3& cell) { return (cell.x * 1009LL + cell.y) * 1013LL + cell.z; }
 
 long long checksum(const std::vector<ivec3>& cells) {
@@ -143,8 +143,8 @@ BENCHMARK(lookUpInRunsReference)->Arg(Ball)->Arg(Random)->Unit(benchmark::kMilli
 
 enum Layout { Lattice, Row, Stack, Scattered };
 
-// Boxes of a volume that each hold one exclusion, in a lattice, one behind the other along x, or flat ones piled up
-// along z; or boxes and exclusions without order, in a region that grows with their number.
+// Boxes with one exclusion each: in a lattice, in a row along x, or flat and stacked along z; or random boxes and
+// exclusions in a region that grows with their number.
 GridIndexBoxes::Box boxOf(int layout, int i, int count, std::mt19937& random) {
     const int side = static_cast<int>(std::ceil(std::cbrt(count)));
     const ivec3 places[] = {{i / side / side * 4, i / side % side * 4, i % side * 4}, {i * 4, 0, 0}, {0, 0, i}};

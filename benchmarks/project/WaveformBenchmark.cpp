@@ -1,6 +1,6 @@
-// A project with a long user-defined waveform, loaded and saved, beside an XML document that holds the same numbers in
-// the same layout: an element for each block, and in it one number a line. Both start from and end in UTF-8 bytes in
-// memory. Compare the times of a pair.
+// Loads and saves a project with a long user-defined waveform. The reference is an XML document with the same numbers
+// in the same layout: an element for each block with one number per line. Both start from UTF-8 bytes in memory and end
+// there. Compare the times of each pair.
 
 #include <benchmark/benchmark.h>
 

@@ -1,8 +1,8 @@
-// Far fields of a sphere of 65 160 directions, one degree apart, from the fields on cubes at 20 cells a wavelength. The
-// reference sums over all cells for each direction, with sines and cosines for each; as that takes hours, it is timed
-// on a few directions. "times reference" is the ratio of the two for all directions; "share sampling" what the samples
-// take of the time, the rest being lookups; "model" the time that the choice of the method expects. The second
-// benchmark has one direction.
+// Far fields in the 65 160 directions of a sphere, one degree apart, from the fields on cubes with 20 cells per
+// wavelength. The reference sums over all cells for each direction and computes each sine and cosine; since that takes
+// hours, it is timed for a few directions. "times reference" is the ratio of the two times for all directions, "share
+// sampling" the share of the time for sampling, the rest being lookups, and "model" the estimate on which the choice of
+// the method is based. The other benchmarks have a cut of 16 directions and a single direction.
 
 #include <benchmark/benchmark.h>
 
@@ -23,7 +23,7 @@ using quarn::reference::SampledBox;
 constexpr double waveNumber = 2.0 * quarn::constants::pi;  // of a wavelength of 1 m
 constexpr double cellSize = 0.05;
 
-/// Of this process, so that others on the machine do not count.
+/// The processor time of this process, so that other processes do not affect it.
 double processorSeconds() { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
 
 SampledBox cube(std::size_t cells) {

@@ -1,6 +1,6 @@
-// A project whose multi-point request lists a million points, loaded and saved, beside an XML document with the same
-// integers in one element. The XML reader puts them into a list of points. Compare the times of a pair; the rate is in
-// points.
+// Loads and saves a project whose multi-point request lists a million points. The reference is an XML document with the
+// same integers in one element, which the XML reader stores in a list of points. Compare the times of each pair; the
+// rate is in points.
 
 #include <benchmark/benchmark.h>
 
@@ -18,7 +18,7 @@ using quarn::ivec3;
 
 constexpr int numberOfPoints = 1000000;
 
-// Scattered over a grid of 1000 cells in each direction.
+// Random points in a grid of 1000 cells in each direction.
 std::vector<ivec3> makePoints() {
     std::vector<ivec3> points;
     for (int i = 0; i < numberOfPoints; ++i) points.emplace_back(i * 7 % 1000, i / 1000, i * 13 % 997);

@@ -1,4 +1,4 @@
-// Ten million points of a multi-point result, read by block and value by value, and beside that by one fread of a
+// Reads ten million points of a multi-point result by block and value by value. The reference is one fread of a
 // component's file. Compare the bytes per second.
 
 #include <benchmark/benchmark.h>
@@ -22,7 +22,7 @@ float valueAt(std::size_t point, int component) {
     return static_cast<float>(point) / 3 + static_cast<float>(component);
 }
 
-// One time step of a group. The geometry plays no part, so that there is none.
+// One time step of a group, without a geometry file, which is not needed here.
 class Result {
 public:
     Result() {

@@ -31,7 +31,7 @@ public:
     /// The lower X type for a side outside the enumeration.
     BoundaryType getBoundaryType(BoundingBoxSide side) const;
 
-    /// Ignores a side outside the enumeration. What hasPECBoundary() and its like answer follows only with
+    /// Ignores a side outside the enumeration. hasPECBoundary() and the other cached answers change only with
     /// cacheVariables().
     void setBoundaryType(BoundingBoxSide side, BoundaryType type);
 
@@ -55,10 +55,10 @@ public:
     float getTheta() const { return m_theta; }
     float getFrequency() const { return m_frequency; }
 
-    /// Sets the direction (degrees) and the frequency (Hz) of the phase shift between periodic faces, and has it used.
+    /// Sets the direction (degrees) and the frequency (Hz) of the phase shift between periodic faces, and enables it.
     void addPeriodicScanAngleParameters(float phi, float theta, float frequency);
 
-    /// Derives the following six answers from the types of the sides. Symmetry planes count in none of them.
+    /// Updates the following six answers from the types of the sides. Symmetry planes count in none of them.
     void cacheVariables();
     int getNumberOfPECBoundaries() const { return m_numberOfPECBoundaries; }
     bool hasLiaoBoundary() const { return m_hasLiao; }

@@ -16,7 +16,8 @@ class QTextStream;
 
 namespace quarn {
 
-/// A lumped element on the grid: what all kinds of it share. The kinds (ComponentKinds.h) add the electrical values.
+/// A lumped element on the grid: the part that all kinds have in common. The kinds (ComponentKinds.h) add the
+/// electrical values.
 ///
 /// The equality operators of this class and of the classes within it write "different " and the name of the first
 /// member that differs to standard output before they return false. They compare what is listed here, not the
@@ -34,7 +35,7 @@ public:
         LumpedComponent = 6,
         SBlock = 7,
     };
-    /// What becomes of the self and mutual effects of the port's own structure.
+    /// How the self and mutual effects of the port's own structure are treated.
     enum Calibration : std::int32_t {
         KeepSelfKeepMutual = 0,
         RemoveSelfRemoveMutual = 1,
@@ -109,7 +110,7 @@ public:
 
         std::array<int, 2> nodes{-1, -1};  ///< indices of the component's end points
         int type = NoExtent;
-        double radius = -1.0;  ///< of a cylindrical line
+        double radius = -1.0;  ///< radius of a cylindrical line
         tavrix::Cartesian3D center;
         tavrix::Cartesian3D normal;
         double radius1 = 0.0;  ///< inner radius of a coaxial line
@@ -175,7 +176,7 @@ public:
     bool hasExtent() const;
 
     /// The two end points of impedance line `index` and all points of its geometry, a coaxial line's normal among them.
-    /// A node that is no end point gives the origin. The index is not checked.
+    /// A node that is not the index of an end point gives the origin. The index is not checked.
     std::vector<tavrix::Cartesian3D> getAllPointsOfImpedanceLine(int index) const;
 
     /// The parts of the output file name between its first and its last underscore, each followed by a blank; without
@@ -218,7 +219,7 @@ inline bool operator!=(const CircuitComponent::ImpedanceLine& a, const CircuitCo
     return !(a == b);
 }
 
-/// The words of the project file; a word that is none of them reads as the unknown value.
+/// The words of the project file; any other word reads as the unknown value.
 QUARN_EXPORT QTextStream& operator<<(QTextStream& out, CircuitComponent::PinGroup::ModelType model);
 QUARN_EXPORT QTextStream& operator>>(QTextStream& in, CircuitComponent::PinGroup::ModelType& model);
 QUARN_EXPORT QTextStream& operator<<(QTextStream& out, CircuitComponent::PinGroup::SignalType signal);

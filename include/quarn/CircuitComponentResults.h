@@ -6,8 +6,8 @@
 #include "quarn/Export.h"
 #include "quarn/RecordCodec.h"
 
-/// What the engine records at circuit components. The files do not say what their numbers mean; the names here are
-/// those of their usual use, and the library only moves the numbers.
+/// Results that the engine records at circuit components. The files do not name their values: the names here follow the
+/// usual use, and the library does not interpret the values.
 namespace quarn {
 
 struct QUARN_EXPORT CircuitComponentVCTransientRecord {
@@ -26,7 +26,7 @@ struct QUARN_EXPORT CircuitComponentVCTransientRecord {
 };
 extern template class QUARN_EXPORT RecordCodec<CircuitComponentVCTransientRecord>;
 
-/// Voltage and current by time.
+/// Voltage and current as functions of time.
 class QUARN_EXPORT CircuitComponentVCTransient : public RecordCodec<CircuitComponentVCTransientRecord> {};
 
 struct QUARN_EXPORT CircuitComponentTdafsSParameterRecord {
@@ -45,7 +45,7 @@ struct QUARN_EXPORT CircuitComponentTdafsSParameterRecord {
 };
 extern template class QUARN_EXPORT RecordCodec<CircuitComponentTdafsSParameterRecord>;
 
-/// An S-parameter by frequency, from adaptive frequency sampling.
+/// An S-parameter as a function of frequency, from adaptive frequency sampling.
 class QUARN_EXPORT CircuitComponentTdafsSParameter : public RecordCodec<CircuitComponentTdafsSParameterRecord> {};
 
 struct QUARN_EXPORT CircuitComponentVCSteadyStateRecord {
@@ -83,7 +83,7 @@ struct QUARN_EXPORT CircuitComponentVCBroadbandRecord {
 };
 extern template class QUARN_EXPORT RecordCodec<CircuitComponentVCBroadbandRecord>;
 
-/// Voltage, current and a complex value by frequency.
+/// Voltage, current and a complex value as functions of frequency.
 class QUARN_EXPORT CircuitComponentVCBroadband : public RecordCodec<CircuitComponentVCBroadbandRecord> {};
 
 }  // namespace quarn

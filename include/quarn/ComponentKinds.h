@@ -111,7 +111,7 @@ private:
     Polarity m_measurementPolarity;
 };
 
-/// A diode by its SPICE parameters.
+/// A diode, described by its SPICE parameters.
 class QUARN_EXPORT Diode : public CircuitComponent {
 public:
     Diode(const CircuitComponent& base, float depletionCapacitance, float emissionCoefficient, float forwardCoefficient,
@@ -161,8 +161,8 @@ private:
     Polarity m_measurementPolarity;
 };
 
-/// A rational admittance, by the coefficients of its numerator and denominator. The project file does not carry the
-/// coefficients, so that a lumped component cannot be read back.
+/// A rational admittance, described by the coefficients of its numerator and denominator. The project file does not
+/// carry the coefficients, so that a lumped component cannot be read back.
 class QUARN_EXPORT LumpedComponent : public CircuitComponent {
 public:
     LumpedComponent(const CircuitComponent& base, Polarity measurementPolarity,

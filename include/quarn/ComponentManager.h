@@ -31,10 +31,10 @@ public:
     /// Adds a port behind the last port, and any other component at the end. Throws a std::runtime_error, with the list
     /// as it was, when the name must be unique and is not, and when a port is to be added to a list that has a port
     /// behind another component. A port costs a walk over the list; the cost of any other component does not grow with
-    /// the list. hasNonlinearCapacitor() follows only with cacheVariables().
+    /// the list. hasNonlinearCapacitor() is updated only by cacheVariables().
     void insert(CircuitComponent* component, bool checkUniqueness);
 
-    /// Derives the number of ports and hasNonlinearCapacitor() from the list.
+    /// Updates the number of ports and hasNonlinearCapacitor() from the list.
     void cacheVariables();
 
     /// Empties the list without deleting the components.

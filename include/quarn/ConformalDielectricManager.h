@@ -4,7 +4,7 @@
 
 namespace quarn {
 
-/// Base of what assigns dielectrics to cells that a surface cuts. A GeometryFile hands the pointer on and nothing else.
+/// Base class of objects that assign dielectrics to cells cut by a surface. A GeometryFile only passes the pointer on.
 class QUARN_EXPORT ConformalDielectricManager {
 public:
     ConformalDielectricManager() = default;

@@ -9,7 +9,7 @@
 namespace quarn {
 
 /// Reads numbers from a binary file, in the byte order of the machine (quarn/BinaryFile.h). Owns its stream and closes
-/// it at the end of its life. Record classes may derive from it.
+/// it when it is destroyed. Record classes may derive from it.
 class QUARN_EXPORT DataFileReader {
 public:
     DataFileReader() = default;
@@ -17,7 +17,7 @@ public:
     DataFileReader& operator=(const DataFileReader&) = delete;
     virtual ~DataFileReader();
 
-    /// Closes what is open, then opens the file at `path`.
+    /// Closes the open file, if any, then opens the file at `path`.
     bool open(const QString& path);
 
     bool isOpen() const { return m_file != nullptr; }
@@ -31,19 +31,19 @@ public:
     bool read(float& value);
     bool read(double& value);
 
-    /// Reads up to `count` items of `size` bytes, as they are, at the cost of one copy. Returns how many were there as
-    /// a whole and goes behind the last of them; 0 when no file is open.
+    /// Reads up to `count` items of `size` bytes, as they are, at the cost of one copy. Returns the number of complete
+    /// items and moves the position behind the last of them; 0 when no file is open.
     std::size_t readBlock(void* items, std::size_t size, std::size_t count);
 
-    /// Bytes from the current position to the end of the file; 0 behind the end, for what has no end and when no file
-    /// is open. Costs calls of the system: to be asked before a block, not before a number.
+    /// Bytes from the current position to the end of the file; 0 behind the end, for files without an end, and when no
+    /// file is open. Makes system calls: call it before a block, not before each number.
     long bytesLeft();
 
-    /// Goes to `offset` bytes from the start of the file. False when that is below 0 or no file is open; a position
-    /// behind the end of the file is none to be refused, but nothing can be read there.
+    /// Moves to `offset` bytes from the start of the file. False when that is below 0 or no file is open; a position
+    /// behind the end of the file is accepted, but nothing can be read there.
     bool seek(long offset);
 
-    /// Goes `count` bytes on from the current position, or back; otherwise like seek.
+    /// Moves `count` bytes forward from the current position, or back when negative; otherwise like seek.
     bool skip(int count);
 
     /// Bytes from the start of the file; -1 when no file is open.

@@ -8,7 +8,7 @@
 namespace quarn {
 
 /// Writes numbers to a binary file, in the byte order of the machine (quarn/BinaryFile.h). Owns its stream; flushes and
-/// closes it at the end of its life. Numbers wait in a buffer: a full disk may show only when the file is flushed or
+/// closes it when it is destroyed. Output is buffered: a full disk may be detected only when the file is flushed or
 /// closed.
 class QUARN_EXPORT DataFileWriter {
 public:
@@ -17,10 +17,11 @@ public:
     DataFileWriter& operator=(const DataFileWriter&) = delete;
     virtual ~DataFileWriter();
 
-    /// Flushes and closes what is open, then opens the file at `path` in a mode of C stdio, such as "wb".
+    /// Flushes and closes the open file, if any, then opens the file at `path` in a mode of C stdio, such as "wb".
     bool open(const QString& path, const QString& mode);
 
-    /// The same, but tries again for up to `maximumWait` milliseconds; `waited`, if given, receives how many it took.
+    /// Like open, but tries again for up to `maximumWait` milliseconds; `waited`, if given, receives the milliseconds
+    /// waited.
     bool openWithRetries(const QString& path, const QString& mode, int maximumWait, int* waited = nullptr);
 
     bool isOpen() const { return m_file != nullptr; }
@@ -33,11 +34,11 @@ public:
     bool write(const float& value);
     bool write(const double& value);
 
-    /// Goes to `offset` bytes from the start of the file. False when that is below 0 or no file is open. A gap behind
+    /// Moves to `offset` bytes from the start of the file. False when that is below 0 or no file is open. A gap behind
     /// the end of the file is filled with zeros once something is written there.
     bool seek(long offset);
 
-    /// Goes `count` bytes on from the current position, or back; otherwise like seek.
+    /// Moves `count` bytes forward from the current position, or back when negative; otherwise like seek.
     bool skip(int count);
 
     /// False when not everything could be written or no file is open.

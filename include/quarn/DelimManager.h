@@ -23,16 +23,15 @@ namespace quarn {
 /// Every operation returns false when it failed or when there is nothing more to read, throws nothing, and resets the
 /// status of a stream that it finds or leaves in error. No operation runs past the end of the stream or recurses.
 ///
-/// Any stream that can seek will do. A stream over a string is walked in place; on a stream over a device each line
-/// that is only looked at costs a seek and a decoding of what lies ahead, so that large files are best read into a
-/// string first.
+/// The stream must be seekable. A stream over a string is read in place; on a stream over a device each line that is
+/// only inspected costs a seek and a decoding of the text ahead, so large files are best read into a string first.
 class QUARN_EXPORT DelimManager {
 public:
     DelimManager(QTextStream& stream, const QString& filename);
 
     QTextStream& GetStream() const { return *m_stream; }
 
-    /// The file name is carried along for the caller and plays no part in reading or writing.
+    /// The file name is kept for the caller and does not affect reading or writing.
     const QString& GetFilename() const { return m_filename; }
     void SetFilename(const QString& filename) { m_filename = filename; }
 
@@ -48,30 +47,30 @@ public:
     /// Enters the block that the next line opens. An empty `name` accepts any block and receives its name; otherwise
     /// the block must bear that name. `value` is what follows the "> " of the open line, untrimmed; `description` is
     /// set only when a description line follows. When it returns false the line is left unread. At most 1000 characters
-    /// of the open line are seen.
+    /// of the open line are examined.
     bool IsDelim(QString& name, QString& value, QString& description);
 
-    /// Tells whether the innermost open block goes on. False at its close line, which is consumed, and at the end of
-    /// the stream. The close line of another block is consumed and passed over. At most 1000 characters of a line are
-    /// seen at a time. The last line of a stream is never content.
+    /// Whether the innermost open block has more content. False at its close line, which is consumed, and at the end of
+    /// the stream. The close line of another block is consumed and ignored. At most 1000 characters of a line are
+    /// examined at a time. The last line of a stream is never content.
     bool ContinueReading();
 
     /// Skips the rest of the innermost open block, its close line included. False when no block is open or when the
     /// stream ends first.
     bool SeekToEndOfDelim();
 
-    /// Rewinds the stream, forgets the innermost open block and goes to the first open line.
+    /// Rewinds the stream, drops the innermost open block from the stack and moves to the first open line.
     bool GetFirstDelim(QString& name, QString& value, QString& description);
 
-    /// Goes forward to the next open line and enters its block, leaving blocks that close on the way (of two close
+    /// Moves forward to the next open line and enters its block, leaving blocks that close on the way (of two close
     /// lines in a row only the first counts). False at a close line that does not match the innermost open block. The
     /// value is trimmed; of the description the first eleven characters are dropped and its escapes are undone.
     bool GetNextDelim(QString& name, QString& value, QString& description);
 
-    /// Rewinds the stream and goes to the first block called `name`, in any case.
+    /// Rewinds the stream and moves to the first block called `name`, ignoring case.
     bool FindFirstDelim(const QString& name, QString& value, QString& description);
 
-    /// Goes forward to the next block called exactly `name`.
+    /// Moves forward to the next block called exactly `name`.
     bool FindNextDelim(const QString& name, QString& value, QString& description);
 
 private:

@@ -10,7 +10,7 @@
 /// permittivities relative to vacuum, relaxation times in seconds, frequencies in Hz.
 namespace quarn {
 
-/// What materials with poles share: a list of effective conductivities, copied when the material is made.
+/// Base class of the materials with poles: a list of effective conductivities, copied at construction.
 class QUARN_EXPORT ElectricDispersive : public Material {
 public:
     const std::vector<float>& getEffectiveConductivities() const { return m_effectiveConductivities; }

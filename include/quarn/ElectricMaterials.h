@@ -80,7 +80,7 @@ private:
     bool m_useSurfaceConductivity = false;
 };
 
-/// A material that is known by samples, each at one frequency.
+/// A material described by samples, each at one frequency.
 class QUARN_EXPORT ElectricSampled : public Material {
 public:
     struct Parameters {

@@ -16,7 +16,7 @@ class Grid;
 /// and the image of the fields behind that plane closes the box.
 ///
 /// There is no box for two or more PEC boundaries, for magnetic conductors, for periodic boundaries, or in a grid that
-/// is too small; isValid() tells.
+/// is too small: isValid() is false then.
 class QUARN_EXPORT FarZoneBox {
 public:
     /// A face of the box. The face of an invalid box may be one that was considered before it turned out invalid.

@@ -28,7 +28,7 @@ struct QUARN_EXPORT FarZoneSSFieldFileRecord {
 };
 extern template class QUARN_EXPORT RecordCodec<FarZoneSSFieldFileRecord>;
 
-/// Far fields by direction, as computed for the angles of a request.
+/// Far fields in the directions of a request.
 class QUARN_EXPORT FarZoneSSFieldFile : public RecordCodec<FarZoneSSFieldFileRecord> {};
 
 /// The steady-state fields in one cell of a face of the far-zone box, tangential to the face. The components are y and

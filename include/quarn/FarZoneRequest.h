@@ -43,12 +43,11 @@ public:
     QString getUANOutputFileName() const;
     QString getCircularPolarizedUANOutputFileName() const;
 
-    /// Reads the rest of the block in which the reader stands into this request, in place of what it held. Unknown
-    /// words are passed over one by one, and a number that is missing is zero and ends the reading. Returns whether the
-    /// stream is in order.
+    /// Replaces this request by the rest of the block at the reader's position. Unknown words are skipped one by one; a
+    /// missing number is zero and ends the reading. Returns whether the stream has no error.
     bool StreamIn(DelimManager& delim);
 
-    /// Writes the lines of the request without a block around them. Returns whether the stream is in order.
+    /// Writes the lines of the request without a block around them. Returns whether the stream has no error.
     bool StreamOut(DelimManager& delim) const;
 
     friend bool operator==(const FarZoneRequest& a, const FarZoneRequest& b) {

@@ -27,27 +27,27 @@ public:
 
     /// Loads the box field file at `path`, which has a FileHeader of type 8 and version 0 and, in the order of the
     /// faces x lower, x upper, y lower, ..., z upper, a FieldsOnSteadyStateFarZoneBoxFile record for each of their
-    /// cells. What stands behind them is ignored.
+    /// cells. Anything after them is ignored.
     ///
     /// Sets `errorMessage` on failure, else leaves it alone: when the box does not lie in the grid or the grid has no
-    /// nodes, when memory for the fields cannot be had, when the file cannot be opened, is of another type or ends too
-    /// early. The lists of fields then hold what was read and may be shorter than their face. Memory is used for no
-    /// more than the file holds. An invalid box has no cells.
+    /// nodes, when there is not enough memory for the fields, when the file cannot be opened, is of another type or
+    /// ends too early. The lists of fields then hold what was read and may be shorter than their face. Memory is used
+    /// for no more than the file holds. An invalid box has no cells.
     FieldsOnSSFarZoneBox(const Grid& grid, const QString& path, const FarZoneBox& box, QString& errorMessage);
 
     FieldsOnSSFarZoneBox(const FieldsOnSSFarZoneBox& other) = default;
     FieldsOnSSFarZoneBox& operator=(const FieldsOnSSFarZoneBox& other) = default;
 
-    /// What is moved from holds an invalid box, no cells and no fields, and is not complete.
+    /// A moved-from object holds an invalid box, no cells and no fields, and is not complete.
     FieldsOnSSFarZoneBox(FieldsOnSSFarZoneBox&& other) noexcept;
     FieldsOnSSFarZoneBox& operator=(FieldsOnSSFarZoneBox&& other) noexcept;
 
-    /// To be called, for a box that touches a perfectly conducting plane, before its far fields are computed. The
-    /// mirrored fields need no lists of their own, as the box's own are summed a second time with the signs of the
-    /// image; this makes sure that they can be.
+    /// Call this before computing the far fields of a box that touches a perfectly conducting plane. The image needs no
+    /// lists of its own: the fields of the box are summed a second time with the signs of the image. This function
+    /// checks that they can be.
     ///
-    /// False when not all fields were loaded or when the plane is not where the grid has it. True for an invalid
-    /// box and one without an image, for which there is nothing to do.
+    /// False when not all fields were loaded or when the position of the plane differs from that in the grid. True for
+    /// an invalid box and for one without an image, where there is nothing to check.
     bool setupImageFields(const Grid& grid) const;
 
     /// Whether the fields of all cells were loaded.

@@ -9,7 +9,7 @@ namespace quarn {
 class DataFileReader;
 class DataFileWriter;
 
-/// What some of the engine's result files begin with. In a file it takes 16 bytes:
+/// The header of some of the engine's result files, 16 bytes long:
 ///
 ///     offset  type     meaning
 ///          0  char     "!tavrixfdtd", 11 bytes
@@ -27,8 +27,8 @@ public:
     FileHeader() = default;
     FileHeader(std::uint32_t type, std::uint32_t fileVersion) : fileType(type), version(fileVersion) {}
 
-    /// False, with the fields as they were, when the file does not go on with a complete header. Any type and version
-    /// will do: they are for the reader of the file to judge.
+    /// False, with the fields unchanged, when no complete header follows in the file. Any type and version are
+    /// accepted; the reader of the file checks them.
     bool read(DataFileReader& reader);
 
     /// Only the lower 16 bits of the fields are written.

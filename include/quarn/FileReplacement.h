@@ -47,8 +47,9 @@ public:
     /// Whether the target itself is the file to write, so that its earlier content is lost with the first byte.
     bool isTarget() const { return m_path == m_target; }
 
-    /// Puts the content at its place. To be called when the file is closed. False when that is not possible; the
-    /// earlier file then stays as it was unless the disk filled up or failed while the content was copied into it.
+    /// Puts the new content in the place of the target. Call it after closing the file. False when that is not
+    /// possible; the earlier file then stays as it was unless the disk filled up or failed while the content was copied
+    /// into it.
     bool takePlace();
 
     /// The reason for an empty path() or for the last failure of takePlace(), without a full stop.

@@ -46,10 +46,10 @@ private:
 /// Ownership: the materials and maps that are set belong to the GeometryFile, each object once however often it is
 /// listed; what a setter or an assignment takes out of the lists is deleted, so that pointers to it dangle. Physical
 /// parameters that a load or a copy made live as long as any material that shares them, those that a caller added
-/// remain the caller's. The manager is never owned.
+/// remain the caller's. The manager is never owned by the file.
 ///
 /// Copying is deep: the copy has materials, physical parameters and maps of its own, and shares the manager. A material
-/// that is none of the library's classes cannot be copied; its place in the copy's list is null.
+/// of a class outside the library cannot be copied; its place in the copy's list is null.
 class QUARN_EXPORT GeometryFile {
 public:
     GeometryFile();

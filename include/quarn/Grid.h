@@ -10,7 +10,7 @@ namespace quarn {
 
 /// The rectilinear grid of a run. For each axis it holds the electric nodes, the magnetic nodes half-way between them,
 /// and the sizes of the electric cells (between electric nodes) and of the magnetic cells (between magnetic nodes).
-/// Lengths are in metres. An axis of n cells has n nodes of each kind: the far side of its last cell is no node.
+/// Lengths are in metres. An axis of n cells has n nodes of each kind: the far side of its last cell is not a node.
 ///
 /// Indices are not checked. A grid that was never initialised has no cells, and its bounds are 0.
 class QUARN_EXPORT Grid {
@@ -27,12 +27,12 @@ public:
     virtual ~Grid();
 
     /// Lays out the three axes. Returns false, with the grid as it was, when an axis has more than maximumCells or when
-    /// the memory cannot be had.
+    /// there is not enough memory.
     ///
-    /// Runs come in ascending order. Cells that no run covers have the size zero. A run that does not ascend replaces
-    /// the earlier ones from its beginning on; one that begins below 0 begins at 0, and what lies beyond the last cell
-    /// is left out. Without nodes, only the origins and the sizes of the electric cells are kept. An axis without cells
-    /// still has its origin.
+    /// Runs are expected in ascending order. Cells that no run covers have the size zero. A run that does not ascend
+    /// replaces the earlier ones from its beginning on; one that begins below 0 begins at 0, and runs beyond the last
+    /// cell are ignored. Without nodes, only the origins and the sizes of the electric cells are kept. An axis without
+    /// cells still has its origin.
     virtual bool initialize(std::uint32_t cellsInX, std::uint32_t cellsInY, std::uint32_t cellsInZ, float originX,
                             float originY, float originZ, const Runs& runsInX, const Runs& runsInY, const Runs& runsInZ,
                             bool withNodes);

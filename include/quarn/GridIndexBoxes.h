@@ -15,9 +15,9 @@ namespace quarn {
 /// points that lie in no box. It numbers its cells, so that arrays of results can be indexed by them: first the cells
 /// of each box in turn, z fastest and x slowest, then the spare points in their order.
 ///
-/// Boxes and exclusions may come from files, so whatever they hold has a meaning. A box whose lower corner lies above
-/// its upper one on some axis holds no cells and is dropped. A cell in two boxes has two numbers. Sizes may exceed all
-/// integers: counts then stop at the largest int, and cells beyond it have no number, but still belong to the set.
+/// Boxes and exclusions may come from files, so any values are accepted. A box whose lower corner lies above its upper
+/// one on some axis holds no cells and is dropped. A cell in two boxes has two numbers. Sizes may exceed the range of
+/// int: counts then stop at the largest int, and cells beyond it have no number, but still belong to the set.
 class QUARN_EXPORT GridIndexBoxes {
 public:
     /// Lower and upper corner, both inclusive.
@@ -26,13 +26,13 @@ public:
     GridIndexBoxes() = default;
 
     /// The set of these points, in any order; a point that comes twice is taken once. Points that fill their bounding
-    /// box well become one box, others are split along an axis and each half is treated again. Costs the sorting of the
-    /// list, and a walk over it for each doubling of its extents.
+    /// box well become one box, others are split along an axis and each half is treated again. The cost is that of
+    /// sorting the list and of one pass over it for each doubling of its extents.
     explicit GridIndexBoxes(std::vector<ivec3> points);
 
     /// The cells of the boxes without the exclusions, and the spare points as they are. Boxes may overlap; an exclusion
     /// counts for each box in which it lies. Boxes that are excluded completely are dropped. With n boxes and
-    /// exclusions the cost is of order n log^3 n at worst, besides the exceptions that come of it. Throws a
+    /// exclusions the cost is of order n log^3 n at worst, plus that of the resulting exceptions. Throws a
     /// std::runtime_error if boxes overlap so much that exclusions had to be stored more than 2^20 times and more than
     /// 256 times for each box and each exclusion that lies in a box.
     GridIndexBoxes(std::vector<Box> boxes, const std::set<ivec3>& exclusions, std::vector<ivec3> sparePoints);

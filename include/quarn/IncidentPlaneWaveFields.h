@@ -6,8 +6,8 @@
 #include "quarn/Export.h"
 #include "quarn/RecordCodec.h"
 
-/// The incident field of a plane wave, as the engine records it. The files do not say what their numbers mean; the
-/// names here are those of their usual use, and the library only moves the numbers.
+/// The incident field of a plane wave, as the engine records it. The files do not name their values: the names here
+/// follow the usual use, and the library does not interpret the values.
 namespace quarn {
 
 struct QUARN_EXPORT IncidentPlaneWaveFieldsInstantaneousRecord {
@@ -28,7 +28,7 @@ struct QUARN_EXPORT IncidentPlaneWaveFieldsInstantaneousRecord {
 };
 extern template class QUARN_EXPORT RecordCodec<IncidentPlaneWaveFieldsInstantaneousRecord>;
 
-/// The incident field by time.
+/// The incident field as a function of time.
 class QUARN_EXPORT IncidentPlaneWaveFieldsInstantaneous
     : public RecordCodec<IncidentPlaneWaveFieldsInstantaneousRecord> {};
 

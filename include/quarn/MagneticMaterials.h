@@ -185,7 +185,7 @@ private:
     float m_b2Dot;
 };
 
-/// A medium that is known by samples, each at one frequency.
+/// A medium described by samples, each at one frequency.
 class QUARN_EXPORT MagneticSampled : public Material {
 public:
     struct Parameters {

@@ -29,12 +29,12 @@ public:
     float getPerfussionByBlood() const { return m_perfussionByBlood; }
     float getMetabolicHeat() const { return m_metabolicHeat; }
 
-    /// Reads the rest of the "PhysicalParameters" block in which the reader stands, with the keys in any order. A key
-    /// that is missing keeps its value, an unknown one is dropped with its line, and a number that cannot be read ends
-    /// the reading. Returns whether the stream is in order.
+    /// Reads the rest of the "PhysicalParameters" block at the reader's position, with the keys in any order. A missing
+    /// key keeps its value, an unknown one is skipped with its line, and an unreadable number ends the reading. Returns
+    /// whether the stream has no error.
     bool streamIn(DelimManager& delim);
 
-    /// Writes the block "PhysicalParameters" with `label` as its value. Returns whether the stream is in order.
+    /// Writes the block "PhysicalParameters" with `label` as its value. Returns whether the stream has no error.
     bool streamOut(DelimManager& delim, const QString& label) const;
 
     QUARN_EXPORT friend bool operator==(const PhysicalParameters& a, const PhysicalParameters& b);

@@ -44,8 +44,8 @@ private:
 /// between its two radii. Lengths are in metres.
 ///
 /// Via files are binary: a check value, a count, and the vias, in the byte order of the machine. Failures of files and
-/// streams are std::runtime_errors, and a list that could not be read is left empty. A count is never trusted: memory
-/// grows only with what was read.
+/// streams are reported as std::runtime_error, and a list that could not be read is left empty. A count is never
+/// trusted: memory grows only with what was read.
 class QUARN_EXPORT MeshlessVia {
 public:
     /// Unset points, radii of -1 and material values of 0.
@@ -68,7 +68,7 @@ public:
     double getResistivity() const { return m_resistivity; }
     double getPermeability() const { return m_permeability; }
 
-    /// Of the dielectric between the radii, in F/m.
+    /// The permittivity of the dielectric between the radii, in F/m.
     double getInnerDielectricPermittivity() const { return m_innerDielectricPermittivity; }
     void setInnerDielectricPermittivity(double permittivity) { m_innerDielectricPermittivity = permittivity; }
 
@@ -80,8 +80,8 @@ public:
     static void read_binary(std::vector<MeshlessVia>& vias, const std::string& path);
     static void read_binary_stream(std::vector<MeshlessVia>& vias, std::istream& stream);
 
-    /// Writes by way of a FileReplacement. Throws a std::runtime_error when that fails; an earlier file then stays as
-    /// it was where it could be replaced.
+    /// Writes through a FileReplacement. Throws a std::runtime_error when that fails; an earlier file then stays as it
+    /// was where it could be replaced.
     static void write_binary(const std::vector<MeshlessVia>& vias, const std::string& path);
     static void write_binary_stream(const std::vector<MeshlessVia>& vias, std::ostream& stream);
 

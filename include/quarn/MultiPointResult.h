@@ -13,7 +13,7 @@ namespace quarn {
 class DataFileReader;
 class DataFileWriter;
 
-/// The fields recorded at a set of points: which of them there are, and the files that hold them.
+/// The fields recorded at a set of points: which fields are recorded, and the files that hold them.
 ///
 /// A result is a set of small files that share a base name B. All numbers are in the byte order of the machine.
 ///
@@ -57,7 +57,7 @@ public:
     /// The real or the imaginary part of a component of a steady group. Each has a file.
     enum Part : std::int32_t { Xr, Yr, Zr, Xi, Yi, Zi };
 
-    /// @name What to loop over
+    /// @name All groups, components and parts
     /// @{
     static constexpr std::array<TransientGroup, 7> transientGroups{TransientScatteredE,
                                                                    TransientTotalE,
@@ -109,7 +109,7 @@ public:
     void setSerializationVersion(std::uint8_t version) { m_serializationVersion = version; }
 
     /// @name Names of the files
-    /// Each is the base name and what is added to it, whether there is such a file or not.
+    /// Each consists of the base name and a suffix; the file need not exist.
     /// @{
     QString getInfoFileName() const;
     QString getGeometryFileName() const;
@@ -123,7 +123,7 @@ protected:
     void setBaseFileName(const QString& name) { m_baseFileName = name; }
     void setNumberOfPoints(int number) { m_numberOfPoints = number; }
 
-    /// False for unknown groups, too; the known ones have then replaced those of the result.
+    /// Bits of unknown groups make reading fail; the known groups have been stored by then.
     bool readInfo();
     bool writeInfo() const;
 

@@ -15,8 +15,8 @@ public:
 
     /// Removes the geometry, the components that the info file and the lists name, and one time step and one frequency
     /// more than are listed, then the lists and the info file. In a folder that may be written but not listed,
-    /// components are removed by trying their names, for the first mostIndicesTried indices of a list.
-    /// Returns whether the info file was removed; when it cannot be read nothing is.
+    /// components are removed by trying their names, for the first mostIndicesTried indices of a list. Returns whether
+    /// the info file was removed; when it cannot be read, nothing is removed.
     bool deleteResult(const QString& baseFileName);
 
 private:

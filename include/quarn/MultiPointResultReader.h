@@ -23,12 +23,12 @@ namespace quarn {
 ///     endResultReading
 ///
 /// A component is read value by value or, at the speed of copying a file into memory, in blocks. While the engine is
-/// still writing, files may be missing or shorter than the result has points: what cannot be opened cannot be begun, a
-/// read fails where a file ends, and a block holds what is there. A read that fails leaves all components where they
-/// were, behind the last whole value, so that the same call reads on once the engine has gone on.
+/// still writing, files may be missing or shorter than the result has points: a group whose files cannot be opened
+/// cannot be begun, a read fails where a file ends, and a block holds the values present. A failed read leaves all
+/// components behind the last complete value, so that the same call succeeds once the engine has written more.
 class QUARN_EXPORT MultiPointResultReader : public MultiPointResult {
 public:
-    /// As many values as there are.
+    /// All values that the file holds.
     static constexpr std::size_t all = std::numeric_limits<std::size_t>::max();
 
     /// Reads the info file. False when it cannot be opened, is of another version or malformed.
@@ -36,8 +36,8 @@ public:
     bool endResultReading() { return closeComponents(); }
 
     /// @name Lists
-    /// Each replaces the list by what the file holds, so far. False, with an empty list, when it cannot be opened, its
-    /// version is not 0 or there is no memory for it.
+    /// Each replaces the list by what the file holds so far. False, with an empty list, when the file cannot be opened,
+    /// its version is not 0 or there is not enough memory.
     /// @{
     bool readTimesteps(std::vector<float>& times) const;
     bool readFrequencies(std::vector<float>& frequencies) const;
@@ -100,14 +100,14 @@ public:
     bool readTransientZ(float& value) { return readValue(Z, value); }
 
     /// Replaces `values` by the next `count` values of a component, or by as many as its file holds so far. They are
-    /// read as one block; memory is taken for no more than there is. False when the component is not open or the memory
-    /// cannot be had.
+    /// read as one block; memory is taken for no more than there is. False when the component is not open or there is
+    /// not enough memory.
     bool readTransientBlock(Component component, std::vector<float>& values, std::size_t count = all) {
         return readBlock(static_cast<std::size_t>(component), values, count);
     }
 
-    /// Goes over `count` values in each file that is open, or back; behind the end of a file no value is found. False
-    /// when none is open or there is no such place.
+    /// Moves forward by `count` values in each open file, or back when negative; behind the end of a file no value is
+    /// found. False when no file is open or the position would lie before the start of a file.
     bool skipTransient(int count) { return skipValues(count); }
 
     /// @name Steady groups
@@ -158,12 +158,12 @@ public:
     bool readSteadyZr(float& value) { return readValue(Zr, value); }
     bool readSteadyZi(float& value) { return readValue(Zi, value); }
 
-    /// Like readTransientBlock, of one part.
+    /// Like readTransientBlock, for one part.
     bool readSteadyBlock(Part part, std::vector<float>& values, std::size_t count = all) {
         return readBlock(static_cast<std::size_t>(part), values, count);
     }
 
-    /// Like skipTransient, in each part that is open.
+    /// Like skipTransient, for each open part.
     bool skipSteady(int count) { return skipValues(count); }
 
 private:

@@ -22,9 +22,10 @@ class GridIndexBoxes;
 ///                            endFrequency
 ///     endResultWriting
 ///
-/// Points come in the order of their numbers in the index boxes. What begins before the last of its kind was ended
-/// replaces it. Each operation is false when a file could not be opened or written. What is lost of a group that was
-/// not ended is reported by the next begin of a group of the same result, never by beginResultWriting.
+/// Points come in the order of their numbers in the index boxes. A group, time step or frequency that begins before the
+/// previous one was ended replaces it. Each operation returns false when a file could not be opened or written. Data
+/// lost from a group that was not ended is reported by the next begin of a group of the same result, never by
+/// beginResultWriting.
 class QUARN_EXPORT MultiPointResultWriter : public MultiPointResult {
 public:
     using MultiPointResult::MultiPointResult;
@@ -35,10 +36,11 @@ public:
     /// Writes the geometry file, as beginResultWriting does. False unless there are as many points as the result has.
     bool writeGeometry(const GridIndexBoxes& boxes) const;
 
-    /// Goes on to the next time step. `time`, in seconds, is in the list for others to read when the call returns.
+    /// Moves on to the next time step. When the call returns, `time`, in seconds, is in the list for other processes to
+    /// read.
     bool beginTimestep(float time);
 
-    /// Begins the last time step anew, with another time; or the first, if there was none yet.
+    /// Begins the last time step again, with another time; begins the first one if there is none yet.
     bool restartTimestep(float time);
 
     /// @name Beginning a group at the current time step
@@ -61,11 +63,11 @@ public:
     bool endTransient();
     bool endTimestep();
 
-    /// Goes on to the next frequency, in Hz; it is in the list when the call returns.
+    /// Moves on to the next frequency, in Hz; it is in the list when the call returns.
     bool beginFrequency(float frequency);
 
-    /// Goes to the frequency number `index` and adds all of `frequencies` to the list, but as doubles. Readers take the
-    /// list for floats, so that what they read of such a file are not these frequencies.
+    /// Moves to frequency number `index` and adds all of `frequencies` to the list, but as doubles. Readers read the
+    /// list as floats, so they do not get these frequencies back from such a file.
     bool beginFrequencyAtIndex(std::vector<double> frequencies, int index);
 
     /// @name Beginning a group at the current frequency

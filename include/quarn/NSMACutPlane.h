@@ -15,7 +15,7 @@ namespace quarn {
 ///
 /// Such a file is a sequence of lines "KEYWORD:,value", in which the keywords PATCUT, POLARI, NUPOIN and FSTLST
 /// introduce a cut and one line "angle,gain,second value" for each of its points follows. Angles are in degrees, gains
-/// in memory are what the gain mode of the read makes of them, as a rule power ratios.
+/// in memory are converted by the gain mode of the read, usually to power ratios.
 class QUARN_EXPORT NSMACutPlane {
 public:
     enum PatternCut : std::int32_t {
@@ -35,7 +35,7 @@ public:
         RCP = 3,
     };
 
-    /// What a gain g in a file means. The reference level is in decibels.
+    /// How a gain g in a file is converted. The reference level is in decibels.
     enum GainMode : std::int32_t {
         DecibelsToReference = 0,        ///< becomes 10^((g - reference) / 10)
         DipoleDecibelsToReference = 1,  ///< likewise, raised by the half-wave dipole's gain of 1.64
@@ -46,29 +46,30 @@ public:
     /// The gain and the second value of a line, by the angle in [0, 360).
     using Samples = std::map<float, std::pair<double, double>>;
 
-    /// Splits a line at the first `separator` into what stands before and after it. Taken from the line first are one
-    /// carriage return, one line feed, the comment that its last "!" begins, and then the blanks around the rest.
+    /// Splits a line at the first `separator` into what stands before and after it. First one carriage return, one line
+    /// feed, the comment that starts at the last "!", and then the surrounding white space are removed from the line.
     /// Without a separator the result is false and neither `key` nor `value` changes.
     static bool ProcessLine(const QString& line, QString& key, QString& value, const QString& separator);
 
     /// Reads one cut from a stream that stands at its first keyword, and leaves it after the cut's last point. Lines
-    /// without a keyword are passed over; the end of the stream ends the cut.
+    /// without a keyword are skipped; the end of the stream ends the cut.
     ///
-    /// False is returned, and nothing more read, at the first keyword that is not one of a cut, at an end marker other
-    /// than "ENDFIL:,EOF", at polarizations or a range of angles that lack their separator or are none, and at a sample
-    /// without a comma behind its gain, which is kept with gain 0. What was read until then stays.
+    /// False is returned, and nothing more read, at the first keyword that does not belong in a cut, at an end marker
+    /// other than "ENDFIL:,EOF", at unknown polarizations, at polarizations or a range of angles without their
+    /// separator, and at a sample without a comma behind its gain, which is kept with gain 0. What was read until then
+    /// stays.
     ///
     /// Numbers that cannot be read are 0. A line among the samples without a comma, or whose angle is not finite, is
     /// one of the points but adds no sample; of two samples at one angle the first is kept. Use a new object for each
     /// cut: samples add to those that the object has.
     bool StreamIn(QTextStream& stream, const float referenceLevel, const int gainMode);
 
-    /// Gives the gain of the sample at exactly this angle, in degrees and of any turn, as there is no interpolation.
-    /// Where no sample is, the result is false and `gain` does not change.
+    /// Gives the gain of the sample at exactly this angle, in degrees and in any turn; there is no interpolation.
+    /// Without such a sample the result is false and `gain` does not change.
     bool GetGainAtAngle(const float angle, double& gain) const;
 
-    /// Whether the gains, taken as power ratios, lie within 3 dB. Never true of a cut with a gain that is 0, negative
-    /// or not a number, nor of one without samples.
+    /// Whether the gains, taken as power ratios, lie within 3 dB. Never true for a cut without samples or with a gain
+    /// that is 0, negative or not a number.
     bool IsOmni() const;
 
     PatternCut GetPatternCut() const { return m_patternCut; }

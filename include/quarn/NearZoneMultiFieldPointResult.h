@@ -10,9 +10,9 @@
 
 namespace quarn {
 
-/// The fields recorded at one point: a header that says which, and one record for each sample. The header is kept by
-/// the object, for the records after it to be read or written by. Streams are the caller's: open, in binary mode, and
-/// in their place; null is refused.
+/// The fields recorded at one point: a header that says which, and one record for each sample. The object keeps the
+/// header, which determines the layout of the records. Streams belong to the caller and must be open in binary mode, at
+/// the header or record to be read or written; null is refused.
 class QUARN_EXPORT NearZoneMultiFieldPointResult {
 public:
     /// Where the point is, in metres, and which groups of fields its records hold. In a file it takes 19 bytes:
@@ -28,7 +28,7 @@ public:
         Header(float x, float y, float z, bool scatteredE, bool totalE, bool scatteredH, bool totalH, bool scatteredB,
                bool totalB, bool j);
 
-        /// Other than 0 only after a file of another version was refused.
+        /// Nonzero only after a file of another version was refused.
         std::int8_t getVersion() const { return m_version; }
 
         float getX() const { return m_x; }
@@ -106,14 +106,14 @@ public:
         }
     };
 
-    /// As written or read last.
+    /// The header written or read last.
     const Header& getHeader() const { return m_header; }
 
     /// Keeps the header once it is written.
     bool setAndWriteHeader(const Header& header, std::FILE* stream);
 
-    /// Keeps the header if it was read. False when the stream does not go on with a header, when its version is not 0
-    /// and when it has groups that are none; `header` then holds what was read before that showed, the groups included.
+    /// Keeps the header if it was read. False when no header follows in the stream, when its version is not 0 and when
+    /// it names unknown groups; `header` then holds what was read until then, the groups included.
     bool readAndGetHeader(std::FILE* stream, Header& header);
 
     bool writeRecord(const Record& record, std::FILE* stream) const;

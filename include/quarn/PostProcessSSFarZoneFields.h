@@ -27,8 +27,8 @@ public:
     unsigned int getFirstSetting() const { return m_firstSetting; }
     unsigned int getSecondSetting() const { return m_secondSetting; }
 
-    /// Appends a record for each angle, in their order. Angles may have any size; one that is not a number gives fields
-    /// that are none. Without cells or at frequency 0 fields are 0.
+    /// Appends a record for each angle, in their order. Angles may have any size; a NaN or infinite angle gives NaN
+    /// fields. Without cells or at frequency 0 the fields are 0.
     ///
     /// A few directions cost about 4 ns for each of them and each cell on the box, exact to rounding. For many, the
     /// cost is that of some tens of directions and then about 2 microseconds for each, whatever the number of cells,

@@ -5,8 +5,8 @@
 
 namespace quarn {
 
-/// Hears how much of a work is done, in units of the work's own, and says whether to go on with it. Called from the
-/// thread that works, at a bounded rate; `done` never falls.
+/// Receives how much of a computation is done, in the computation's own units, and returns whether to continue. Called
+/// from the computing thread, at a bounded rate; `done` never decreases.
 using ProgressReporter = std::function<bool(std::size_t done, std::size_t total)>;
 
 }  // namespace quarn

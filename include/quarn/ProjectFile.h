@@ -114,7 +114,7 @@ public:
     const WaveGuidePortManager* getWaveGuidePortManager() const { return m_waveGuidePortManager; }
     void setWaveGuidePortManager(WaveGuidePortManager* manager) { m_waveGuidePortManager = manager; }
 
-    /// Empty the managers' lists, if there are managers, without deleting what is listed.
+    /// Empty the lists of the managers, if any, without deleting the listed objects.
     void clearComponents();
     void clearWaveguidePorts();
 
@@ -154,7 +154,7 @@ public:
     const std::vector<const HACRequest*>& getHACRequests() const { return m_hacRequests; }
     std::vector<const HACRequest*>& getHACRequests() { return m_hacRequests; }
 
-    /// Appends what is wrong or doubtful with the run; never clears the lists.
+    /// Appends errors and warnings about the run; never clears the lists.
     void checkValidity(QStringList& errors, QStringList& warnings) const;
 
     QUARN_EXPORT friend void deleteContents(ProjectFile& project);

@@ -10,9 +10,9 @@ class DataFileReader;
 class DataFileWriter;
 
 /// Moves records of one type between memory and a file, where they follow each other without gaps. The caller opens the
-/// file, goes to the first record, past a header if there is one, and takes records until a read fails.
+/// file, moves to the first record, behind the header if there is one, and reads until a read fails.
 ///
-/// A record is a plain structure of numbers, all 0 at first. Its `fields` list them in the order of the file.
+/// A record is a plain structure of numbers, initially 0. Its `fields` list them in the order of the file.
 template <class RecordType>
 class RecordCodec {
 public:
@@ -28,8 +28,8 @@ public:
     static bool writeRecord(DataFileWriter& writer, const Record& record);
 
     /// Replaces `records` by the next `count` records, or by as many as there are, and returns whether there were that
-    /// many. They are read as one block; memory is taken for no more than the file holds, and none is read when it
-    /// cannot be had.
+    /// many. They are read as one block; memory is allocated for no more than the file holds, and nothing is read when
+    /// there is not enough.
     static bool readRecords(DataFileReader& reader, std::size_t count, std::vector<Record>& records);
 };
 

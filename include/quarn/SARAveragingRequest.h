@@ -25,12 +25,12 @@ public:
                         bool save1gYZPlanes, bool save10gXYPlanes, bool save10gZXPlanes, bool save10gYZPlanes,
                         const QString& outputAveragedFileName);
 
-    /// Reads the rest of the "SARAveraging" block in which the reader stands. What the block leaves out is false or 0,
+    /// Reads the rest of the "SARAveraging" block at the reader's position. What the block leaves out is false or 0,
     /// and the output file is "project". Inner blocks are not recognised.
     explicit SARAveragingRequest(DelimManager& delim);
 
-    /// Writes the block. The cutoff is written only with the automatic subregion. Returns whether the stream is in
-    /// order.
+    /// Writes the block. The cutoff is written only with the automatic subregion. Returns whether the stream has no
+    /// error.
     bool streamOut(DelimManager& delim) const;
 
     bool compute1gAverage() const { return m_compute1gAverage; }

@@ -46,7 +46,7 @@ public:
     /// passed over. The output names the total of these numbers. The partial files stay, and the output may be one of
     /// them.
     ///
-    /// On failure `error` says what failed and `warning` what comes of it:
+    /// On failure `error` says what failed and `warning` what the consequence is:
     /// - "SAR data will be incomplete on disk.": a partial file holds fewer records than it says, or the records cannot
     ///   be written. The output holds the whole records joined so far and names the total all the same (the largest
     ///   number that the file has room for, if the total is beyond it). Where the output is one of the partial files,
@@ -54,9 +54,9 @@ public:
     /// - "SAR data will be unavailable on disk.": anything else, such as a partial file that is a pipe or a device, or
     ///   no partial file at all. An earlier output stays as it was.
     ///
-    /// A reporter hears how many records are joined; when it stops the work, combining fails and an earlier output
-    /// stays as it was. Output is written by way of a FileReplacement, so that "stays as it was" does not hold where
-    /// that has to write the target itself. Memory does not depend on the size of the files.
+    /// A reporter receives the number of records joined; when it stops the work, combining fails and an earlier output
+    /// stays as it was. Output is written through a FileReplacement, so that "stays as it was" does not hold where that
+    /// has to write the target itself. Memory does not depend on the size of the files.
     /// @{
     static bool combineFiles(const QStringList& partialFileNames, const QString& outputFileName, QString& error,
                              QString& warning);
@@ -65,16 +65,17 @@ public:
     /// @}
 };
 
-/// Writes the file of a plane, from its beginning or at its end.
+/// Writes the file of a plane: a new file, or records at the end of an existing one.
 class QUARN_EXPORT SarResultWriter {
 public:
     /// Makes a new file. `numRecords` is the number of records that will follow in all, now or by appending. False,
     /// with no file open, when the file cannot be written, the plane is not one of the three or the number is negative.
-    /// An earlier file that is still open is closed; what it lost is no failure of this call.
+    /// An earlier file that is still open is closed; data lost there does not make this call fail.
     bool beginResultWriting(const QString& fileName, SARPlane::Plane plane, int planeIndex, int numRecords);
 
-    /// Opens a file for more records of its plane, waiting for half a second if another process holds it. Neither is
-    /// the file checked nor its number of records changed. False when it cannot be opened or the plane is none.
+    /// Opens a file for more records of its plane, waiting for half a second if another process holds it. The file is
+    /// not checked and its number of records is not changed. False when it cannot be opened or the plane is not one of
+    /// the three.
     bool beginResultAppending(const QString& fileName, SARPlane::Plane plane, int planeIndex);
 
     /// The index along the plane's normal is not written. False also when no file is open.
@@ -104,8 +105,8 @@ public:
     /// How many records the file still holds.
     std::int64_t getNumberOfRecordsLeft();
 
-    /// False, with the record as it was, at the end of the file and when none is open. A record that is not there as a
-    /// whole is read by a later call, once the file has grown.
+    /// False, with the record as it was, at the end of the file and when none is open. An incomplete record is read by
+    /// a later call, once the file has grown.
     bool readRecord(SarResult::Record& record);
 
     /// False when no file is open.

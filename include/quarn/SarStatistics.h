@@ -6,8 +6,8 @@
 #include "quarn/Export.h"
 #include "quarn/RecordCodec.h"
 
-/// Statistics of the specific absorption rate. The files do not say what all their numbers mean; the names here are
-/// those of their usual use, and the library only moves the numbers.
+/// Statistics of the specific absorption rate. The files do not name all their values: the names here follow the usual
+/// use, and the library does not interpret the values.
 namespace quarn {
 
 struct QUARN_EXPORT RawSarStatisticsRecord {
@@ -32,7 +32,7 @@ struct QUARN_EXPORT RawSarStatisticsRecord {
 };
 extern template class QUARN_EXPORT RecordCodec<RawSarStatisticsRecord>;
 
-/// Of the rates in single cells.
+/// Statistics of the rates in single cells.
 class QUARN_EXPORT RawSarStatistics : public RecordCodec<RawSarStatisticsRecord> {};
 
 struct QUARN_EXPORT AveragedSarStatisticsRecord {
@@ -64,7 +64,7 @@ struct QUARN_EXPORT AveragedSarStatisticsRecord {
 };
 extern template class QUARN_EXPORT RecordCodec<AveragedSarStatisticsRecord>;
 
-/// Of the rates averaged over a mass around each cell.
+/// Statistics of the rates averaged over a mass around each cell.
 class QUARN_EXPORT AveragedSarStatistics : public RecordCodec<AveragedSarStatisticsRecord> {};
 
 }  // namespace quarn

@@ -39,8 +39,8 @@ extern template class QUARN_EXPORT RecordCodec<SystemEigenModeRecord>;
 
 class QUARN_EXPORT SystemEigenMode : public RecordCodec<SystemEigenModeRecord> {};
 
-/// Dissipated power, in all and by material. How many values a record has for materials, the header of the file says,
-/// which the object keeps: read or write the header before the records.
+/// Dissipated power, in total and by material. The header of the file gives the number of materials in each record; the
+/// object keeps it, so read or write the header before the records.
 class QUARN_EXPORT SystemDissipatedPower {
 public:
     struct Header {
@@ -77,10 +77,10 @@ public:
 
     const Header& getHeader() const { return m_header; }
 
-    /// False when the file ends within the header; the one before is kept then.
+    /// False when the file ends within the header; the previous header is kept then.
     bool readHeader(DataFileReader& reader);
 
-    /// Keeps the header, also when it cannot be written.
+    /// Keeps the header even when it cannot be written.
     bool writeHeader(DataFileWriter& writer, const Header& header);
 
     /// Gives both lists the length that the header says. False when the file ends before or within the record, which

@@ -34,12 +34,12 @@ public:
                            const QString& initialTemperaturesFileName, const QString& finalTemperaturesFileName,
                            bool overrideDeltaTime, float defaultDeltaTime, float requestedDeltaTime);
 
-    /// Reads the rest of the "TemperatureRiseRequest" block in which the reader stands. What the block leaves out is
+    /// Reads the rest of the "TemperatureRiseRequest" block at the reader's position. What the block leaves out is
     /// false, 0 or empty, and the plane XY. File names are trimmed.
     explicit TemperatureRiseRequest(DelimManager& delim);
 
     /// Writes the block; its steady-state type and its plane are left out where they have no name. Returns whether the
-    /// stream is in order.
+    /// stream has no error.
     bool streamOut(DelimManager& delim) const;
 
     /// The files of temperatures before the SAR sets in (initial), and after (final).
@@ -76,7 +76,7 @@ public:
     float getDefaultDeltaTime() const { return m_defaultDeltaTime; }
     float getRequestedDeltaTime() const { return m_requestedDeltaTime; }
 
-    /// What the names of result files end in: ".trise" and ".temperature.statistics". The prefix goes before the first
+    /// The extensions of the result files: ".trise" and ".temperature.statistics". The prefix stands before the first
     /// and names the plane: ".xy", ".yz", or ".zx" for all others.
     QString getTemperatureDifferenceFileNameExtension() const;
     QString getTemperatureStatisticsFileNameExtension() const;

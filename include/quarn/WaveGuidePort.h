@@ -25,7 +25,7 @@ public:
     WaveGuidePort& operator=(const WaveGuidePort& other);
     virtual ~WaveGuidePort();
 
-    /// A waveguide port has nothing to check.
+    /// Never finds anything: a waveguide port has no values to check.
     virtual void checkValidity(QStringList& errors, QStringList& warnings, Engine engine) const;
 
     WaveGuidePortType getWaveGuidePortType() const { return m_portType; }
@@ -92,9 +92,9 @@ private:
     QString m_modeName = QStringLiteral("noname");
 };
 
-/// The waveguide ports of a project, ordered by waveguide and mode number as long as they are inserted; a loaded list
-/// keeps the order of its file. The manager does not own the ports: a copy shares them, and whoever created them
-/// deletes them. Null pointers are left out.
+/// The waveguide ports of a project, ordered by waveguide and mode number when they are inserted; a loaded list keeps
+/// the order of its file. The manager does not own the ports: a copy shares them, and whoever created them deletes
+/// them. Null pointers are left out.
 class QUARN_EXPORT WaveGuidePortManager {
 public:
     WaveGuidePortManager() = default;
@@ -105,7 +105,7 @@ public:
 
     /// Adds a port and puts the list in order; of listed ports with the same numbers the last one stays. Throws a
     /// std::runtime_error, with the list as it was, when there is a port with these numbers already. getNumberOfPorts()
-    /// follows only with cacheVariables().
+    /// is updated only by cacheVariables().
     void insert(WaveGuidePort* port);
 
     void cacheVariables() { m_numberOfPorts = getNumberOfWaveguidePorts(); }

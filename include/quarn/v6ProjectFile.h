@@ -24,8 +24,8 @@ class DelimManager;
 ///
 /// Loading: fills this object's members with new objects, which the caller owns from then on (see deleteContents());
 /// objects that were there before are replaced and not deleted, waveforms, steady-state frequencies and requests are
-/// added to those that are there. Unknown blocks and keys are skipped. What a damaged file no longer says keeps the
-/// value that it had or takes its default; only an unsupported version is refused.
+/// added to those that are there. Unknown blocks and keys are skipped. A value that a damaged file lacks keeps its
+/// former value or takes its default; only an unsupported version is refused.
 class QUARN_EXPORT v6ProjectFile : public ProjectFile {
 public:
     v6ProjectFile();
@@ -42,10 +42,10 @@ public:
     unsigned int GetMinorFileVersionNumberToSave() const { return m_minorFileVersionToSave; }
 
     /// Writes the version line to the caller's stream, closes the caller's file and appends the rest to the file at
-    /// `path`. Always returns false; look at the file to know how it went.
+    /// `path`. Always returns false; check the file to learn the outcome.
     bool save(const QString& path, QTextStream& stream, QFile& file);
 
-    /// Writes the project to a stream. Returns true when the stream is in error afterwards, and false when all is well.
+    /// Writes the project to a stream. Returns true when the stream is in error afterwards, and false on success.
     bool saveToStream(QTextStream& stream);
 
     /// Reads the version line from the caller's stream, which stands at its start, detaches the stream, closes the

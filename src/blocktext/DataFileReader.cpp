@@ -13,12 +13,12 @@ using scalar::fileByteOrder;
 
 namespace {
 
-// Over the bytes of a number that is not there as a whole. Seeking also clears the mark that the end was reached, so
-// that a file that has grown is read on.
+// Goes back over the bytes of an incomplete number. Seeking also clears the end-of-file mark, so that reading continues
+// once the file has grown.
 void goBack(std::FILE* file, std::size_t count) { stream::seek(file, -static_cast<long>(count), SEEK_CUR); }
 
 template <scalar::ByteOrder order = scalar::ByteOrder::Native, class T>
-bool readOrStay(T& value, std::FILE* file) {
+bool readOrRestore(T& value, std::FILE* file) {
     const std::size_t count = scalar::readBytes<order>(value, file);
     if (count == sizeof value) return true;
     goBack(file, count);
@@ -35,12 +35,12 @@ bool DataFileReader::open(const QString& path) {
     return m_file != nullptr;
 }
 
-bool DataFileReader::read(signed char& value) { return readOrStay(value, m_file); }
-bool DataFileReader::read(short& value) { return readOrStay<fileByteOrder>(value, m_file); }
-bool DataFileReader::read(int& value) { return readOrStay<fileByteOrder>(value, m_file); }
-bool DataFileReader::read(long long& value) { return readOrStay<fileByteOrder>(value, m_file); }
-bool DataFileReader::read(float& value) { return readOrStay(value, m_file); }
-bool DataFileReader::read(double& value) { return readOrStay(value, m_file); }
+bool DataFileReader::read(signed char& value) { return readOrRestore(value, m_file); }
+bool DataFileReader::read(short& value) { return readOrRestore<fileByteOrder>(value, m_file); }
+bool DataFileReader::read(int& value) { return readOrRestore<fileByteOrder>(value, m_file); }
+bool DataFileReader::read(long long& value) { return readOrRestore<fileByteOrder>(value, m_file); }
+bool DataFileReader::read(float& value) { return readOrRestore(value, m_file); }
+bool DataFileReader::read(double& value) { return readOrRestore(value, m_file); }
 
 std::size_t DataFileReader::readBlock(void* items, std::size_t size, std::size_t count) {
     if (!m_file || size == 0) return 0;
@@ -53,7 +53,7 @@ long DataFileReader::bytesLeft() {
     const long position = tell();
     if (position < 0 || !stream::seek(m_file, 0, SEEK_END)) return 0;
     const long end = tell();
-    constexpr long endless = std::numeric_limits<long>::max();  // what a directory says, which opens like a file
+    constexpr long endless = std::numeric_limits<long>::max();  // the end of a directory, which opens like a file
     return seek(position) && end != endless ? std::max(end - position, 0L) : 0;
 }
 

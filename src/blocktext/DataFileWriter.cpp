@@ -28,7 +28,7 @@ bool DataFileWriter::skip(int count) { return stream::seek(m_file, count, SEEK_C
 
 bool DataFileWriter::flush() { return m_file && std::fflush(m_file) == 0; }
 
-// A stream remembers that something could not be written, also where the caller did not look.
+// A stream remembers a failed write even where the caller did not check for it.
 bool DataFileWriter::close() {
     flush();
     const bool complete = m_file && !std::ferror(m_file);

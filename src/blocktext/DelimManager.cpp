@@ -28,7 +28,7 @@ QStringView nameInBrackets(QStringView line) {
     return open < 0 || close < open ? QStringView() : line.mid(open + 1, close - open - 1);
 }
 
-// Only the CR of a CR LF is escaped, and the LF still breaks the line: the format is lopsided here.
+// Only the CR of a CR LF is escaped, and the LF still breaks the line: the format is asymmetric here.
 QString escaped(QString description) { return description.replace(QLatin1String("\r\n"), QLatin1String("\\r\n")); }
 
 QString unescaped(QStringView description) {
@@ -48,7 +48,7 @@ DelimManager::DelimManager(QTextStream& stream, const QString& filename) : m_fil
 
 void DelimManager::skipWhiteSpace(QTextStream& stream) { stream.skipWhiteSpace(); }
 
-/// Whether the stream is in error; its status is then reset, so that callers only need to leave.
+/// Whether the stream is in error; its status is then reset, so that callers only need to return.
 bool DelimManager::failed() {
     if (m_stream->status() == QTextStream::Ok) return false;
     m_stream->resetStatus();
@@ -97,7 +97,8 @@ bool DelimManager::IsDelim(QString& name, QString& value, QString& description) 
     name = found.toString();
     value = close + 2 < line.size() ? upToFirstCR(line.mid(close + 2)).toString() : QString();
 
-    // Only a description is read to its end: a line may be as long as the file, and be looked at for each block on it.
+    // Only a description is read to its end: a line may be as long as the file and be examined once for each block on
+    // it.
     const bool isDescription = cursor.next(descriptionMark.size()) == descriptionMark;
     if (failed()) return false;
     cursor.putBack();

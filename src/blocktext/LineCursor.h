@@ -7,11 +7,12 @@ class QTextStream;
 
 namespace quarn::blocktext {
 
-/// Reads a text stream line by line with the possibility to take the last line back.
+/// Reads a text stream line by line and can put the last line back.
 ///
 /// Over a string the lines are views of the string itself and nothing is copied. Over a device a line is decoded into a
-/// buffer of the cursor. There, asking for the position costs what was read since the last seek, so the cursor seeks to
-/// the position it has just asked for: looking at a line then costs the same however far the stream has come.
+/// buffer of the cursor. There, the cost of querying the position grows with the text read since the last seek, so the
+/// cursor seeks to the position it has just queried: the cost of reading a line then does not depend on the lines
+/// before it.
 class LineCursor {
 public:
     explicit LineCursor(QTextStream& stream);
@@ -20,7 +21,7 @@ public:
     /// whole line), the line end included. The view lives until the next call or the next change of the string.
     QStringView next(int maxLength = 0);
 
-    /// Puts the stream back to where the last line began.
+    /// Moves the stream back to the beginning of the last line.
     void putBack();
 
 private:

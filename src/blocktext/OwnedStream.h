@@ -3,12 +3,13 @@
 #include <cstdio>
 #include <utility>
 
-/// What readers and writers of binary files do alike with the stream they own; null stands for a file that is not open.
+/// Operations that readers and writers of binary files share on the stream they own; null stands for a file that is not
+/// open.
 namespace quarn::stream {
 
 inline bool seek(std::FILE* file, long offset, int origin) { return file && std::fseek(file, offset, origin) == 0; }
 
-/// Forgets the stream, whatever becomes of it.
+/// Closes the stream and sets it to null, even when closing fails.
 inline bool close(std::FILE*& file) {
     std::FILE* const closing = std::exchange(file, nullptr);
     return closing && std::fclose(closing) == 0;

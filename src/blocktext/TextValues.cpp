@@ -12,7 +12,7 @@ namespace {
 
 constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-// A token short enough for the stream's own buffer, in plain characters; empty when it is anything else.
+// A token of ASCII characters that is short enough for the stream's own buffer; empty for any other token.
 class PlainToken {
 public:
     PlainToken(QStringView text, int start) {
@@ -33,8 +33,8 @@ private:
     std::size_t m_size = 0;
 };
 
-// The numbers that both QTextStream and from_chars take, and take alike: a digit on each side of a point, no plus sign,
-// no leading zero in an integer (QTextStream reads such as octal), no word such as "nan".
+// The numbers that QTextStream and from_chars both accept and read alike: a digit on each side of a point, no plus
+// sign, no leading zero in an integer (QTextStream reads those as octal), no word such as "nan".
 template <class T>
 bool isPlainNumber(const PlainToken& token) {
     const char* c = token.begin();
@@ -98,7 +98,7 @@ QStringView readWord(QTextStream& in, QString& buffer) {
 
 bool readValue(QTextStream& in, double& value) { return readNumber(in, value); }
 
-// By way of the double, as the stream does it: reading a float directly may round the other way.
+// Converts from double, as the stream does: reading a float directly may round differently.
 bool readValue(QTextStream& in, float& value) {
     double number = 0;
     if (!readNumber(in, number)) return false;

@@ -9,10 +9,10 @@ namespace quarn::blocktext {
 /// Reads the next word. The view lives until `buffer` or the stream's string changes; it is empty at the end.
 QStringView readWord(QTextStream& in, QString& buffer);
 
-/// Reads a number or a word. When there is none, `value` keeps what it holds and the stream's status tells why.
+/// Reads a number or a word. When there is none, `value` is unchanged and the stream's status tells why.
 ///
 /// What is read is what QTextStream reads, hexadecimal and octal integers, "nan" and "inf" included. Plain decimal
-/// numbers on a string stream, of which files hold millions, take a way that is many times faster.
+/// numbers on a string stream, of which files hold millions, are read many times faster without it.
 bool readValue(QTextStream& in, float& value);
 bool readValue(QTextStream& in, double& value);
 bool readValue(QTextStream& in, int& value);
@@ -29,7 +29,7 @@ void dropLine(QTextStream& in);
 void dropWordsOfLine(QTextStream& in, int count);
 
 /// Removes every character whose code equals the index of the first CR in the text, then likewise for the first LF. In
-/// practice that removes a CR at index 13 and a LF at index 10; the engine's files are read so.
+/// practice that removes a CR at index 13 and a LF at index 10; the engine reads its files this way.
 void stripEscapeCharacters(QString& text);
 
 }  // namespace quarn::blocktext

@@ -13,7 +13,7 @@ void decodeAsUtf8(QTextStream& stream) {
     if (!stream.codec() || stream.codec()->mibEnum() != mibOfUtf8) stream.setCodec("UTF-8");
 }
 
-WholeText::WholeText(QTextStream& source, qint64 mostInMemory) : m_source(source) {
+WholeText::WholeText(QTextStream& source, qint64 maximumInMemory) : m_source(source) {
     if (source.string()) {
         m_stream.setString(source.string(), QIODevice::ReadOnly);
         m_stream.seek(source.pos());
@@ -21,11 +21,11 @@ WholeText::WholeText(QTextStream& source, qint64 mostInMemory) : m_source(source
     }
     const QIODevice* device = source.device();
     if (!device) return;
-    // Asked for only where it is needed: a stream rereads what it has to tell where it stands.
-    const bool mayStay = !device->isSequential() && device->size() > mostInMemory;
-    const qint64 start = mayStay ? source.pos() : 0;
-    m_text = source.read(mostInMemory);
-    m_onDevice = mayStay && !source.atEnd() && source.seek(start);
+    // The position is queried only where it is needed: a stream decodes its buffer again to determine it.
+    const bool canStayOnDevice = !device->isSequential() && device->size() > maximumInMemory;
+    const qint64 start = canStayOnDevice ? source.pos() : 0;
+    m_text = source.read(maximumInMemory);
+    m_onDevice = canStayOnDevice && !source.atEnd() && source.seek(start);
     if (m_onDevice) m_text.clear();
     m_stream.setString(&m_text, QIODevice::ReadOnly);
 }

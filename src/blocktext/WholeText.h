@@ -5,17 +5,17 @@
 
 namespace quarn::blocktext {
 
-/// Sets the codec of a stream that has been read from, unless it is that already: a stream rereads what it has when the
-/// codec is set, and where that is damaged may go astray.
+/// Sets the codec of a stream to UTF-8 unless it is UTF-8 already: setting it makes a stream that has been read from
+/// decode its buffer again, which can lose the position in damaged text.
 void decodeAsUtf8(QTextStream& stream);
 
-/// What is left of a text stream as one string in memory, under a stream of its own with the default locale and number
-/// settings. A string stream is walked where it is, and its position follows; a device stream is read to its end. A
-/// text of more characters than `mostInMemory` stays on its device where that can be rewound, and is cut there where it
-/// cannot.
+/// The rest of a text stream as one string in memory, read through a separate stream with the default locale and number
+/// settings. A string stream is read in place, and its position is updated at the end; a device stream is read to its
+/// end. A text of more than `maximumInMemory` characters is read from its device if that can be rewound, and is cut at
+/// that length otherwise.
 class WholeText {
 public:
-    explicit WholeText(QTextStream& source, qint64 mostInMemory = qint64(1) << 28);
+    explicit WholeText(QTextStream& source, qint64 maximumInMemory = qint64(1) << 28);
     ~WholeText();
     WholeText(const WholeText&) = delete;
     WholeText& operator=(const WholeText&) = delete;

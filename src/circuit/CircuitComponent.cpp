@@ -21,8 +21,8 @@ Cartesian3D cross(const Cartesian3D& a, const Cartesian3D& b) {
 
 double dot(const Cartesian3D& a, const Cartesian3D& b) { return a.x * b.x + a.y * b.y + a.z * b.z; }
 
-// The area of a plane quadrilateral whose vertices follow each other: the triangles from its first vertex, along the
-// normal that the first three vertices give.
+// The area of a plane quadrilateral with vertices in cyclic order: the sum of the two triangles at its first vertex,
+// projected on the normal of the first three vertices.
 double quadrilateralArea(const Cartesian3D& q0, const Cartesian3D& q1, const Cartesian3D& q2, const Cartesian3D& q3) {
     const Cartesian3D normal = cross(q1 - q0, q2 - q0);
     const double length = std::sqrt(dot(normal, normal));

@@ -15,7 +15,7 @@ bool isFeedType(const CircuitComponent& component) {
            component.getCircuitComponentType() == CircuitComponent::ParallelCurrent;
 }
 
-// What the ports are found to be when they are compared with the active feed.
+// The findings of the comparison of the ports with the active feed.
 struct PortFindings {
     bool reactive = false;
     bool mismatch = false;
@@ -25,7 +25,7 @@ struct PortFindings {
 };
 
 // A passive load must agree with the active feed in all three values, another feed in one of them.
-void notePort(PortFindings& findings, const CircuitComponent& port, const CircuitComponent& activeFeed) {
+void comparePort(PortFindings& findings, const CircuitComponent& port, const CircuitComponent& activeFeed) {
     const bool sameR = port.getResistance() == activeFeed.getResistance();
     const bool sameL = port.getInductance() == activeFeed.getInductance();
     const bool sameC = port.getCapacitance() == activeFeed.getCapacitance();
@@ -69,18 +69,18 @@ void appendWarnings(QStringList& warnings, const PortFindings& findings) {
             "The characteristic impedance for the active Port does not match that of all passive Ports.  Sij "
             "calculations may not match experimental results.");
     }
-    const auto warnOfKind = [&warnings](bool found, const char* kind) {
+    const auto warnAboutKind = [&warnings](bool found, const char* kind) {
         if (!found) return;
         warnings << QStringLiteral(
                         "A %1 circuit component is specified as a Port.  S-parameters for this Port may be invalid.")
                         .arg(QLatin1String(kind));
     };
-    warnOfKind(findings.hasSwitch, "Switch");
-    warnOfKind(findings.hasNonlinearCapacitor, "Nonlinear Capacitor");
-    warnOfKind(findings.hasDiode, "Diode");
+    warnAboutKind(findings.hasSwitch, "Switch");
+    warnAboutKind(findings.hasNonlinearCapacitor, "Nonlinear Capacitor");
+    warnAboutKind(findings.hasDiode, "Diode");
 }
 
-// The position that an element of the list has once the null pointers are left out; -1 for a null pointer.
+// The position of an element after the null pointers are removed from the list; -1 for a null pointer.
 std::int32_t positionWithoutNulls(const std::vector<CircuitComponent*>& components, std::int32_t position) {
     if (position < 0) return position;
     const auto end =
@@ -197,7 +197,7 @@ void ComponentManager::checkSParameters(QStringList& errors, QStringList& warnin
     if (!portIsActive) return;
     PortFindings findings;
     for (const CircuitComponent* component : m_components) {
-        if (component->isPort()) notePort(findings, *component, *feed);
+        if (component->isPort()) comparePort(findings, *component, *feed);
     }
     appendWarnings(warnings, findings);
 }

@@ -1,4 +1,4 @@
-// A via in memory is a via in a file:
+// A via has the same layout in memory and in a file:
 //
 //   offset  type     meaning
 //        0  double   x, y, z of the first point
@@ -55,7 +55,7 @@ bool readVias(std::istream& stream, std::uint64_t count, std::vector<MeshlessVia
     return true;
 }
 
-// Text that no process locale changes.
+// A text stream that is independent of the process locale.
 std::ostringstream plainText() {
     std::ostringstream out;
     out.imbue(std::locale::classic());

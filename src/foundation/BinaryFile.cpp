@@ -24,7 +24,7 @@ namespace {
 // The size of the fixed buffer for the mode on systems with a path-length limit, without its final zero.
 constexpr int modeLimit = 23;
 
-// ENAMETOOLONG where the limits come from; errno.h here may number it otherwise.
+// ENAMETOOLONG on the system where the limits originate; errno.h of this system may use another number.
 constexpr int nameTooLong = 38;
 
 std::FILE* openStream(const QString& path, const QString& mode) {

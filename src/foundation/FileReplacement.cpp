@@ -43,10 +43,10 @@ bool isWritableFile(const fs::path& path) {
 }
 
 // The file at the end of a chain of symbolic links, which need not exist.
-fs::path endOfLinks(fs::path path) {
-    constexpr int mostLinks = 40;  // that systems follow
+fs::path targetOfLinks(fs::path path) {
+    constexpr int maximumLinks = 40;  // that systems follow
     std::error_code failure;
-    for (int i = 0; i < mostLinks && fs::is_symlink(path, failure); ++i) {
+    for (int i = 0; i < maximumLinks && fs::is_symlink(path, failure); ++i) {
         path = path.parent_path() / fs::read_symlink(path, failure);
     }
     return path;
@@ -59,7 +59,7 @@ bool isOnlyNewPathTooLong(const fs::path& path, const fs::path& target) {
     return isPathTooLong(toQtPath(path)) && !isPathTooLong(toQtPath(target));
 }
 
-// Readable by nobody else, since the folder of the target may be closed to others. Empty when it cannot be made.
+// Readable by the owner only, since the folder of the target may be closed to others. Empty when it cannot be created.
 fs::path fileInTemporaryFolder(const fs::path& target) {
     QTemporaryFile file(QDir::tempPath() + u'/' + toQtPath(target.filename()) + QStringLiteral(".XXXXXX"));
     file.setAutoRemove(false);
@@ -67,15 +67,15 @@ fs::path fileInTemporaryFolder(const fs::path& target) {
 }
 
 // Nobody may read in the new file what they may not read in the earlier one.
-void hideFromOthers(const fs::path& made, const fs::path& earlier) {
+void restrictPermissions(const fs::path& made, const fs::path& earlier) {
     std::error_code failure;
     const fs::perms toOthers =
         fs::status(earlier, failure).permissions() & (fs::perms::group_all | fs::perms::others_all);
     fs::permissions(made, toOthers | fs::perms::owner_read | fs::perms::owner_write, failure);
 }
 
-// Renaming would leave the other hard links of a file behind, and its owner.
-bool mustKeepItsPlace(const fs::path& earlier, const fs::path& made) {
+// Renaming would detach the other hard links of a file and change its owner.
+bool mustStayInPlace(const fs::path& earlier, const fs::path& made) {
 #ifdef Q_OS_WIN
     Q_UNUSED(made)
     std::error_code failure;
@@ -101,7 +101,7 @@ bool copyRange(std::istream& source, std::ostream& target, std::streamoff begin,
     return source && target.flush();
 }
 
-// What lies behind the earlier end comes first: on a full disk it can be cut off again and the rest is untouched.
+// The part beyond the earlier end is written first: on a full disk it can be cut off again and the rest is untouched.
 bool copyInto(const fs::path& target, const fs::path& source) {
     std::error_code failure;
     const auto oldSize = static_cast<std::streamoff>(fs::file_size(target, failure));
@@ -137,8 +137,8 @@ FileReplacement::FileReplacement(const fs::path& target) : m_target(target), m_p
     }
     const bool exists = fs::exists(status);
     if (!target.has_filename() || (exists && !isWritableFile(target))) return;
-    const fs::path linked = endOfLinks(target);
-    // A link of the system may name an open file that has no path any more.
+    const fs::path linked = targetOfLinks(target);
+    // A link below /proc may name an open file that has no path any more.
     const bool isElsewhere = exists && !fs::equivalent(linked, target, failure);
     if (isElsewhere || isOnlyNewPathTooLong(linked, target)) return;
     m_target = linked;
@@ -153,7 +153,7 @@ void FileReplacement::makeTemporaryFile(bool targetExists) {
         error = isOnlyNewPathTooLong(m_path, m_target) ? ENAMETOOLONG : openAndClose(m_path, "wbx");
     }
     if (error == 0) {
-        if (targetExists) hideFromOthers(m_path, m_target);
+        if (targetExists) restrictPermissions(m_path, m_target);
         return;
     }
     m_path.clear();
@@ -177,7 +177,7 @@ QString FileReplacement::path() const { return toQtPath(m_path); }
 bool FileReplacement::takePlace() {
     if (m_path.empty() || isTarget()) return !m_path.empty();
     std::error_code failure;
-    if (m_path.parent_path() == m_target.parent_path() && !mustKeepItsPlace(m_target, m_path)) {
+    if (m_path.parent_path() == m_target.parent_path() && !mustStayInPlace(m_target, m_path)) {
         const fs::file_status earlier = fs::status(m_target, failure);
         if (fs::exists(earlier)) fs::permissions(m_path, earlier.permissions(), failure);
         fs::rename(m_path, m_target, failure);

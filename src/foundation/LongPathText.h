@@ -7,7 +7,7 @@ namespace quarn {
 /// Whether the environment variable KIVEN_LONGPATHSUPPORT is set, to whatever value.
 bool supportsLongPaths();
 
-/// Drops the prefix "\\?\" or "//?/" of a path that has it and goes on behind it.
+/// The path without its prefix "\\?\" or "//?/", if it has one.
 QString withoutLongPathPrefix(const QString& path);
 
 /// The native form of an absolute path on systems with a path-length limit: single backslashes, and the prefix in front

@@ -7,17 +7,17 @@
 #include <cstring>
 #include <type_traits>
 
-/// Numbers in binary streams. A number that lies in the stream's buffer as a whole, or fits into it, is copied there
-/// and then, without a lock and without a call; only the few that do not go through the C library.
+/// Numbers in binary streams. A number that lies completely in the stream's buffer, or fits into it, is copied
+/// directly, without a lock or a call; only the few others go through the C library.
 namespace quarn::scalar {
 
 enum class ByteOrder { Native, Reversed };
 
-/// Of the integers in all binary files.
+/// The byte order of the integers in all binary files.
 inline constexpr ByteOrder fileByteOrder = ByteOrder::Native;
 
 #ifdef __GLIBC__
-// Bounds of the buffer as the C library's own inlined getc_unlocked and putc_unlocked use them.
+// The bounds of the buffer are those that the C library's own inlined getc_unlocked and putc_unlocked use.
 inline bool takeFromBuffer(void* bytes, std::size_t size, std::FILE* file) {
     if (file->_IO_read_end - file->_IO_read_ptr < static_cast<std::ptrdiff_t>(size)) return false;
     std::memcpy(bytes, file->_IO_read_ptr, size);
@@ -47,8 +47,8 @@ inline bool writeByte(unsigned char byte, std::FILE* file) {
     return putIntoBuffer(&byte, 1, file) || std::fwrite(&byte, 1, 1, file) == 1;
 }
 
-/// Reads a number and returns how many of its bytes there were. The value stays as it was unless there were all. In
-/// reversed order each byte is tried by itself, whatever became of the one before.
+/// Reads a number and returns how many of its bytes were present. The value changes only when all were. In reversed
+/// order each byte is tried separately, even after a failure.
 template <ByteOrder order = ByteOrder::Native, class T>
 std::size_t readBytes(T& value, std::FILE* file) {
     static_assert(std::is_trivially_copyable_v<T>);

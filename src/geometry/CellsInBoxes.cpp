@@ -1,7 +1,7 @@
-// Cells are halved along x again and again, and boxes follow the halves that their ends cut. A box that covers all
-// cells of a half along x does not go further down: x has no more say there, and the same begins anew along y, with the
-// cells of that half. Where a box covers along y too, its cells along z are found by binary search. A box covers no
-// more than two halves of each size, so that n boxes and n cells meet in n log^2 n places, wherever they lie.
+// The cells are halved recursively along x, and each box descends into the halves that its ends cut. A box that covers
+// all cells of a half along x descends no further along x: the recursion starts again along y with the cells of that
+// half. Where a box covers a half along y too, its cells along z are found by binary search. A box covers at most two
+// halves of each size, so that n boxes and n cells need n log^2 n steps, wherever they lie.
 
 #include "geometry/CellsInBoxes.h"
 
@@ -18,7 +18,7 @@ using indexbox::Box;
 
 namespace {
 
-// Boxes and cells are passed on with their positions in the lists, by value: to look them up there would cost more.
+// Boxes and cells are passed by value together with their positions in the lists: looking them up would cost more.
 struct NumberedBox {
     Box box;
     std::uint32_t number;
@@ -30,15 +30,15 @@ struct NumberedCell {
 using NumberedBoxes = std::vector<NumberedBox>;
 using NumberedCells = std::vector<NumberedCell>;
 
-// Below this many cells looking at each of them is faster.
-constexpr std::ptrdiff_t fewCells = 16;
+// Below this number of cells, testing each of them is faster.
+constexpr std::ptrdiff_t linearSearchLimit = 16;
 
 class Search {
 public:
     explicit Search(std::size_t limit) : m_limit(limit) {}
 
     // `cells` may be in any order.
-    void alongAxis(std::size_t axis, const NumberedBoxes& boxes, NumberedCells cells) {
+    void searchAlongAxis(std::size_t axis, const NumberedBoxes& boxes, NumberedCells cells) {
         const auto coordinate = axes[axis];
         std::sort(cells.begin(), cells.end(), [&](const NumberedCell& a, const NumberedCell& b) {
             return a.cell.*coordinate < b.cell.*coordinate;
@@ -67,7 +67,7 @@ private:
     // number.
     void descend(std::size_t axis, const NumberedBoxes& boxes, const NumberedCell* begin, const NumberedCell* end) {
         if (boxes.empty()) return;
-        if (end - begin <= fewCells) return addEach(boxes, begin, end);
+        if (end - begin <= linearSearchLimit) return addEach(boxes, begin, end);
         const NumberedCell* const middle = begin + (end - begin) / 2;
         const auto at = [&](const NumberedCell* cell) { return cell->cell.*axes[axis]; };
         const std::int32_t first = at(begin), last = at(end - 1), lastLow = at(middle - 1), firstHigh = at(middle);
@@ -82,7 +82,7 @@ private:
                 if (lower <= last && firstHigh <= upper) high.push_back(box);
             }
         }
-        if (!covering.empty()) alongAxis(axis + 1, covering, NumberedCells(begin, end));
+        if (!covering.empty()) searchAlongAxis(axis + 1, covering, NumberedCells(begin, end));
         descend(axis, low, begin, middle);
         descend(axis, high, middle, end);
     }
@@ -124,7 +124,7 @@ std::vector<BoxAndCell> findCellsInBoxes(const std::vector<Box>& boxes, const st
         numberedCells.push_back({cell, static_cast<std::uint32_t>(numberedCells.size())});
     }
     Search search(limit);
-    search.alongAxis(0, numberedBoxes, std::move(numberedCells));
+    search.searchAlongAxis(0, numberedBoxes, std::move(numberedCells));
     return search.takePairs();
 }
 

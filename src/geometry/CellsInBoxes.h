@@ -14,11 +14,11 @@ struct BoxAndCell {
     std::uint32_t cell;
 };
 
-/// Throws the std::runtime_error for more pairs than are allowed.
+/// Throws the std::runtime_error for too many pairs.
 [[noreturn]] void throwTooMuchOverlap();
 
-/// Every pair of a box and a cell in it, ordered by box, then cell. With n boxes and cells it takes a time of order
-/// n log^3 n at most, besides the pairs. Throws a std::runtime_error when there are more than `limit` pairs.
+/// Every pair of a box and a cell in it, ordered by box, then cell. With n boxes and cells the time is of order n log^3
+/// n at most, plus that for the pairs. Throws a std::runtime_error when there are more than `limit` pairs.
 std::vector<BoxAndCell> findCellsInBoxes(const std::vector<GridIndexBoxes::Box>& boxes, const std::vector<ivec3>& cells,
                                          std::size_t limit);
 

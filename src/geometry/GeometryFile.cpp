@@ -13,9 +13,9 @@ namespace quarn {
 
 namespace {
 
-/// Deletes what `old` points to, each object once, save what `kept` points to as well.
+/// Deletes the objects in `old`, each once, except those that are also in `kept`.
 template <class T>
-void destroyOthers(const std::vector<T*>& old, const std::vector<T*>& kept = {}) {
+void deleteUnlisted(const std::vector<T*>& old, const std::vector<T*>& kept = {}) {
     std::set<T*> obsolete(old.begin(), old.end());
     for (T* object : kept) obsolete.erase(object);
     for (T* object : obsolete) delete object;
@@ -93,8 +93,8 @@ GeometryFile& GeometryFile::operator=(const GeometryFile& other) {
 }
 
 GeometryFile::~GeometryFile() {
-    destroyOthers(joined(m_electricMaterials, m_magneticMaterials));
-    destroyOthers(m_materialMappings);
+    deleteUnlisted(joined(m_electricMaterials, m_magneticMaterials));
+    deleteUnlisted(m_materialMappings);
 }
 
 void GeometryFile::swap(GeometryFile& other) {
@@ -107,19 +107,19 @@ void GeometryFile::swap(GeometryFile& other) {
 void GeometryFile::setElectricMaterials(const std::vector<Material*>& materials) {
     const auto old = m_electricMaterials;
     m_electricMaterials = materials;
-    destroyOthers(old, joined(m_electricMaterials, m_magneticMaterials));
+    deleteUnlisted(old, joined(m_electricMaterials, m_magneticMaterials));
 }
 
 void GeometryFile::setMagneticMaterials(const std::vector<Material*>& materials) {
     const auto old = m_magneticMaterials;
     m_magneticMaterials = materials;
-    destroyOthers(old, joined(m_electricMaterials, m_magneticMaterials));
+    deleteUnlisted(old, joined(m_electricMaterials, m_magneticMaterials));
 }
 
 void GeometryFile::setMaterialMappings(const std::vector<MaterialMap*>& maps) {
     const auto old = m_materialMappings;
     m_materialMappings = maps;
-    destroyOthers(old, m_materialMappings);
+    deleteUnlisted(old, m_materialMappings);
 }
 
 void GeometryFile::install(GeometryContents& contents) {

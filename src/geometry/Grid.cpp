@@ -13,7 +13,7 @@ struct OrderedRun {
     float size;
 };
 
-// The runs in strictly ascending order, from cell 0 on, so that every cell is filled once whatever the file says.
+// The runs in strictly ascending order, starting at cell 0, so that every cell is filled once for any input.
 std::vector<OrderedRun> ordered(const Grid::Runs& runs) {
     std::vector<OrderedRun> result{{0, 0.0F}};
     for (const auto& [start, size] : runs) {
@@ -43,8 +43,8 @@ Grid::Axis::Axis(std::uint32_t cells_, float origin, const Runs& runs, bool with
     if (withNodes) placeMagneticNodes();
 }
 
-// Measured from the node where the run begins, so that rounding does not add up over the runs. The distance is rounded
-// to single precision on purpose: files and engine agree on positions that way.
+// Distances are measured from the node where the run begins, so that rounding errors do not accumulate over the runs.
+// They are rounded to single precision on purpose: the engine computes positions in the same way.
 void Grid::Axis::placeElectricNodes(std::uint32_t begin, std::uint32_t end, float size) {
     const double anchor = electricNodes[begin];
     for (std::uint32_t i = begin; i < end && i + 1 < cells; ++i) {

@@ -39,12 +39,13 @@ GridIndexBoxes::GridIndexBoxes(std::vector<Box> boxes, const std::set<ivec3>& ex
                                std::vector<ivec3> sparePoints)
     : m_boxes(std::move(boxes)), m_sparePoints(std::move(sparePoints)) {
     std::vector<ivec3> cells;
-    cells.reserve(exclusions.size());  // a constructor from iterators would walk the set twice, the costliest part here
+    cells.reserve(
+        exclusions.size());  // a constructor from iterators would traverse the set twice, the costliest part here
     std::copy(exclusions.begin(), exclusions.end(), std::back_inserter(cells));
     setupBoxExclusions(cells, true);
 }
 
-// A start that stopped at the largest int is never found by a search for an index.
+// A start that was limited to the largest int is never found by a search for an index.
 void GridIndexBoxes::setupBoxStarts() {
     m_boxStarts.assign(1, 0);
     m_boxStarts.reserve(m_boxes.size() + 1);
@@ -115,7 +116,8 @@ void GridIndexBoxes::intersectBoundingBox(const ivec3& lower, const ivec3& upper
     };
     GridIndexBoxes kept;
     kept.m_boxes = m_boxes;
-    for (Box& box : kept.m_boxes) box = clipped(box, limits);  // empty ones go with those that are excluded completely
+    for (Box& box : kept.m_boxes)
+        box = clipped(box, limits);  // empty boxes are dropped together with completely excluded ones
     kept.m_sparePoints = cellsInside(m_sparePoints);
     kept.setupBoxExclusions(cellsInside(excludedCells()), false);
     *this = std::move(kept);

@@ -1,5 +1,5 @@
-// Points become boxes by bisection. The list is halved in place; the halves still to be treated wait on a stack, the
-// lower one on top, so that boxes and spare points come in the order of the points.
+// Builds boxes from points by bisection. The list is halved in place; the halves still to be processed are kept on a
+// stack, the lower one on top, so that boxes and spare points follow the order of the points.
 
 #include <algorithm>
 #include <cmath>
@@ -18,8 +18,8 @@ namespace {
 using Cells = std::vector<ivec3>::iterator;
 using Axis = std::int32_t ivec3::*;
 
-// What one box may cost: a short list of exceptions, and one cell in eight.
-constexpr std::uint64_t mostExceptions = 16;
+// A box may have a short list of exceptions, and at most one cell in eight may be missing.
+constexpr std::uint64_t maximumExceptions = 16;
 
 // Cells in ascending order.
 struct Range {
@@ -42,7 +42,7 @@ Box boundingBox(const Range& cells) {
 
 // The second condition bounds the volume, so that the first cannot overflow.
 bool isDense(std::uint64_t volume, std::uint64_t cells) {
-    return volume <= std::numeric_limits<std::int32_t>::max() && volume - cells <= mostExceptions &&
+    return volume <= std::numeric_limits<std::int32_t>::max() && volume - cells <= maximumExceptions &&
            cells >= 7 * volume / 8;
 }
 
@@ -66,7 +66,7 @@ public:
         m_distances += std::abs(offset);
     }
 
-    // High when the cells crowd at both ends of the axis, or at one.
+    // High when the cells are concentrated at one end or at both ends of the axis.
     float score(std::size_t cells, std::uint64_t extent) const {
         const auto relative = [&](std::int64_t sum) {
             return static_cast<float>(sum) / static_cast<float>(cells) / static_cast<float>(extent);

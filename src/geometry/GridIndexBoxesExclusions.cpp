@@ -1,4 +1,4 @@
-// Excluded cells become the exceptions of the boxes in which they lie.
+// Stores excluded cells as exceptions of the boxes in which they lie.
 
 #include <algorithm>
 #include <limits>
@@ -15,26 +15,26 @@ constexpr std::uint64_t largestInt = std::numeric_limits<std::int32_t>::max();
 
 constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
 
-// Boxes that do not overlap need each exclusion once; others may need it for each box, which in a file of a few hundred
-// kilobytes can come to gigabytes.
-std::size_t mostStored(std::size_t numBoxes, std::size_t numExclusions) {
+// Boxes that do not overlap need each exclusion once; overlapping boxes may need it once for each box, so that a file
+// of a few hundred kilobytes could require gigabytes.
+std::size_t maximumStored(std::size_t numBoxes, std::size_t numExclusions) {
     constexpr std::size_t always = std::size_t{1} << 20;
     constexpr std::size_t forEach = 256;
     return std::max(always, forEach * (numBoxes + numExclusions));
 }
 
-// How many different cells there are in the pairs.
+// The number of different cells in the pairs.
 std::size_t countCells(const std::vector<BoxAndCell>& pairs, std::size_t numCells) {
     std::vector<bool> isFound(numCells);
     for (const BoxAndCell& pair : pairs) isFound[pair.cell] = true;
     return static_cast<std::size_t>(std::count(isFound.begin(), isFound.end(), true));
 }
 
-// Which exclusions lie in a box is known only once they are found, so that the search itself has the wider limit.
+// Which exclusions lie in a box is known only after the search, so the search itself has the wider limit.
 std::vector<BoxAndCell> findWithinLimit(const std::vector<indexbox::Box>& boxes, const std::vector<ivec3>& exclusions) {
-    auto pairs = findCellsInBoxes(boxes, exclusions, mostStored(boxes.size(), exclusions.size()));
-    const bool isWithin = pairs.size() <= mostStored(boxes.size(), 0) ||
-                          pairs.size() <= mostStored(boxes.size(), countCells(pairs, exclusions.size()));
+    auto pairs = findCellsInBoxes(boxes, exclusions, maximumStored(boxes.size(), exclusions.size()));
+    const bool isWithin = pairs.size() <= maximumStored(boxes.size(), 0) ||
+                          pairs.size() <= maximumStored(boxes.size(), countCells(pairs, exclusions.size()));
     if (!isWithin) throwTooMuchOverlap();
     return pairs;
 }

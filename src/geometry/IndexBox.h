@@ -6,7 +6,7 @@
 
 #include "quarn/GridIndexBoxes.h"
 
-/// Arithmetic on boxes of grid cells that no corner makes overflow: an extent may need 33 bits and a volume 99.
+/// Arithmetic on boxes of grid cells that cannot overflow for any corners: an extent may need 33 bits and a volume 99.
 namespace quarn::indexbox {
 
 using Box = GridIndexBoxes::Box;
@@ -18,12 +18,12 @@ inline bool isEmpty(const Box& box) {
     return box.first.x > box.second.x || box.first.y > box.second.y || box.first.z > box.second.z;
 }
 
-/// Of a box that is not empty.
+/// The number of cells along an axis of a box that is not empty.
 inline std::uint64_t extent(const Box& box, std::int32_t ivec3::*axis) {
     return static_cast<std::uint64_t>(std::int64_t{box.second.*axis} - box.first.*axis + 1);
 }
 
-/// a * b + c, or `unlimited` where that would not fit.
+/// a * b + c, or `unlimited` when the result would overflow.
 inline std::uint64_t multiplyAdd(std::uint64_t a, std::uint64_t b, std::uint64_t c) {
     return b != 0 && a > (unlimited - c) / b ? unlimited : a * b + c;
 }

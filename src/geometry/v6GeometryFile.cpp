@@ -16,7 +16,7 @@ constexpr auto unrecognizedFormat = "Unrecognized *.id file format."_key;
 constexpr auto undefinedMesh = "The mesh is undefined."_key;
 constexpr auto refusedGrid = "Error initializing the grid."_key;
 
-// Zeros stand where older files had the extent of the mesh.
+// The zeros replace the extent of the mesh in older files.
 constexpr auto fileStart = "Geometry file version 3.20\n\nmesh_defined\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0\n"_key;
 
 struct Section {
@@ -25,7 +25,7 @@ struct Section {
     QLatin1String failure;
 };
 
-// "AveragedMaterialBins" is always empty and passed over as any unknown block.
+// "AveragedMaterialBins" is always empty and is skipped like any unknown block.
 constexpr Section sections[] = {
     {"materials"_key, readMaterials, "Error loading materials."_key},
     {"materialMaps"_key, readMaterialMaps, "Error loading material mappings."_key},
@@ -59,7 +59,7 @@ bool readBlocks(DelimManager& delim, GeometryContents& contents, QStringList& er
     return true;
 }
 
-// Between the version and the blocks stand the state of the mesh and its extent, which no longer counts.
+// Reads what stands between the version and the blocks: the state of the mesh and its extent, which is ignored.
 bool readFileStart(QTextStream& in, QStringList& errors) {
     constexpr int wordsOfExtent = 15;
     QString buffer;
@@ -74,12 +74,12 @@ bool readFileStart(QTextStream& in, QStringList& errors) {
     return true;
 }
 
-// A file that claims more cells than any grid has must not cost the memory for them. It is refused even when the caller
-// does not want the grid, so that a file is either valid or not. The grid may be null.
+// A file that claims more cells than any grid has must not allocate memory for them. It is refused even when the caller
+// does not want the grid, so that the validity of a file does not depend on the call. The grid may be null.
 bool initialize(Grid* grid, const GeometryContents& contents, QStringList& errors) {
-    constexpr std::uint64_t mostCells = 1U << 22;
+    constexpr std::uint64_t maximumCells = 1U << 22;
     const auto& [x, y, z] = contents.gridAxes;
-    bool isAccepted = std::uint64_t{x.cells} + y.cells + z.cells <= mostCells;
+    bool isAccepted = std::uint64_t{x.cells} + y.cells + z.cells <= maximumCells;
     if (isAccepted && grid) {
         isAccepted =
             grid->initialize(x.cells, y.cells, z.cells, x.origin, y.origin, z.origin, x.runs, y.runs, z.runs, true);
@@ -88,7 +88,7 @@ bool initialize(Grid* grid, const GeometryContents& contents, QStringList& error
     return isAccepted;
 }
 
-// The whole part of a number, or 0 where it is none that an int holds.
+// The integral part of a number, or 0 when it does not fit into an int.
 std::int32_t wholePart(float number) {
     constexpr float limit = 2147483648.0F;
     return number > -limit && number < limit ? static_cast<std::int32_t>(number) : 0;
@@ -135,7 +135,7 @@ bool v6GeometryFile::load(const QString& path, QTextStream& stream, Grid* grid, 
     return true;
 }
 
-// Versions 3 and any with the minor number 19 are read alike.
+// Version 3 and any version with the minor number 19 are accepted.
 bool v6GeometryFile::acceptsVersionOf(QTextStream& stream, QStringList& errors) {
     constexpr int longestLine = 255;
     m_majorFileVersion = 0;

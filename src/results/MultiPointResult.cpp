@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view magic = "Rmpt";
 
-// What follows in the info file; the layout is in the header.
+// The numbers after the magic in the info file; MultiPointResult.h describes the layout.
 struct Info {
     std::uint8_t version;
     std::uint32_t groups;

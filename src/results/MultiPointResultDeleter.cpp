@@ -15,8 +15,8 @@ namespace {
 
 bool removeFile(const QString& path) { return QFile::remove(resolveLongPath(path, true)); }
 
-// The component files of a result. They are taken from a listing of the folder, as a list may claim more indices than
-// can be tried one by one; where the folder cannot be listed, they are tried up to a bound.
+// The component files of a result. Their names are taken from a listing of the folder, since a list may claim more
+// indices than can be tried one by one; where the folder cannot be listed, names are tried up to a limit.
 class ComponentFiles {
 public:
     explicit ComponentFiles(const MultiPointResult& result)
@@ -27,7 +27,7 @@ public:
 
     template <class Groups, class Components>
     void remove(const Groups& groups, const Components& components, int numIndices) const {
-        // The info file was read, so that a listing without it has failed.
+        // The info file exists, since it has been read: a listing without it has failed.
         const bool isListed = m_names.contains(m_result.getInfoFileName().mid(m_folder.size()));
         const int numTried = std::min(numIndices, MultiPointResultDeleter::mostIndicesTried + 1);
         for (const auto group : groups) {
@@ -42,7 +42,7 @@ public:
     }
 
 private:
-    // Those that are named as the given one, whose index is 0, up to and without `numIndices`.
+    // Removes the files named like `first`, which has index 0, with any index below `numIndices`.
     void removeListed(const QString& first, int numIndices) const {
         const int at = first.lastIndexOf(u'0') - m_folder.size();
         const QString before = first.mid(m_folder.size(), at), behind = first.mid(m_folder.size() + at + 1);
@@ -62,7 +62,7 @@ private:
 
 }  // namespace
 
-// One more than the list has, as a writer may have been stopped before it listed the last; none without a list.
+// One more than the list has, since a writer may have been stopped before it listed the last index; 0 without a list.
 int MultiPointResultDeleter::numIndices(const QString& listFileName) const {
     DataFileReader list;
     if (!openForReading(list, listFileName)) return 0;

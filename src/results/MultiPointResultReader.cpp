@@ -87,7 +87,7 @@ bool MultiPointResultReader::readSteady(std::complex<float>& x, std::complex<flo
     return true;
 }
 
-// From all of the first `count` files or from none, so that they stay at the same point.
+// Reads from all of the first `count` files or from none, so that they stay at the same point.
 bool MultiPointResultReader::readEach(float* values, std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) {
         if (!m_components[i].isOpen()) return false;

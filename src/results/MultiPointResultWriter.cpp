@@ -121,7 +121,7 @@ bool MultiPointResultWriter::closeComponents(std::size_t count) {
     return complete;
 }
 
-// What they lost is reported where the next group of the result is begun.
+// Lost data is reported when the next group of the result is begun.
 void MultiPointResultWriter::abandonComponents() {
     for (DataFileWriter& file : m_components) {
         if (file.isOpen()) m_nothingLost &= file.close();

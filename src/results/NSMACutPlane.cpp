@@ -23,13 +23,13 @@ bool splitAtComma(const QString& text, QString& first, QString& rest) {
     return NSMACutPlane::ProcessLine(text, first, rest, QStringLiteral(","));
 }
 
-// In [0, 360). A remainder is exact, as steps of 360 towards 0 are, but takes no longer for 1e30 than for 400.
+// The angle in [0, 360). The remainder is exact, like repeated subtraction of 360, but as fast for 1e30 as for 400.
 std::optional<float> wrapped(float angle) {
     if (!std::isfinite(angle)) return std::nullopt;
     float result = std::fmod(angle, fullTurn);
     if (result < 0.0F) result += fullTurn;
     if (result == fullTurn) result = 0.0F;  // rounded up from just below 0
-    return result + 0.0F;                   // makes 0 of -0
+    return result + 0.0F;                   // turns -0 into 0
 }
 
 constexpr NameTable<NSMACutPlane::PatternCut, 4> cutNames{{

@@ -12,7 +12,7 @@ namespace {
 constexpr std::string_view magic = "Rnzp";
 constexpr unsigned int unusedBits = 0x01FF;
 
-// Reads and writes the fields of records on a C stream.
+// Adapts a C stream to the sources and sinks of RecordFields.h.
 class StdioNumbers {
 public:
     explicit StdioNumbers(std::FILE* file) : m_file(file) {}
@@ -28,7 +28,7 @@ private:
     std::FILE* m_file;
 };
 
-// Calls `move(field)` for the time and for each group of the header, up to the first that fails.
+// Calls `move(field)` for the time and for each group of the header, up to the first failure.
 template <class Record, class Move>
 bool moveRecord(Record& record, const NearZoneMultiFieldPointResult::Header& header, Move move) {
     return move(record.time) && std::all_of(fieldGroups.begin(), fieldGroups.end(), [&](const FieldGroupInfo& info) {

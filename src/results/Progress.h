@@ -9,12 +9,12 @@
 
 namespace quarn {
 
-/// Tells a caller how far the work is, at the beginning, at the end and no more than twenty times a second in between,
-/// and hears whether to go on.
+/// Reports progress to the caller at the beginning, at the end and at most twenty times a second in between, and
+/// receives whether to continue.
 ///
-/// Work is counted in nanoseconds of estimated time and reported as a share of the caller's total. Whoever works calls
-/// advance() after every piece of work, preparations included. Pieces may be as small as convenient, as the clock is
-/// looked at once in a millisecond of work; none may be longer than a hundred milliseconds.
+/// Work is counted in nanoseconds of estimated time and reported as a share of the caller's total. The computation
+/// calls advance() after every piece of work, preparations included. Pieces may be as small as convenient, since the
+/// clock is read once in a millisecond of work; none may be longer than a hundred milliseconds.
 class Progress {
 public:
     using Clock = std::chrono::steady_clock;
@@ -23,7 +23,7 @@ public:
     explicit Progress(ProgressReporter reporter, std::size_t total = 1, Now now = &Clock::now)
         : m_reporter(std::move(reporter)), m_total(total), m_now(now) {}
 
-    /// Sets how much work lies ahead. Until then reports say that nothing is done.
+    /// Sets the amount of work ahead. Until then reports say that nothing is done.
     void expect(double work) { m_work = m_done + work; }
 
     /// @name All return false when the caller wants the work to stop
@@ -32,15 +32,15 @@ public:
     bool end() { return report(m_total); }
     bool advance(double work) {
         m_done += work;
-        if (!m_reporter || m_done < m_nextLook) return true;
-        m_nextLook = m_done + workBetweenLooks;
+        if (!m_reporter || m_done < m_nextCheck) return true;
+        m_nextCheck = m_done + workBetweenChecks;
         return m_now() - m_lastReport < interval || report(share());
     }
     /// @}
 
 private:
     static constexpr std::chrono::milliseconds interval{50};
-    static constexpr double workBetweenLooks = 1e6;
+    static constexpr double workBetweenChecks = 1e6;
 
     std::size_t share() const {
         const double fraction = m_work > 0.0 ? std::min(m_done / m_work, 1.0) : 0.0;
@@ -57,7 +57,7 @@ private:
     Now m_now;
     double m_work = 0.0;
     double m_done = 0.0;
-    double m_nextLook = 0.0;
+    double m_nextCheck = 0.0;
     Clock::time_point m_lastReport{};
 };
 

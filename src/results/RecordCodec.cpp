@@ -23,7 +23,7 @@ bool RecordCodec<RecordType>::writeRecord(DataFileWriter& writer, const Record& 
 
 template <class RecordType>
 bool RecordCodec<RecordType>::readRecords(DataFileReader& reader, std::size_t count, std::vector<Record>& records) {
-    static_assert(records::fileSize<Record> == recordSize, "without gaps in memory, as in a file");
+    static_assert(records::fileSize<Record> == recordSize, "a record has no gaps in memory, as in a file");
     return records::readBlock(reader, count, records) && records.size() == count;
 }
 

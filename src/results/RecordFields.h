@@ -8,9 +8,9 @@
 #include <type_traits>
 #include <vector>
 
-/// Reading, writing and sizes of binary records, all three from the one list of fields that describes a record. A
-/// source is what has read(number&) for signed integers and floats, a sink what has write(number): DataFileReader and
-/// DataFileWriter, or what stands for them.
+/// Reading, writing and sizes of binary records, all three derived from the list of fields that describes a record. A
+/// source has read(number&) for signed integers and floats, a sink has write(number): DataFileReader and
+/// DataFileWriter, or classes with the same functions.
 namespace quarn::records {
 
 template <class T>
@@ -35,7 +35,7 @@ bool readComplex(Source& source, std::complex<float>& value) {
     return true;
 }
 
-/// A number, or all that a sequence of numbers has room for.
+/// Reads a number, or as many numbers as a sequence has elements.
 template <class Source, class T>
 bool readField(Source& source, T& value) {
     if constexpr (isSequence<T>) {
@@ -68,7 +68,7 @@ bool writeField(Sink& sink, const T& value) {
     }
 }
 
-/// Stops at the first field that the source does not have; those before it are read.
+/// Stops at the first field that cannot be read; those before it have been read.
 template <class Source, class... Fields>
 bool readFields(Source& source, const std::tuple<Fields&...>& fields) {
     return std::apply([&](auto&... field) { return (readField(source, field) && ...); }, fields);
@@ -89,7 +89,7 @@ template <class Record>
 inline constexpr std::size_t fileSize =
     sizeOf(static_cast<decltype(Record::fields(std::declval<Record&>()))*>(nullptr));
 
-/// Whether the source goes on with these characters; reads up to the first that differs.
+/// Whether these characters follow in the source; reads up to the first that differs.
 template <class Source>
 bool readMagic(Source& source, std::string_view magic) {
     for (const char expected : magic) {

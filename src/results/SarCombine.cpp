@@ -1,5 +1,5 @@
-// Joining partial SAR files. All are looked at first, as the number of records stands before the records; then they are
-// copied one after the other, with one of them open at a time.
+// Joins partial SAR files. All are inspected first, because the total number of records stands before the records; then
+// they are copied one after the other, with only one of them open at a time.
 
 #include <QFileInfo>
 #include <algorithm>
@@ -18,7 +18,7 @@ namespace quarn {
 
 namespace {
 
-constexpr std::int64_t mostRecords = std::numeric_limits<std::int32_t>::max();
+constexpr std::int64_t maximumRecords = std::numeric_limits<std::int32_t>::max();
 constexpr double nsPerRecord = 40.0;  // an estimate
 
 struct PartialFile {
@@ -29,7 +29,7 @@ struct PartialFile {
     bool complete;
 };
 
-// One call, with the places for its messages.
+// One call of combineFiles, with references to its messages.
 class Combination {
 public:
     Combination(const QString& output, QString& error, QString& warning)
@@ -40,7 +40,8 @@ public:
     }
 
 private:
-    // Every partial file that exists, all of one plane. Opening a pipe would wait for somebody who writes to it.
+    // Lists the partial files that exist and checks that all are of one plane. Pipes are refused: opening one would
+    // wait for a writer.
     bool inspect(const QStringList& names) {
         for (const QString& name : names) {
             const QFileInfo file(resolveLongPath(name, true));
@@ -57,12 +58,12 @@ private:
         return true;
     }
 
-    // More records than one file can name are most likely those that a damaged part claims. What stands before the
-    // damage can be joined all the same.
+    // A total that no file can hold is most likely the claim of a damaged part. The records before the damage can still
+    // be joined.
     bool countRecords() {
         for (const PartialFile& part : m_parts) m_total += part.numRecords;
         const bool isDamaged = std::any_of(m_parts.begin(), m_parts.end(), [](auto& part) { return !part.complete; });
-        if (m_parts.empty() || (m_total > mostRecords && !isDamaged)) return creationFailed();
+        if (m_parts.empty() || (m_total > maximumRecords && !isDamaged)) return creationFailed();
         return true;
     }
 
@@ -72,7 +73,7 @@ private:
         if (isPart && file.isTarget()) return creationFailed();
         SarResultWriter writer;
         const PartialFile& first = m_parts.front();
-        const int numRecords = static_cast<int>(std::min(m_total, mostRecords));
+        const int numRecords = static_cast<int>(std::min(m_total, maximumRecords));
         if (!writer.beginResultWriting(file.path(), first.plane, first.planeIndex, numRecords)) return creationFailed();
         const bool isJoined = copyParts(writer, reporter);
         const bool isWritten = writer.endResultWriting() || (isJoined && writingFailed());
@@ -105,7 +106,7 @@ private:
         return true;
     }
 
-    // A disk that fills up takes any number of bytes. Without the numbers before the records there is nothing to keep.
+    // A full disk may cut the file at any byte. Without the numbers before the records there is nothing to keep.
     static bool cutToWholeRecords(const std::filesystem::path& path) {
         std::error_code failure;
         const std::uintmax_t size = std::filesystem::file_size(path, failure);

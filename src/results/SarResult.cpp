@@ -13,7 +13,7 @@ using Record = SarResult::Record;
 
 constexpr int waitForAppending = 500;  // ms
 
-// What a plane is in a file, and the index of a record that its records share.
+// The code of a plane in a file, and the index that all its records have in common.
 struct PlaneKind {
     SARPlane::Plane plane;
     std::int32_t code;
@@ -34,7 +34,7 @@ const PlaneKind* findKind(Member member, Value value) {
     return nullptr;
 }
 
-// The numbers after the header; the layout is in the public header.
+// The numbers after the file header; SarResult.h describes the layout.
 struct Start {
     std::int32_t planeCode = 0;
     std::int32_t planeIndex = 0;
@@ -46,7 +46,7 @@ struct Start {
     }
 };
 
-// What a record of a plane has in a file.
+// The fields that a record of a plane has in a file.
 template <class Self>
 auto storedFields(SARPlane::Plane plane, Self& r) {
     switch (plane) {

@@ -11,21 +11,21 @@ using namespace blocktext;
 const struct {
     const char* behaviour;
     Unknown unknown;
-    QString content, outcome;  // the outcome: the numbers read, whether the walk was complete, and what is left
+    QString content, outcome;  // the outcome: the numbers read, whether the walk was complete, and the rest of the stream
 } rows[] = {
-    {"line is dropped", Unknown::DropLine, "number 1 foo number 2; number 3; end_<A>; z;", "1 3 complete {z}"},
-    {"word is dropped", Unknown::DropWord, "number 1 foo number 2; number 3; end_<A>; z;", "1 2 3 complete {z}"},
-    {"word stops", Unknown::Stop, "number 1; foo number 2; end_<A>;", "1 left {number 2\nend_<A>}"},
-    {"block is skipped", Unknown::DropLine, "C{ number 1; C{ } number 2; } number 3; end_<A>; z;", "3 complete {z}"},
-    {"block stops", Unknown::Stop, "C{ number 1; } end_<A>;", "left {number 1\nend_<C>\nend_<A>}"},
-    {"open line among words", Unknown::Stop, "B{ C{ number 1; } foo; } number 2; end_<A>; z;", "1 2 complete {z}"},
-    {"handler ends the walk", Unknown::DropLine, "number 1; leave number 2; end_<A>;", "1 left {number 2\nend_<A>}"},
-    {"stream ends the walk", Unknown::DropLine, "number 1; number 2; number 3;", "1 2 complete {}"},
-    {"bad number ends the walk", Unknown::DropLine, "number x; number 2; end_<A>;", "complete {number 2\nend_<A>}"},
+    {"LineIsDropped", Unknown::DropLine, "number 1 foo number 2; number 3; end_<A>; z;", "1 3 complete {z}"},
+    {"WordIsDropped", Unknown::DropWord, "number 1 foo number 2; number 3; end_<A>; z;", "1 2 3 complete {z}"},
+    {"WordStops", Unknown::Stop, "number 1; foo number 2; end_<A>;", "1 left {number 2\nend_<A>}"},
+    {"BlockIsSkipped", Unknown::DropLine, "C{ number 1; C{ } number 2; } number 3; end_<A>; z;", "3 complete {z}"},
+    {"BlockStops", Unknown::Stop, "C{ number 1; } end_<A>;", "left {number 1\nend_<C>\nend_<A>}"},
+    {"OpenLineAmongWords", Unknown::Stop, "B{ C{ number 1; } foo; } number 2; end_<A>; z;", "1 2 complete {z}"},
+    {"HandlerEndsTheWalk", Unknown::DropLine, "number 1; leave number 2; end_<A>;", "1 left {number 2\nend_<A>}"},
+    {"StreamEndsTheWalk", Unknown::DropLine, "number 1; number 2; number 3;", "1 2 complete {}"},
+    {"BadNumberEndsTheWalk", Unknown::DropLine, "number x; number 2; end_<A>;", "complete {number 2\nend_<A>}"},
 };
 // clang-format on
 
-TEST(BlockWalker, policies_and_ends) {
+TEST(BlockWalker, AppliesPoliciesAndEndsWalks) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.behaviour);
         onBothStreams("begin_<A> \n" + expanded(row.content), [&](QTextStream& in) {

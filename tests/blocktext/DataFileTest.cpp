@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "quarn/DataFileReader.h"
 #include "quarn/DataFileWriter.h"
 #include "results/ResultFolder.h"
@@ -15,32 +17,24 @@ protected:
     QString m_path = m_folder.path("data");
 };
 
-TEST_F(DataFile, eachTypeHasItsSize) {
+TEST_F(DataFile, EachTypeHasItsSize) {
+    const std::tuple values(static_cast<signed char>(1), short{2}, 3, 4LL, 1.0F, -2.0);
     DataFileWriter writer;
     ASSERT_TRUE(writer.open(m_path, "wb"));
-    EXPECT_TRUE(writer.write(static_cast<signed char>(1)) && writer.write(short{2}) && writer.write(3) &&
-                writer.write(4LL) && writer.write(1.0F) && writer.write(-2.0));
+    EXPECT_TRUE(std::apply([&](const auto&... value) { return (writer.write(value) && ...); }, values));
     EXPECT_TRUE(writer.close());
-    EXPECT_EQ(bytes().toHex(),
-              "01020003000000040000000000000000"
-              "00803f00000000000000c0");
+    EXPECT_EQ(bytes().toHex(), "0102000300000004000000000000000000803f00000000000000c0");
 
     DataFileReader reader;
     ASSERT_TRUE(reader.open(m_path));
-    signed char i8 = 0;
-    short i16 = 0;
-    int i32 = 0;
-    long long i64 = 0;
-    float f32 = 0;
-    double f64 = 0;
-    EXPECT_TRUE(reader.read(i8) && reader.read(i16) && reader.read(i32) && reader.read(i64) && reader.read(f32) &&
-                reader.read(f64));
-    EXPECT_EQ(std::make_tuple(i8, i16, i32, i64, f32, f64), std::make_tuple(1, 2, 3, 4, 1.0F, -2.0));
+    std::tuple<signed char, short, int, long long, float, double> found;
+    EXPECT_TRUE(std::apply([&](auto&... value) { return (reader.read(value) && ...); }, found));
+    EXPECT_EQ(found, values);
     EXPECT_EQ(reader.tell(), 27);
-    EXPECT_FALSE(reader.read(i8));
+    EXPECT_FALSE(reader.read(std::get<0>(found)));
 }
 
-TEST_F(DataFile, closedFilesRefuseEverything) {
+TEST_F(DataFile, ClosedFilesRefuseAllOperations) {
     DataFileReader reader;
     int value = 7;
     EXPECT_FALSE(reader.open(m_path));
@@ -55,7 +49,7 @@ TEST_F(DataFile, closedFilesRefuseEverything) {
     EXPECT_EQ(bytes(), "");
 }
 
-TEST_F(DataFile, readerGoesToPositions) {
+TEST_F(DataFile, ReaderMovesToPositions) {
     m_folder.put("data", "0123456789");
     DataFileReader reader;
     ASSERT_TRUE(reader.open(m_path));
@@ -70,20 +64,20 @@ TEST_F(DataFile, readerGoesToPositions) {
     EXPECT_EQ(reader.tell(), 1);
     EXPECT_TRUE(reader.seek(20));
     EXPECT_FALSE(reader.read(digit));
-    EXPECT_TRUE(reader.seek(9) && reader.read(digit)) << "the end of the file is forgotten";
+    EXPECT_TRUE(reader.seek(9) && reader.read(digit)) << "seeking back clears the end-of-file state";
 }
 
-TEST_F(DataFile, writerGoesToPositions) {
+TEST_F(DataFile, WriterMovesToPositions) {
     DataFileWriter writer;
     ASSERT_TRUE(writer.open(m_path, "wb"));
     const auto put = [&](char c) { return writer.write(static_cast<signed char>(c)); };
     EXPECT_TRUE(put('a') && put('b') && put('c') && writer.seek(1) && put('B') && writer.skip(2) && put('e'));
     EXPECT_FALSE(writer.seek(-1));
     EXPECT_TRUE(writer.flush());
-    EXPECT_EQ(bytes(), QByteArray("aBc\0e", 5)) << "of a file that is still open";
+    EXPECT_EQ(bytes(), QByteArray("aBc\0e", 5)) << "flushed while the file is open";
 }
 
-TEST_F(DataFile, openingAgainClosesFirst) {
+TEST_F(DataFile, OpeningAgainClosesFirst) {
     DataFileWriter writer;
     ASSERT_TRUE(writer.open(m_path, "wb") && writer.write(1));
     int waited = -1;
@@ -99,7 +93,7 @@ TEST_F(DataFile, openingAgainClosesFirst) {
     EXPECT_EQ(reader.tell(), -1) << "the file before stayed open";
 }
 
-TEST_F(DataFile, writerEndsWithItsDataInTheFile) {
+TEST_F(DataFile, DestructorWritesTheDataToTheFile) {
     {
         DataFileWriter writer;
         ASSERT_TRUE(writer.open(m_path, "wb") && writer.write(1));
@@ -108,7 +102,7 @@ TEST_F(DataFile, writerEndsWithItsDataInTheFile) {
 }
 
 #ifdef Q_OS_LINUX
-TEST_F(DataFile, fullDiskShowsAtTheLatestOnClosing) {
+TEST_F(DataFile, FullDiskIsReportedOnClosingAtTheLatest) {
     DataFileWriter writer;
     ASSERT_TRUE(writer.open("/dev/full", "wb") && writer.write(1));
     EXPECT_FALSE(writer.flush());

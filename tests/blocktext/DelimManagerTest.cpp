@@ -1,11 +1,10 @@
-#include "quarn/DelimManager.h"
-
 #include "TestSupport.h"
+#include "blocktext/DelimScript.h"
 
 namespace quarn::test {
 namespace {
 
-TEST(DelimManager, open_lines_and_descriptions) {
+TEST(DelimManager, WritesOpenLinesAndDescriptions) {
     const auto written = [](const char* value, const char* description) {
         QString text;
         QTextStream stream(&text);
@@ -19,7 +18,7 @@ TEST(DelimManager, open_lines_and_descriptions) {
     EXPECT_EQ(written("", "a\nb\rc"), "begin_<Units> \ndescription a\nb\rc\n") << "lone line ends are untouched";
 }
 
-TEST(DelimManager, close_lines_follow_the_open_blocks_and_errors_fail_one_operation) {
+TEST(DelimManager, CloseLinesFollowOpenBlocksAndErrorsFailOneOperation) {
     QString text;
     QTextStream stream(&text);
     DelimManager delim(stream, "file");
@@ -36,32 +35,6 @@ TEST(DelimManager, close_lines_follow_the_open_blocks_and_errors_fail_one_operat
     EXPECT_EQ(text, "begin_<B> \nbegin_<C> \nend_<C>\nend_<B>\nend_<C>\n");
 }
 
-// Calls the operations that a script names and notes their outcomes: "-" and "+" for false and true, a block as
-// [name|value|description] with "?" for what was not set, a line in quotes, the rest of the stream in braces.
-QString outcome(QTextStream& stream, const QString& script) {
-    DelimManager delim(stream, "file");
-    QStringList outcomes;
-    for (const QString& call : script.split(' ')) {
-        const QString operation = call.section(':', 0, 0), wanted = call.section(':', 1);
-        QString name = wanted, value = "?", description = "?";
-        const auto note = [&](bool found) {
-            outcomes << (found ? QString("[%1|%2|%3]").arg(name, value, description) : QString("-"));
-        };
-        if (operation == "bad") stream.setStatus(QTextStream::ReadCorruptData);
-        if (operation == "is") note(delim.IsDelim(name, value, description));
-        if (operation == "first") note(delim.GetFirstDelim(name, value, description));
-        if (operation == "next") note(delim.GetNextDelim(name, value, description));
-        if (operation == "find") note(delim.FindFirstDelim(wanted, value, description));
-        if (operation == "findnext") note(delim.FindNextDelim(wanted, value, description));
-        if (operation == "more") outcomes << (delim.ContinueReading() ? "+" : "-");
-        if (operation == "seek") outcomes << (delim.SeekToEndOfDelim() ? "+" : "-");
-        if (operation == "line") outcomes << "'" + stream.readLine() + "'";
-        if (operation == "rest") outcomes << "{" + stream.readAll() + "}";
-        EXPECT_EQ(stream.status() == QTextStream::Ok, operation != "bad") << "after " << call.toStdString();
-    }
-    return outcomes.join(' ');
-}
-
 QString x(int count) { return QString(count, 'x'); }
 
 const QString AB = "begin_<A> a\nbegin_<B> b\nend_<B>\nend_<A>\nend_<Z>\nkey\nlast\n";
@@ -72,73 +45,73 @@ const struct {
     const char* behaviour;
     QString text, script, outcome;
 } readingRows[] = {
-    {"is keeps blanks of the value", "begin_<A>   abc  \nkey", "is", "[A|  abc  |?]"},
-    {"next trims the value", "begin_<A>   abc  \nkey", "next", "[A|abc|]"},
-    {"is cuts the value at a cr", "begin_<A> v\rw\nkey", "is", "[A|v|?]"},
-    {"is takes an open mark within the last line", "\n \tkey begin_<A>", "is rest", "[A||?] {}"},
-    {"is leaves a key line", "key 1\nlast", "is line", "- 'key 1'"},
-    {"is leaves an open line without bracket", "begin_<A\nlast", "is line", "- 'begin_<A'"},
-    {"is leaves a block of another name", "begin_<A> v\nlast", "is:B is:a is:A", "- - [A|v|?]"},
-    {"is description", "begin_<A> \n description  text \nkey", "is line", "[A|| text ] 'key'"},
-    {"is description without blank", "begin_<A> \ndescriptionx\nkey", "is", "[A||x]"},
-    {"is cuts the description at a cr and keeps escapes", "begin_<A> \ndescription a\\rb\rc\nkey", "is", "[A||a\\rb]"},
-    {"is takes 1000 characters", "begin_<A> " + x(990) + "\nkey", "is line", "[A|" + x(990) + "|?] 'key'"},
-    {"is takes what exceeds 1000 characters for the next line",
+    {"IsDelimKeepsBlanksOfTheValue", "begin_<A>   abc  \nkey", "is", "[A|  abc  |?]"},
+    {"NextTrimsTheValue", "begin_<A>   abc  \nkey", "next", "[A|abc|]"},
+    {"IsDelimCutsTheValueAtACR", "begin_<A> v\rw\nkey", "is", "[A|v|?]"},
+    {"IsDelimTakesAnOpenMarkWithinTheLastLine", "\n \tkey begin_<A>", "is rest", "[A||?] {}"},
+    {"IsDelimLeavesAKeyLine", "key 1\nlast", "is line", "- 'key 1'"},
+    {"IsDelimLeavesAnOpenLineWithoutBracket", "begin_<A\nlast", "is line", "- 'begin_<A'"},
+    {"IsDelimLeavesABlockOfAnotherName", "begin_<A> v\nlast", "is:B is:a is:A", "- - [A|v|?]"},
+    {"IsDelimReadsADescription", "begin_<A> \n description  text \nkey", "is line", "[A|| text ] 'key'"},
+    {"IsDelimReadsADescriptionWithoutABlank", "begin_<A> \ndescriptionx\nkey", "is", "[A||x]"},
+    {"IsDelimCutsTheDescriptionAtACRAndKeepsEscapes", "begin_<A> \ndescription a\\rb\rc\nkey", "is", "[A||a\\rb]"},
+    {"IsDelimTakes1000Characters", "begin_<A> " + x(990) + "\nkey", "is line", "[A|" + x(990) + "|?] 'key'"},
+    {"IsDelimTakesTheRestBeyond1000CharactersAsTheNextLine",
      "begin_<A> " + x(990) + "description d\nkey", "is rest", "[A|" + x(990) + "|d] {key}"},
-    {"is in error consumes a line", "begin_<A> \nkey\nlast", "bad is line", "- 'key'"},
-    {"more consumes the close line", "begin_<A> \n\n\t end_<A>\nafter\nlast", "is more line", "[A||?] - 'after'"},
-    {"more leaves a key line", "begin_<A> \nkey 1\nlast", "is more more line", "[A||?] + + 'key 1'"},
-    {"more passes over close lines of others", "begin_<A> \nend_<B>\nend_<a>\nend_<A>\nafter\nlast",
+    {"IsDelimInErrorConsumesALine", "begin_<A> \nkey\nlast", "bad is line", "- 'key'"},
+    {"MoreConsumesTheCloseLine", "begin_<A> \n\n\t end_<A>\nafter\nlast", "is more line", "[A||?] - 'after'"},
+    {"MoreLeavesAKeyLine", "begin_<A> \nkey 1\nlast", "is more more line", "[A||?] + + 'key 1'"},
+    {"MoreIgnoresCloseLinesOfOtherBlocks", "begin_<A> \nend_<B>\nend_<a>\nend_<A>\nafter\nlast",
      "is more more more line", "[A||?] + + - 'after'"},
-    {"more without open block ends at a close line", "end_<A>\nkey\nlast", "more line", "- 'key'"},
-    {"more never takes the last line for content", "key\n", "more rest", "- {}"},
-    {"more leaves a close line without bracket", "begin_<A> \nend_<A\nlast", "is more line", "[A||?] + 'end_<A'"},
-    {"more sees a close line in 1000 characters", "begin_<A> \n" + x(993) + "end_<A>\nlast", "is more rest",
+    {"MoreWithoutOpenBlockEndsAtACloseLine", "end_<A>\nkey\nlast", "more line", "- 'key'"},
+    {"MoreNeverTakesTheLastLineForContent", "key\n", "more rest", "- {}"},
+    {"MoreLeavesACloseLineWithoutBracket", "begin_<A> \nend_<A\nlast", "is more line", "[A||?] + 'end_<A'"},
+    {"MoreFindsACloseLineWithin1000Characters", "begin_<A> \n" + x(993) + "end_<A>\nlast", "is more rest",
      "[A||?] - {\nlast}"},
-    {"more sees no close line beyond 1000 characters", "begin_<A> \n" + x(994) + "end_<A>\nlast", "is more line",
+    {"MoreFindsNoCloseLineBeyond1000Characters", "begin_<A> \n" + x(994) + "end_<A>\nlast", "is more line",
      "[A||?] + '" + x(994) + "end_<A>'"},
-    {"more in error consumes a line", "first\nsecond\nlast", "bad more line", "- 'second'"},
-    {"cr lf", "begin_<A> v\r\ndescription d\r\nkey 1\r\nend_<A>\r\nafter\r\nlast", "is more line more line",
+    {"MoreInErrorConsumesALine", "first\nsecond\nlast", "bad more line", "- 'second'"},
+    {"LinesMayEndInCRLF", "begin_<A> v\r\ndescription d\r\nkey 1\r\nend_<A>\r\nafter\r\nlast", "is more line more line",
      "[A|v|d] + 'key 1' - 'after'"},
-    {"seek skips nested blocks", "begin_<A> \nkey\nbegin_<A> \nbegin_<C> \nend_<C>\nend_<A>\nkey\nend_<A>\nafter\nlast",
+    {"SeekSkipsNestedBlocks", "begin_<A> \nkey\nbegin_<A> \nbegin_<C> \nend_<C>\nend_<A>\nkey\nend_<A>\nafter\nlast",
      "is seek line", "[A||?] + 'after'"},
-    {"seek ends in a block that is never closed", "begin_<A> \nbegin_<B> \nend_<A>\nkey\nlast", "is seek", "[A||?] -"},
-    {"seek knows a close line before trailing blanks", "begin_<A> \nend_<A>\n ", "is seek", "[A||?] +"},
-    {"seek ends at a close line that is the last", "begin_<A> \nend_<A>", "is seek", "[A||?] -"},
-    {"seek in error goes on", "begin_<A> \nkey\nend_<A>\nafter\nlast", "is bad seek line", "[A||?] + 'after'"},
-    {"next drops eleven characters twice", described, "next line", "[A||lmnopqrstuvw] 'key'"},
-    {"is keeps the same description", described, "is line", "[A||abcdefghijklmnopqrstuvw] 'key'"},
-    {"next loses a short description", "begin_<A> \ndescription short\nkey", "next line", "[A||] 'key'"},
-    {"next undoes escapes", "begin_<A> \ndescription 01234567890a\\rb\\nc\nkey", "next", "[A||a\rb\nc]"},
-    {"next ends at stray backslashes", "begin_<A> \ndescription 01234567890a\\b\\\nkey", "next", "[A||a\\b\\]"},
-    {"next has no limit of 1000 characters", "begin_<A> " + x(2000) + "\nkey", "next", "[A|" + x(2000) + "|]"},
-    {"next passes over key lines and close lines", "key\nend_<A>\nkey\nbegin_<B> v\nkey", "next", "[B|v|]"},
-    {"next fails at a close line of another block", "begin_<A> \nend_<a>\nbegin_<C> \nkey", "next next", "[A||] -"},
-    {"next fails at a close line without bracket", "end_<A\nbegin_<B> \nkey", "next", "-"},
-    {"next pops the closed block", "begin_<A> \nend_<A>\nbegin_<B> \nend_<B>\nend_<Z>\nlast", "next next seek more",
+    {"SeekEndsInABlockThatIsNeverClosed", "begin_<A> \nbegin_<B> \nend_<A>\nkey\nlast", "is seek", "[A||?] -"},
+    {"SeekFindsACloseLineBeforeTrailingBlanks", "begin_<A> \nend_<A>\n ", "is seek", "[A||?] +"},
+    {"SeekEndsAtACloseLineThatIsTheLast", "begin_<A> \nend_<A>", "is seek", "[A||?] -"},
+    {"SeekContinuesAfterAnError", "begin_<A> \nkey\nend_<A>\nafter\nlast", "is bad seek line", "[A||?] + 'after'"},
+    {"NextDropsElevenCharactersTwice", described, "next line", "[A||lmnopqrstuvw] 'key'"},
+    {"IsDelimKeepsTheSameDescription", described, "is line", "[A||abcdefghijklmnopqrstuvw] 'key'"},
+    {"NextDropsAShortDescription", "begin_<A> \ndescription short\nkey", "next line", "[A||] 'key'"},
+    {"NextUndoesEscapes", "begin_<A> \ndescription 01234567890a\\rb\\nc\nkey", "next", "[A||a\rb\nc]"},
+    {"NextKeepsStrayBackslashes", "begin_<A> \ndescription 01234567890a\\b\\\nkey", "next", "[A||a\\b\\]"},
+    {"NextHasNoLimitOf1000Characters", "begin_<A> " + x(2000) + "\nkey", "next", "[A|" + x(2000) + "|]"},
+    {"NextSkipsKeyLinesAndCloseLines", "key\nend_<A>\nkey\nbegin_<B> v\nkey", "next", "[B|v|]"},
+    {"NextFailsAtACloseLineOfAnotherBlock", "begin_<A> \nend_<a>\nbegin_<C> \nkey", "next next", "[A||] -"},
+    {"NextFailsAtACloseLineWithoutBracket", "end_<A\nbegin_<B> \nkey", "next", "-"},
+    {"NextPopsTheClosedBlock", "begin_<A> \nend_<A>\nbegin_<B> \nend_<B>\nend_<Z>\nlast", "next next seek more",
      "[A||] [B||] + -"},
-    {"next pops only the first of two closed blocks",
+    {"NextPopsOnlyTheFirstOfTwoClosedBlocks",
      "begin_<A> \nbegin_<B> \nend_<B>\nend_<A>\nbegin_<C> \nend_<C>\nend_<Z>\nlast", "next next next seek more",
      "[A||] [B||] [C||] + +"},
-    {"next ends at the end", "key\nbegin_<A> \nend_<A>", "next next next", "[A||] - -"},
-    {"next in error reads nothing", "begin_<A> \nkey", "bad next next", "- [A||]"},
-    {"first rewinds and pops one of two blocks", AB, "next next first seek more", "[A|a|] [B|b|] [A|a|] + +"},
-    {"first pops the only block", AB, "next first seek more", "[A|a|] [A|a|] + -"},
-    {"find rewinds and ignores case", AB, "next next find:b find:A find:C", "[A|a|] [B|b|] [b|b|] [A|a|] -"},
-    {"findnext goes forward", AB, "findnext:B findnext:A", "[B|b|] -"},
-    {"findnext compares case sensitively", AB, "findnext:b", "-"},
-    {"scans in error read nothing", AB, "bad first bad find:A bad findnext:A next", "- - - [A|a|]"},
+    {"NextEndsAtTheEnd", "key\nbegin_<A> \nend_<A>", "next next next", "[A||] - -"},
+    {"NextInErrorReadsNothing", "begin_<A> \nkey", "bad next next", "- [A||]"},
+    {"FirstRewindsAndPopsOneOfTwoBlocks", AB, "next next first seek more", "[A|a|] [B|b|] [A|a|] + +"},
+    {"FirstPopsTheOnlyBlock", AB, "next first seek more", "[A|a|] [A|a|] + -"},
+    {"FindRewindsAndIgnoresCase", AB, "next next find:b find:A find:C", "[A|a|] [B|b|] [b|b|] [A|a|] -"},
+    {"FindNextMovesForward", AB, "findnext:B findnext:A", "[B|b|] -"},
+    {"FindNextIsCaseSensitive", AB, "findnext:b", "-"},
+    {"ScansInErrorReadNothing", AB, "bad first bad find:A bad findnext:A next", "- - - [A|a|]"},
 };
 // clang-format on
 
-TEST(DelimManager, reading) {
+TEST(DelimManager, ReadsBlocks) {
     for (const auto& row : readingRows) {
         SCOPED_TRACE(row.behaviour);
         onBothStreams(row.text, [&](QTextStream& stream) { EXPECT_EQ(outcome(stream, row.script), row.outcome); });
     }
 }
 
-TEST(DelimManager, deep_nesting_is_skipped_without_recursion) {
+TEST(DelimManager, DeepNestingIsSkippedWithoutRecursion) {
     constexpr int depth = 100000;
     QString text = "begin_<A> \n" + QString("begin_<B> \n").repeated(depth) + QString("end_<B>\n").repeated(depth) +
                    "end_<A>\nafter\nlast";

@@ -7,8 +7,8 @@
 namespace quarn::test {
 namespace {
 
-// Signs and bases, reals, words, things that follow a number at once, the ends of the integers, numbers that are longer
-// than they need to be, and characters that are not ASCII. U+00A0 and U+2009 count as white space.
+// Signs and bases, reals, words, numbers with characters directly behind them, the limits of the integers, numbers with
+// superfluous digits, and non-ASCII characters. U+00A0 and U+2009 count as white space.
 const QString tokens =
     "0 -0 7 +7 -7 --7 - + 007 010 -010 08 0x1F -0X1f 0b101 0b2 0x 1e5 1E5 1e+5 1e-5 1e 1e+ e5 .5 -.5 5. 5.e3 5.25 "
     "1.5.2 . "
@@ -23,7 +23,7 @@ class NumberReading : public testing::Test {};
 using NumberTypes = testing::Types<int, unsigned, float, double>;
 TYPED_TEST_SUITE(NumberReading, NumberTypes);
 
-TYPED_TEST(NumberReading, agrees_with_the_text_stream_whatever_surrounds_a_token) {
+TYPED_TEST(NumberReading, AgreesWithTheTextStreamForAnyTokenAndContext) {
     for (const QString& token : tokens.split(' ')) {
         for (const char* behind : {"", " 7", "\n7", "\r\n7", "\t"}) {
             QString text = " \n\t" + token + behind;
@@ -39,7 +39,7 @@ TYPED_TEST(NumberReading, agrees_with_the_text_stream_whatever_surrounds_a_token
     }
 }
 
-TYPED_TEST(NumberReading, keeps_the_value_when_there_is_no_number) {
+TYPED_TEST(NumberReading, KeepsTheValueWhenThereIsNoNumber) {
     for (const char* text : {"abc 5", "", "-"}) {
         onBothStreams(text, [&](QTextStream& in) {
             TypeParam value{42};
@@ -50,8 +50,8 @@ TYPED_TEST(NumberReading, keeps_the_value_when_there_is_no_number) {
     }
 }
 
-// What goes is the character whose code is the index of the first CR, then that of the first LF.
-TEST(TextValues, stripping_escape_characters_goes_by_their_index) {
+// Removes the characters whose code is the index of the first CR, then likewise for the first LF.
+TEST(TextValues, StrippingRemovesCharactersByTheIndexOfLineEnds) {
     const auto stripped = [](QString text) {
         v6ProjectFile::StripEscapeCharacters(text);
         return text;

@@ -12,7 +12,7 @@ public:
     bool isSequential() const override { return true; }
 };
 
-TEST(WholeText, above_the_limit_stays_on_its_device_or_is_cut) {
+TEST(WholeText, StaysOnItsDeviceOrIsCutAboveTheLimit) {
     struct Row {
         const char* name;
         bool isPipe;
@@ -21,10 +21,10 @@ TEST(WholeText, above_the_limit_stays_on_its_device_or_is_cut) {
         QString text;
     };
     const Row rows[] = {
-        {"no longer than the limit", false, 12, true, "second third"},
-        {"longer", false, 11, false, "second third"},
-        {"no longer, through a pipe", true, 12, true, "second third"},
-        {"longer, through a pipe", true, 11, true, "second thir"},
+        {"FileWithinTheLimit", false, 12, true, "second third"},
+        {"FileAboveTheLimit", false, 11, false, "second third"},
+        {"PipeWithinTheLimit", true, 12, true, "second third"},
+        {"PipeAboveTheLimit", true, 11, true, "second thir"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

@@ -1,4 +1,4 @@
-#include "circuit/CircuitTestSupport.h"
+#include "TestSupport.h"
 #include "quarn/quarn.h"
 
 namespace quarn::test {
@@ -8,12 +8,12 @@ using Component = CircuitComponent;
 using Line = Component::ImpedanceLine;
 using PinGroup = Component::PinGroup;
 
-// A project file whose run parameters are boundaries and `run`; both in short form.
+// A project file whose run parameters are boundaries and `run`, which is in short form.
 QString fileOf(const QString& run) {
     return expanded("Version 8; FDTDProject{ RunParameters{ OuterBoundaries{ } " + run + "} }");
 }
 
-// The run parameters behind the boundaries, as they are saved.
+// The saved run parameters behind the boundaries.
 QString savedSections(v6ProjectFile& project) {
     const QString text = saved(project), before = "end_<OuterBoundaries>\n";
     const int begin = text.indexOf(before) + before.size();
@@ -21,12 +21,7 @@ QString savedSections(v6ProjectFile& project) {
 }
 
 void expectLoads(const QString& file, const QString& savedShortForm) {
-    onBothStreams(file, [&](QTextStream& stream) {
-        OwningProject project;
-        QStringList errors;
-        EXPECT_TRUE(project.loadFromStream(stream, errors));
-        EXPECT_EQ(savedSections(project), expanded(savedShortForm));
-    });
+    test::expectLoads(file, expanded(savedShortForm), savedSections);
 }
 
 // clang-format off
@@ -119,7 +114,7 @@ std::vector<Line> lines() {
     return all;
 }
 
-// What `components` and `ports` say, by way of the classes.
+// Sets through the classes what `components` and `ports` state as text.
 void describeComponents(v6ProjectFile& project) {
     constexpr auto positive = Component::Positive, negative = Component::Negative;
     Component base("Feed 1 Ω", {{0.1, -2, 0}, {1.0 / 3, 1e-9, 5}}, {}, 0, 1, 2, Component::Z, true);
@@ -184,7 +179,7 @@ void describePorts(v6ProjectFile& project) {
     project.setWaveGuidePortManager(new WaveGuidePortManager({port, other}));
 }
 
-TEST(CircuitSections, every_kind_and_line_type_is_written_and_read_back) {
+TEST(CircuitSections, EveryKindAndLineTypeIsWrittenAndReadBack) {
     using B = BoundaryConditions;
     OwningProject project;
     project.setBoundaryConditions(new B(B::CPML, B::CPML, B::CPML, B::CPML, B::CPML, B::CPML, 8));
@@ -196,7 +191,7 @@ TEST(CircuitSections, every_kind_and_line_type_is_written_and_read_back) {
     expectLoads(QString(text).replace("\n", "\r\n"), withoutLumped);
 }
 
-TEST(CircuitSections, static_voltages_need_no_manager) {
+TEST(CircuitSections, StaticVoltagesNeedNoManager) {
     const QString section =
         "ComponentsPorts{ PortType 0; StaticVoltageInfo{ Residual 2; ConductorThreshold 1; MaximumIterations 3; } "
         "StaticVoltagePoint{ XLocation 4; YLocation 5; ZLocation 6; Voltage 7; } } ";
@@ -212,8 +207,8 @@ TEST(CircuitSections, static_voltages_need_no_manager) {
     EXPECT_EQ(savedSections(project), expanded(section + "WaveGuidePorts{ } "));
 }
 
-// Text that ends anywhere, in a word too, loads what it can.
-TEST(CircuitSections, cut_off_anywhere) {
+// Text that ends anywhere, even within a word, is loaded as far as possible.
+TEST(CircuitSections, LoadsTextTruncatedAnywhere) {
     const QString text = fileOf(components + ports);
     for (int size = 0; size < text.size(); size += 3) {
         OwningProject project;
@@ -223,7 +218,7 @@ TEST(CircuitSections, cut_off_anywhere) {
     }
 }
 
-TEST(CircuitSections, later_blocks_replace_those_of_the_same_load_only) {
+TEST(CircuitSections, LaterBlocksReplaceOnlyThoseOfTheSameLoad) {
     Component own("own", 0, 0, 0, Component::X, true);
     ComponentManager ownManager({&own}, false, -1);
     WaveGuidePortManager ownPorts;
@@ -236,10 +231,10 @@ TEST(CircuitSections, later_blocks_replace_those_of_the_same_load_only) {
     EXPECT_NE(project.getStaticVoltageList(), &ownVoltages);
     EXPECT_EQ(project.getComponentManager()->getNumberOfComponents(), 1U);
     EXPECT_EQ(project.getWaveGuidePortManager()->getNumberOfPorts(), 2U);
-    EXPECT_EQ(ownManager.getComponent(0)->getComponentName(), "own") << "nobody deleted it";
+    EXPECT_EQ(ownManager.getComponent(0)->getComponentName(), "own") << "the caller's manager was not deleted";
 }
 
-TEST(CircuitSections, cleared_components_and_ports_stay_alive) {
+TEST(CircuitSections, ClearedComponentsAndPortsStayAlive) {
     OwningProject project;
     load(project, fileOf(components + ports));
     const auto listed = project.getComponentManager()->getComponents();
@@ -253,7 +248,7 @@ TEST(CircuitSections, cleared_components_and_ports_stay_alive) {
     for (const auto* port : listedPorts) delete port;
 }
 
-TEST(CircuitSections, port_lines_are_read_for_s_blocks) {
+TEST(CircuitSections, PortLinesAreReadForSBlocks) {
     OwningProject project;
     load(
         project,
@@ -264,7 +259,7 @@ TEST(CircuitSections, port_lines_are_read_for_s_blocks) {
     EXPECT_EQ(block->getPortMap(), (std::map<int, int>{{1, 2}, {3, 4}}));
 }
 
-TEST(CircuitSections, the_last_active_record_is_the_active_port) {
+TEST(CircuitSections, TheLastActiveRecordIsTheActivePort) {
     struct Row {
         std::string name;
         QString block;
@@ -273,16 +268,16 @@ TEST(CircuitSections, the_last_active_record_is_the_active_port) {
     };
     const QString feed = "FeedData{ Source 1; } ", active = "FeedData{ Source 2; IsActive; } ";
     const Row rows[] = {
-        {"without_s_parameters", "PortType 0; " + active + feed + active, -1, {true, false, true}},
-        {"without_a_port_type", active, -1, {true}},
-        {"last_of_two", active + active + feed + "PortType 1; ", 1, {false, true, false}},
-        {"any_port_type_but_0", "PortType 2; " + feed + active, 1, {false, true}},
-        {"any_kind_counts", "PortType 1; " + active + "FeedData{ Source 0; IsActive ; } ", 1, {false, false}},
-        {"records_without_a_component_do_not_count",
+        {"WithoutSParameters", "PortType 0; " + active + feed + active, -1, {true, false, true}},
+        {"WithoutAPortType", active, -1, {true}},
+        {"LastOfTwo", active + active + feed + "PortType 1; ", 1, {false, true, false}},
+        {"AnyPortTypeBut0", "PortType 2; " + feed + active, 1, {false, true}},
+        {"AnyKindCounts", "PortType 1; " + active + "FeedData{ Source 0; IsActive ; } ", 1, {false, false}},
+        {"RecordsWithoutAComponentDoNotCount",
          "PortType 1; FeedData{ IsPort; } " + feed + "FeedData{ Source 8; } " + active + "FeedData{ IsActive; } ",
          1,
          {false, true}},
-        {"none", "PortType 1; " + feed, -1, {false}},
+        {"NoActiveRecord", "PortType 1; " + feed, -1, {false}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -297,7 +292,7 @@ TEST(CircuitSections, the_last_active_record_is_the_active_port) {
     }
 }
 
-// A record as it is saved when only its kind was given.
+// The saved form of a record that gives only its kind.
 QString record(const QString& kind, const QString& cell = "XLocation 1; YLocation 1; ZLocation 1; ",
                const QString& roles = "TermType InputOutput; Calibration KeepSelfKeepMutual; ") {
     return "FeedData{ ComponentName noname; " + cell + "FileName ; " + kind + roles + "} ";
@@ -320,7 +315,7 @@ void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 
 class ComponentRecord : public testing::TestWithParam<Row> {};
 
-TEST_P(ComponentRecord, loaded_and_saved) {
+TEST_P(ComponentRecord, IsSavedInCanonicalForm) {
     expectLoads(fileOf("ComponentsPorts{ " + GetParam().content + "} "),
                 "ComponentsPorts{ PortType 0; " + GetParam().savedContent + "} ");
 }
@@ -343,62 +338,62 @@ QString activeFeedWith(const QString& index) {
 QString switchOf(const QString& content) { return record("Source 6; Polarity -1; ProgrammableSwitch{ " + content + "} "); }
 
 const Row componentRows[] = {
-    {"source_alone_makes_a_component", "FeedData{ Source 0; }", record(loadOf())},
-    {"other_sources_make_none", "FeedData{ } FeedData{ Source 8; } FeedData{ Source 10; } FeedData{ Source -1; }", ""},
-    {"cells_count_from_1_in_the_file", "FeedData{ Source 0; XLocation 0; YLocation 7; ZLocation 1; CellEdgeDirection 1; }",
+    {"SourceAloneMakesAComponent", "FeedData{ Source 0; }", record(loadOf())},
+    {"OtherSourcesMakeNoComponent", "FeedData{ } FeedData{ Source 8; } FeedData{ Source 10; } FeedData{ Source -1; }", ""},
+    {"CellsCountFrom1InTheFile", "FeedData{ Source 0; XLocation 0; YLocation 7; ZLocation 1; CellEdgeDirection 1; }",
      record(loadOf(), "XLocation 0; YLocation 7; ZLocation 1; CellEdgeDirection 1; ")},
-    {"unknown_directions_are_not_saved", "FeedData{ Source 0; CellEdgeDirection 3; } FeedData{ Source 0; CellEdgeDirection -1; }",
+    {"UnknownDirectionsAreNotSaved", "FeedData{ Source 0; CellEdgeDirection 3; } FeedData{ Source 0; CellEdgeDirection -1; }",
      record(loadOf()).repeated(2)},
-    {"names_are_the_rest_of_their_line_trimmed", "FeedData{ ComponentName  a  b ; FileName \tc d ; Source 9; SFileName e f; }",
+    {"NamesAreTheTrimmedRestOfTheirLine", "FeedData{ ComponentName  a  b ; FileName \tc d ; Source 9; SFileName e f; }",
      record("Source 9; SFileName e f; ").replace("noname", "a  b").replace("FileName ; ", "FileName c d; ")},
-    {"feed_without_the_flag_is_inactive", "FeedData{ Source 1; WaveformIndex 4; " + kinds + "}",
+    {"FeedWithoutTheFlagIsInactive", "FeedData{ Source 1; WaveformIndex 4; " + kinds + "}",
      record("Source 1; Polarity -1; " + kinds + "Type 2; ")},
-    {"flag_of_activity_with_and_without_a_blank", "FeedData{ Source 1; IsActive ; WaveformIndex 4; } FeedData{ Source 1; IsActive; WaveformIndex 4; }",
+    {"ActivityFlagWithAndWithoutABlank", "FeedData{ Source 1; IsActive ; WaveformIndex 4; } FeedData{ Source 1; IsActive; WaveformIndex 4; }",
      activeFeedWith("4").repeated(2)},
-    {"active_feed_without_a_waveform_index", "FeedData{ Source 1; IsActive; }", activeFeedWith("-1")},
-    {"negative_excitation_numbers_are_not_saved", "FeedData{ Source 2; " + kinds + "FieldExcitationFilename ; FieldExcitationMeshNum -1; FieldExcitationModeNum 0; }",
+    {"ActiveFeedWithoutAWaveformIndex", "FeedData{ Source 1; IsActive; }", activeFeedWith("-1")},
+    {"NegativeExcitationNumbersAreNotSaved", "FeedData{ Source 2; " + kinds + "FieldExcitationFilename ; FieldExcitationMeshNum -1; FieldExcitationModeNum 0; }",
      record("Source 2; Polarity -1; " + kinds + "Type 2; FieldExcitationModeNum 0; ")},
-    {"old_switch_that_is_open", "FeedData{ Source 3; SwitchTimeStep 10; SwitchDuration 5; }",
+    {"OldOpenSwitch", "FeedData{ Source 3; SwitchTimeStep 10; SwitchDuration 5; }",
      switchOf("initial_state 0; switch 10 5; ")},
-    {"old_switch_that_is_closed", "FeedData{ Source 4; SwitchDuration 5; ProgrammableSwitch{ switch 1 2; } }",
+    {"OldClosedSwitch", "FeedData{ Source 4; SwitchDuration 5; ProgrammableSwitch{ switch 1 2; } }",
      switchOf("initial_state 1; switch 0 5; ")},
-    {"only_state_1_is_closed", "FeedData{ Source 6; ProgrammableSwitch{ initial_state 2; foo switch; switch 7 8; } }",
+    {"OnlyState1IsClosed", "FeedData{ Source 6; ProgrammableSwitch{ initial_state 2; foo switch; switch 7 8; } }",
      switchOf("initial_state 0; switch 7 8; ")},
-    {"coefficients_that_are_not_there_are_0", "FeedData{ Source 5; NonlinearCapIndex 1; } FeedData{ Source 5; NonlinearCapIndex -1; } " + coefficients,
+    {"MissingCoefficientsAreZero", "FeedData{ Source 5; NonlinearCapIndex 1; } FeedData{ Source 5; NonlinearCapIndex -1; } " + coefficients,
      capacitor(0) + capacitor(1) + noCoefficients.repeated(2)},
-    {"coefficients_stand_before_or_behind_and_are_found_by_index", noCoefficients + "FeedData{ Source 5; NonlinearCapIndex 1; } FeedData{ Source 5; } " + coefficients,
+    {"CoefficientsMayPrecedeTheComponentsAndAreFoundByIndex", noCoefficients + "FeedData{ Source 5; NonlinearCapIndex 1; } FeedData{ Source 5; } " + coefficients,
      capacitor(0) + capacitor(1) + coefficients + noCoefficients},
-    {"unknown_words_of_roles_give_the_defaults", "FeedData{ Source 0; TermType Zundefined; Calibration Undefined; }", record(loadOf())},
-    {"words_of_roles_are_exact", "FeedData{ Source 0; TermType input; Calibration 99; }", record(loadOf())},
-    {"polarity_is_positive_for_1_alone", "FeedData{ Source 0; Polarity 1; } FeedData{ Source 0; Polarity 0; } FeedData{ Source 0; Polarity 2; }",
+    {"UnknownRoleWordsGiveDefaults", "FeedData{ Source 0; TermType Zundefined; Calibration Undefined; }", record(loadOf())},
+    {"RoleWordsAreExact", "FeedData{ Source 0; TermType input; Calibration 99; }", record(loadOf())},
+    {"PolarityIsPositiveOnlyFor1", "FeedData{ Source 0; Polarity 1; } FeedData{ Source 0; Polarity 0; } FeedData{ Source 0; Polarity 2; }",
      record(loadOf("1")) + record(loadOf()).repeated(2)},
-    {"arrangement_is_series_for_1_alone", "FeedData{ Source 0; Type 1; } FeedData{ Source 0; Type 0; } FeedData{ Source 0; Type 3; }",
+    {"ArrangementIsSeriesOnlyFor1", "FeedData{ Source 0; Type 1; } FeedData{ Source 0; Type 0; } FeedData{ Source 0; Type 3; }",
      record(loadOf("-1", "1")) + record(loadOf()).repeated(2)},
-    {"points_start_at_the_origin", "FeedData{ Source 0; EndPoint{ Y 2; foo X 3; } EndPoint{ } }",
+    {"PointsStartAtTheOrigin", "FeedData{ Source 0; EndPoint{ Y 2; foo X 3; } EndPoint{ } }",
      blockWith("EndPoint{ X 0; Y 2; Z 0; } EndPoint{ X 0; Y 0; Z 0; } ")},
-    {"unknown_line_type_has_no_extent", "FeedData{ Source 0; ImpedanceLine{ Pin1 4; LineType Foo; Radius 3; MajorAxis{ X 1; } } }",
+    {"UnknownLineTypeHasNoExtent", "FeedData{ Source 0; ImpedanceLine{ Pin1 4; LineType Foo; Radius 3; MajorAxis{ X 1; } } }",
      blockWith("ImpedanceLine{ Pin0 -1; Pin1 4; } ")},
-    {"parts_of_lines_have_defaults", "FeedData{ Source 0; ImpedanceLine{ LineType MultiPin; PinGroup{ SignalType Ground; ModelType equal; Pin{ } foo{ Pin{ } } } } "
+    {"LinePartsHaveDefaults", "FeedData{ Source 0; ImpedanceLine{ LineType MultiPin; PinGroup{ SignalType Ground; ModelType equal; Pin{ } foo{ Pin{ } } } } "
      "ImpedanceLine{ LineType Cylindrical; } ImpedanceLine{ LineType Bundle; InjectionLine{ Z2 1; } } }",
      blockWith("ImpedanceLine{ Pin0 -1; Pin1 -1; LineType MultiPin; PinGroup{ Name ; SignalType UnknownPinGroupSignalType; "
                "ModelType UnknownPinGroupModelType; Pin{ Name <unnamed pin>; X 0; Y 0; Z 0; Weight 0; } } } "
                "ImpedanceLine{ Pin0 -1; Pin1 -1; LineType Cylindrical; Radius -1; } "
                "ImpedanceLine{ Pin0 -1; Pin1 -1; LineType Bundle; InjectionLine{ X1 0; Y1 0; Z1 0; X2 0; Y2 0; Z2 1; } } ")},
-    {"unknown_keys_and_blocks_are_skipped", "NumberOfFeeds 3; NumberOfPorts 2; foo PortType 1; bar{ FeedData{ Source 0; } } "
+    {"UnknownKeysAndBlocksAreSkipped", "NumberOfFeeds 3; NumberOfPorts 2; foo PortType 1; bar{ FeedData{ Source 0; } } "
      "FeedData{ foo Source 1; bar{ Source 1; } PortLineMap{ Port 1; Line 2; } Source 0; }", record(loadOf())},
-    {"static_voltages_have_defaults", "StaticVoltagePoint{ } StaticVoltagePoint{ foo XLocation 9; YLocation 2; }",
+    {"StaticVoltagesHaveDefaults", "StaticVoltagePoint{ } StaticVoltagePoint{ foo XLocation 9; YLocation 2; }",
      defaults + "StaticVoltagePoint{ XLocation 0; YLocation 0; ZLocation 0; Voltage 0; } "
      "StaticVoltagePoint{ XLocation 0; YLocation 2; ZLocation 0; Voltage 0; } "},
-    {"static_settings_without_points_are_not_saved", "StaticVoltageInfo{ Residual 1; }", ""},
-    {"static_settings_keep_what_is_not_given", "StaticVoltagePoint{ Voltage 1; } StaticVoltageInfo{ MaximumIterations 7; }",
+    {"StaticSettingsWithoutPointsAreNotSaved", "StaticVoltageInfo{ Residual 1; }", ""},
+    {"MissingStaticSettingsKeepTheirDefaults", "StaticVoltagePoint{ Voltage 1; } StaticVoltageInfo{ MaximumIterations 7; }",
      QString(defaults).replace("5000", "7") + "StaticVoltagePoint{ XLocation 0; YLocation 0; ZLocation 0; Voltage 1; } "},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, ComponentRecord, testing::ValuesIn(componentRows), rowName<Row>);
+INSTANTIATE_TEST_SUITE_P(, ComponentRecord, testing::ValuesIn(componentRows), rowName<Row>);
 
 class WaveGuideRecord : public testing::TestWithParam<Row> {};
 
-TEST_P(WaveGuideRecord, loaded_and_saved) {
+TEST_P(WaveGuideRecord, IsSavedInCanonicalForm) {
     expectLoads(fileOf("WaveGuidePorts{ " + GetParam().content + "} "), "WaveGuidePorts{ " + GetParam().savedContent + "} ");
 }
 
@@ -409,27 +404,27 @@ const QString defaultPort =
 QString portWith(const char* before, const char* after) { return QString(defaultPort).replace(before, after); }
 
 const Row waveGuideRows[] = {
-    {"nothing_given", "PortData{ }", defaultPort},
-    {"unknown_impedance_keeps_what_was_read", "PortData{ ImpedanceType zpv; } PortData{ ImpedanceType  Zpv ; ImpedanceType Zpi Zvi; }",
+    {"NothingGiven", "PortData{ }", defaultPort},
+    {"UnknownImpedanceKeepsWhatWasRead", "PortData{ ImpedanceType zpv; } PortData{ ImpedanceType  Zpv ; ImpedanceType Zpi Zvi; }",
      defaultPort + portWith("Zpi", "Zpv")},
-    {"unknown_terminal_is_input_output", "PortData{ TermType Switch; TermType Zundefined; } PortData{ TermType Switch; }",
+    {"UnknownTerminalIsInputOutput", "PortData{ TermType Switch; TermType Zundefined; } PortData{ TermType Switch; }",
      defaultPort + portWith("InputOutput", "Switch")},
-    {"last_flag_is_the_type", "PortData{ IsModal; IsCurrent; }", portWith("IsVoltage", "IsCurrent")},
-    {"names_are_the_rest_of_their_line_trimmed", "PortData{ FileName  a b ; ModeName \tTE  10 ; }",
+    {"LastFlagIsTheType", "PortData{ IsModal; IsCurrent; }", portWith("IsVoltage", "IsCurrent")},
+    {"NamesAreTheTrimmedRestOfTheirLine", "PortData{ FileName  a b ; ModeName \tTE  10 ; }",
      portWith("noname", "TE  10").replace("FileName ;", "FileName a b;")},
-    {"points_start_at_the_origin", "PortData{ SnappedTail{ Y 2; foo X 3; } SnappedHead{ Z 1; } }",
+    {"PointsStartAtTheOrigin", "PortData{ SnappedTail{ Y 2; foo X 3; } SnappedHead{ Z 1; } }",
      portWith("SnappedHead{ X 0; Y 0; Z 0; } SnappedTail{ X 0; Y 0;", "SnappedHead{ X 0; Y 0; Z 1; } SnappedTail{ X 0; Y 2;")},
-    {"unknown_keys_and_blocks_are_skipped", "foo IsModal; bar{ PortData{ } } PortData{ foo IsModal; bar{ IsModal; SnappedHead{ X 1; } } PortNumber 5; }",
+    {"UnknownKeysAndBlocksAreSkipped", "foo IsModal; bar{ PortData{ } } PortData{ foo IsModal; bar{ IsModal; SnappedHead{ X 1; } } PortNumber 5; }",
      portWith("PortNumber -1", "PortNumber 5")},
-    {"same_numbers_in_file_order", "PortData{ PortNumber 2; } PortData{ PortNumber 1; Phase 1; } PortData{ PortNumber 1; Phase 2; }",
+    {"SameNumbersInFileOrder", "PortData{ PortNumber 2; } PortData{ PortNumber 1; Phase 1; } PortData{ PortNumber 1; Phase 2; }",
      portWith("PortNumber -1", "PortNumber 2") + portWith("PortNumber -1", "PortNumber 1").replace("Phase 0", "Phase 1") +
      portWith("PortNumber -1", "PortNumber 1").replace("Phase 0", "Phase 2")},
 };
 // clang-format on
 
-INSTANTIATE_TEST_SUITE_P(Rows, WaveGuideRecord, testing::ValuesIn(waveGuideRows), rowName<Row>);
+INSTANTIATE_TEST_SUITE_P(, WaveGuideRecord, testing::ValuesIn(waveGuideRows), rowName<Row>);
 
-TEST(CircuitSections, waveguide_values_that_have_no_text) {
+TEST(CircuitSections, WaveGuideValuesWithoutATextAreOmittedOrDefaulted) {
     OwningProject project;
     load(project, fileOf("WaveGuidePorts{ PortData{ } } "));
     auto* port = project.getWaveGuidePortManager()->getWaveGuidePort(0);

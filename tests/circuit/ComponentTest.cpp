@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "circuit/CircuitTestSupport.h"
+#include "TestSupport.h"
 #include "quarn/ComponentKinds.h"
 
 namespace quarn::test {
@@ -36,7 +36,7 @@ struct Difference {
     std::string report;
 };
 
-// Each difference alone gives its report. Made together, the first in the table is the one that is reported.
+// Each difference alone gives its report. Of several differences, the first in the table is reported.
 template <class T, std::size_t count>
 void expectReports(const T& original, const Difference<T> (&differences)[count]) {
     T all = original;
@@ -121,7 +121,7 @@ Line lineOf(int type) {
     return line;
 }
 
-TEST(ComponentEquality, the_first_difference_is_reported) {
+TEST(ComponentEquality, ReportsTheFirstDifference) {
     expectReports(OpenComponent(), componentDifferences);
     expectReports(lineOf(Line::Sheet), lineDifferences);
     expectReports(groupOfTwo(), pinGroupDifferences);
@@ -130,7 +130,7 @@ TEST(ComponentEquality, the_first_difference_is_reported) {
     EXPECT_FALSE(groupOfTwo().equal(PinGroup()));
 }
 
-TEST(ComponentEquality, what_is_not_compared) {
+TEST(ComponentEquality, IgnoresFileNamesValuesAndCoaxialGeometry) {
     OpenComponent a, b;
     b.setOutputFilename("other");
     EXPECT_EQ(reportOf(a, b, true), "");
@@ -146,7 +146,7 @@ TEST(ComponentEquality, what_is_not_compared) {
     EXPECT_EQ(reportOf(line, line, false), different("ImpedanceLine::radius"));
 }
 
-TEST(ComponentText, pins_and_groups) {
+TEST(ComponentText, DescribesPinsAndGroups) {
     EXPECT_EQ(Pin().qstr(), "Pin (name=<unnamed pin>, (0 , 0 , 0))");
     EXPECT_EQ(Pin("p", {1, 2, 3}, -1).qstr(), "Pin (name=p, (1 , 2 , 3))") << "only a positive weight is shown";
     EXPECT_EQ(PinGroup().qstr(),
@@ -156,7 +156,7 @@ TEST(ComponentText, pins_and_groups) {
               "Pin (name=p, (1 , 2 , 3), weight=0.5) Pin (name=q, (0.1 , -2 , 1.23457e+06)) ");
 }
 
-TEST(ComponentText, impedance_lines) {
+TEST(ComponentText, DescribesImpedanceLines) {
     EXPECT_EQ(lineOf(Line::NoExtent).qstr(), "no extent");
     EXPECT_EQ(lineOf(Line::Cylindrical).qstr(), "type=cylindrical, radius=0.25");
     EXPECT_EQ(lineOf(Line::Sheet).qstr(), "type=sheet, corners:\n\t\t(4, 5, 6)\n\t\t(7, 8, 9)");
@@ -168,7 +168,7 @@ TEST(ComponentText, impedance_lines) {
               "type=multipin\n\t\tground : p(1,2,3), q(0.1,-2,1.23457e+06), \n\t\tUnknownPinGroupSignalType : ");
 }
 
-TEST(ComponentText, components) {
+TEST(ComponentText, DescribesComponents) {
     const OpenComponent base;
     const auto voltage = Component::SeriesVoltage;
     Feed feed("Öffnung", {}, {Line(), lineOf(1)}, voltage, 1.5F, 0.1F, 50, 3e-12F, 2e-9F, Component::Parallel);
@@ -192,7 +192,7 @@ TEST(ComponentText, components) {
     EXPECT_TRUE(SBlock("s", {}, {}, "my block.s2p").qstr_short().contains("my block.s2p"));
 }
 
-TEST(ComponentText, types_without_a_text_form) {
+TEST(ComponentText, ThrowsForTypesWithoutATextForm) {
     const QStringList names{"Switch", "NonLinearCapacitor", "Diode", "LumpedComponent"};
     for (int type = 3; type <= 6; ++type) {
         OpenComponent component;
@@ -202,7 +202,7 @@ TEST(ComponentText, types_without_a_text_form) {
     }
 }
 
-TEST(ComponentText, pin_group_words_are_read_exactly) {
+TEST(ComponentText, ReadsPinGroupWordsExactly) {
     QString text("EquiCurrent EquiVoltage SpecifiedCurrent equicurrent ground signal Ground");
     QTextStream in(&text);
     PinGroup::ModelType modelTypes[4];
@@ -214,18 +214,18 @@ TEST(ComponentText, pin_group_words_are_read_exactly) {
 }
 
 // clang-format off
-TEST(ComponentGeometry, sheet_areas) {
+TEST(ComponentGeometry, ComputesSheetAreas) {
     const std::tuple<const char*, std::vector<Point>, double> rows[] = {
-        {"square whose last corner is opposite", {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {1, 1, 0}}, 1},
-        {"corners in a ring make a bow tie", {{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}}, 0},
-        {"never negative", {{0, 0, 0}, {1, 0, 0}, {3, 0, 0}, {0, 1, 0}}, 1},
-        {"tilted rectangle", {{1, 1, 1}, {4, 1, 5}, {1, 3, 1}, {4, 3, 5}}, 10},
-        {"corner off the plane counts as projected", {{0, 0, 0}, {1, 0, 0}, {0, 1, 5}, {1, 1, 0}}, 1},
-        {"last corner in line with the first two", {{0, 0, 0}, {1, 0, 0}, {0, 2, 0}, {-1, 0, 0}}, 2},
-        {"all in line", {{0, 0, 0}, {1, 1, 1}, {2, 2, 2}, {3, 3, 3}}, 0},
-        {"first two alike", {{1, 0, 0}, {1, 0, 0}, {0, 1, 0}, {1, 1, 0}}, 0},
-        {"fifth corner does not count", {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {1, 1, 0}, {9, 9, 9}}, 1},
-        {"three corners", {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, 0},
+        {"SquareWithTheLastCornerOpposite", {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {1, 1, 0}}, 1},
+        {"CornersInCyclicOrderGiveAnAreaOfZero", {{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}}, 0},
+        {"NeverNegative", {{0, 0, 0}, {1, 0, 0}, {3, 0, 0}, {0, 1, 0}}, 1},
+        {"TiltedRectangle", {{1, 1, 1}, {4, 1, 5}, {1, 3, 1}, {4, 3, 5}}, 10},
+        {"CornerOffThePlaneIsProjected", {{0, 0, 0}, {1, 0, 0}, {0, 1, 5}, {1, 1, 0}}, 1},
+        {"LastCornerInLineWithTheFirstTwo", {{0, 0, 0}, {1, 0, 0}, {0, 2, 0}, {-1, 0, 0}}, 2},
+        {"AllInLine", {{0, 0, 0}, {1, 1, 1}, {2, 2, 2}, {3, 3, 3}}, 0},
+        {"FirstTwoEqual", {{1, 0, 0}, {1, 0, 0}, {0, 1, 0}, {1, 1, 0}}, 0},
+        {"FifthCornerDoesNotCount", {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {1, 1, 0}, {9, 9, 9}}, 1},
+        {"ThreeCorners", {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, 0},
     };
     for (const auto& [name, corners, area] : rows) {
         Line line;
@@ -235,7 +235,7 @@ TEST(ComponentGeometry, sheet_areas) {
 }
 // clang-format on
 
-TEST(ComponentNames, from_file_names) {
+TEST(ComponentNames, AreDerivedFromFileNames) {
     OpenComponent component;
     const auto name = [&](const QString& file) {
         component.setOutputFilename(file);
@@ -244,7 +244,7 @@ TEST(ComponentNames, from_file_names) {
     EXPECT_EQ(name("port_Feed 1_v.dat"), "Feed 1 ");
     EXPECT_EQ(name("a_b_c_d"), "b c ");
     EXPECT_EQ(name("_x_"), "x ");
-    EXPECT_EQ(name("a__b"), " ") << "an empty part counts, and is not an empty name";
+    EXPECT_EQ(name("a__b"), " ") << "an empty part still makes a name";
     const auto phrases = QString(
                              "passive load |voltage source |current source |switch |nonlinear capacitor |diode |"
                              "lumped component |S-parameter block |")
@@ -255,7 +255,7 @@ TEST(ComponentNames, from_file_names) {
     }
 }
 
-TEST(ComponentGeometry, points_of_impedance_lines) {
+TEST(ComponentGeometry, ListsPointsOfImpedanceLines) {
     OpenComponent component;
     component.setEndPoints({{10, 0, 0}, {20, 0, 0}});
     const auto expectPoints = [&](int type, std::vector<Point> further) {
@@ -269,10 +269,10 @@ TEST(ComponentGeometry, points_of_impedance_lines) {
     expectPoints(Line::Coaxial, {{1, 2, 3}, {0, 0, 1}});
     expectPoints(Line::Bundle, {{1, 0, 0}, {2, 0, 0}, {3, 0, 0}, {4, 0, 0.1}});
     expectPoints(Line::MultiPin, {{1, 2, 3}, {0.1, -2, 1234567}});
-    EXPECT_EQ(component.getAllPointsOfImpedanceLine(0), std::vector<Point>(2)) << "its nodes are no end points";
+    EXPECT_EQ(component.getAllPointsOfImpedanceLine(0), std::vector<Point>(2)) << "its nodes are not end points";
 }
 
-TEST(ComponentGeometry, extent_and_pin_groups) {
+TEST(ComponentGeometry, ExtentAndPinGroupsDependOnTheLines) {
     OpenComponent component;
     const auto hasExtent = [&](const std::vector<Line>& lines) {
         component.setImpedanceLines(lines);
@@ -291,7 +291,7 @@ TEST(ComponentGeometry, extent_and_pin_groups) {
     EXPECT_EQ(line.getPinGroup(1).at(1).name + line.getPinGroup(1)(0).name, "qp");
 }
 
-TEST(ComponentGeometry, drawn_components_have_no_file_name) {
+TEST(ComponentGeometry, DrawnComponentsHaveNoFileName) {
     const Component plain("p", 1, 2, 3, Component::Z, true), drawn("d", {}, {}, 1, 2, 3, Component::Z, true);
     EXPECT_EQ(plain.getOutputFilename() + '|' + drawn.getOutputFilename() + '|' + plain.getSblockFilename(),
               "None||none");

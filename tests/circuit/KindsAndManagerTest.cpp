@@ -1,6 +1,6 @@
 #include <limits>
 
-#include "circuit/CircuitTestSupport.h"
+#include "TestSupport.h"
 #include "quarn/quarn.h"
 
 namespace quarn::test {
@@ -54,7 +54,7 @@ const QString doubtful =
     "warning: A %1 circuit component is specified as a Port.  S-parameters for this Port may be invalid.";
 // clang-format on
 
-TEST(ComponentKinds, drawn_ones) {
+TEST(ComponentKinds, DrawnComponentsHaveDefaults) {
     const Feed feed("f", {}, {}, Component::ParallelCurrent, 1, 2, 3, 4, 5, Component::Parallel);
     EXPECT_TRUE(feed.isActive() && feed.isPort());
     EXPECT_EQ(feed.getCapacitance() - feed.getInductance(), -1);
@@ -64,7 +64,7 @@ TEST(ComponentKinds, drawn_ones) {
     EXPECT_FALSE(load.isPort() || load.isActive() || SBlock("s", {}, {}, "file").isPort());
 }
 
-TEST(ComponentKinds, feeds_and_passive_loads_are_checked_alike) {
+TEST(ComponentKinds, FeedsAndPassiveLoadsAreCheckedAlike) {
     Feed feed(base("f"), Component::SeriesVoltage, -1, -1, -1, -1, -1, -1, -1, Component::Series, positive);
     const QStringList warnings{negativeR, negativeC, negativeL};
     EXPECT_EQ(findingsOf(feed, Engine::FDTD), QStringList(noWaveform) + warnings + QStringList(negativeDelay));
@@ -79,7 +79,7 @@ TEST(ComponentKinds, feeds_and_passive_loads_are_checked_alike) {
     EXPECT_EQ(findingsOf(active, Engine::FDTD), QStringList());
 }
 
-TEST(ComponentKinds, switches) {
+TEST(ComponentKinds, SwitchTransitionsAreChecked) {
     using Transitions = std::vector<std::pair<int, int>>;
     const auto check = [](const Transitions& transitions, Engine engine = Engine::FDTD) {
         Switch component(base("s"), Switch::Open, positive);
@@ -89,7 +89,7 @@ TEST(ComponentKinds, switches) {
     EXPECT_EQ(check({}, Engine::FEM), QStringList(switchEngine));
     EXPECT_EQ(check({}), QStringList(noTransition));
     EXPECT_EQ(check({{-5, -5}}), QStringList());
-    EXPECT_EQ(check({{10, 5}, {15, 3}}), QStringList(overlap)) << "the start is where the one before ends";
+    EXPECT_EQ(check({{10, 5}, {15, 3}}), QStringList(overlap)) << "the start equals the end of the previous transition";
     EXPECT_EQ(check({{10, 5}, {16, 3}}), QStringList());
     EXPECT_EQ(check({{10, 5}, {10, 1}}), QStringList(order));
     EXPECT_EQ(check({{10, -5}, {10, 1}}), QStringList(order));
@@ -97,7 +97,7 @@ TEST(ComponentKinds, switches) {
     EXPECT_EQ(check({{10, std::numeric_limits<int>::max()}, {20, 1}}), QStringList(overlap)) << "without overflow";
 }
 
-TEST(ComponentKinds, diodes_and_lumped_components) {
+TEST(ComponentKinds, DiodesAndLumpedComponentsAreChecked) {
     for (int i = 0; i < 7; ++i) {
         const auto check = [i](float value, Engine engine) {
             float p[] = {1, 1, 1, 1, 1, 1, 1};
@@ -120,7 +120,7 @@ QStringList namesOf(const Manager& manager) {
     return names;
 }
 
-TEST(ComponentManager, inserts_ports_before_other_components) {
+TEST(ComponentManager, InsertsPortsBeforeOtherComponents) {
     Component p1 = base("P1"), p2 = base("P2"), p3 = base("P3"), a = base("A", false), b = base("B", false);
     Manager manager({}, false, 7);
     EXPECT_EQ(manager.getActivePort(), -1);
@@ -136,14 +136,15 @@ TEST(ComponentManager, inserts_ports_before_other_components) {
     EXPECT_EQ(copy.getNumberOfComponents(), 5U);
 }
 
-TEST(ComponentManager, insertions_that_fail_leave_the_list) {
+TEST(ComponentManager, FailedInsertionsLeaveTheListUnchanged) {
     Component a = base("A", false), p1 = base("P1"), p2 = base("P2"), p1Again = base("P1"), lower = base("p1");
     Component umlaut = base("Ö", false);
     Manager manager({&a, &p1}, false, -1);
     EXPECT_EQ(thrownBy([&] { manager.insert(&p2, false); }), "invalid order of quarn circuit components");
     EXPECT_EQ(namesOf(manager), (QStringList{"A", "P1"}));
     manager.insert(&umlaut, false);
-    EXPECT_EQ(namesOf(manager), (QStringList{"A", "P1", "Ö"})) << "no port: no matter what the order is";
+    EXPECT_EQ(namesOf(manager), (QStringList{"A", "P1", "Ö"}))
+        << "any order is accepted for components that are not ports";
     EXPECT_EQ(thrownBy([&] { manager.insert(&p1Again, true); }),
               "Unable to insert new circuit component: name <P1> is not unique");
     EXPECT_EQ(thrownBy([&] { manager.insert(&umlaut, true); }),
@@ -155,7 +156,7 @@ TEST(ComponentManager, insertions_that_fail_leave_the_list) {
     EXPECT_EQ(namesOf(ports), (QStringList{"P1", "P1", "p1"}));
 }
 
-TEST(ComponentManager, listed_components_that_change_their_role_are_noticed) {
+TEST(ComponentManager, InsertionSeesChangedRolesOfListedComponents) {
     Component p1 = base("P1"), a = base("A", false), b = base("B", false), p2 = base("P2"), p3 = base("P3");
     Manager manager({&p1, &a, &b}, false, -1);
     a = base("A");
@@ -165,7 +166,7 @@ TEST(ComponentManager, listed_components_that_change_their_role_are_noticed) {
     EXPECT_EQ(thrownBy([&] { manager.insert(&p3, true); }), "invalid order of quarn circuit components");
 }
 
-TEST(ComponentManager, null_pointers_are_left_out) {
+TEST(ComponentManager, NullPointersAreIgnored) {
     ComponentManager manager({nullptr}, true, 0);
     manager.insert(nullptr, true);
     EXPECT_TRUE(manager.getComponents().empty());
@@ -175,22 +176,22 @@ TEST(ComponentManager, null_pointers_are_left_out) {
     EXPECT_TRUE(ports.getWaveguidePorts().empty());
 }
 
-TEST(ComponentManager, nonlinear_capacitors_are_noticed_on_demand) {
+TEST(ComponentManager, NonlinearCapacitorsAreFoundByCaching) {
     NonlinearCapacitor capacitor(base("c", false), 1, 1, 2, 3, 4, 5, 6, 7, positive);
     EXPECT_EQ(capacitor.getC1() + 10 * capacitor.getVs() + 100 * capacitor.getA3(), 731);
     Manager manager({}, false, -1);
     manager.insert(&capacitor, false);
     EXPECT_TRUE(manager.hasAnyOfType(Component::NonLinearCapacitor) && !manager.hasNonlinearCapacitor());
-    EXPECT_TRUE(Manager(manager).hasNonlinearCapacitor()) << "a copy looks anew";
+    EXPECT_TRUE(Manager(manager).hasNonlinearCapacitor()) << "a copy updates its answers";
     Manager assigned({}, true, 3);
     assigned = manager;
     EXPECT_FALSE(assigned.hasNonlinearCapacitor() || assigned.computeSParameters());
     manager.cacheVariables();
     manager.clearComponents();
-    EXPECT_TRUE(manager.hasNonlinearCapacitor()) << "as it was";
+    EXPECT_TRUE(manager.hasNonlinearCapacitor()) << "clearing does not update the answer";
 }
 
-TEST(ComponentManager, s_parameters_leave_one_feed_active) {
+TEST(ComponentManager, SParametersLeaveOneFeedActive) {
     Feed a = feedOf("a", 50, 0, 0), b = feedOf("b", 50, 0, 0), c = feedOf("c", 50, 0, 0, false);
     const Manager without({&a, &b, &c}, false, 1);
     EXPECT_TRUE(a.isActive() && b.isActive() && c.isActive());
@@ -201,7 +202,7 @@ TEST(ComponentManager, s_parameters_leave_one_feed_active) {
     EXPECT_EQ(b.getWaveformIndex(), 0);
 }
 
-TEST(ComponentManager, the_active_port_is_a_position_among_null_pointers_too) {
+TEST(ComponentManager, ActivePortCountsNullPointers) {
     struct Row {
         int given, listed;
         bool isActive;
@@ -214,13 +215,13 @@ TEST(ComponentManager, the_active_port_is_a_position_among_null_pointers_too) {
     }
 }
 
-// What is found with the port beside an active feed of 50 ohms, 2 H and 3 F, or of 50 ohms alone.
+// The findings for a port beside an active feed of 50 ohms, `l` and `c`.
 QStringList portFindings(Component& port, float l = 0, float c = 0) {
     Feed feed = feedOf("active", 50, l, c);
     return findingsOf(Manager({&feed, &port}, true, 0), Engine::FDTD);
 }
 
-TEST(ComponentManager, impedances_of_ports_are_compared_with_the_active_feed) {
+TEST(ComponentManager, ComparesPortImpedancesWithTheActiveFeed) {
     const auto load = [](float r, float l, float c, float feedL, float feedC, bool isPort = true) {
         PassiveLoad port = loadOf("p", r, l, c, isPort);
         return portFindings(port, feedL, feedC);
@@ -231,18 +232,18 @@ TEST(ComponentManager, impedances_of_ports_are_compared_with_the_active_feed) {
     EXPECT_EQ(load(50, 0, 3, 0, 0), (QStringList{reactance, mismatch}));
     EXPECT_EQ(load(50, 2, 3, 2, 3), QStringList(reactance));
     EXPECT_EQ(load(50, 0, 0, 2, 3), (QStringList{reactance, mismatch})) << "the active feed is reactive itself";
-    EXPECT_EQ(load(75, 2, 3, 0, 0, false), QStringList()) << "no port";
+    EXPECT_EQ(load(75, 2, 3, 0, 0, false), QStringList()) << "not a port";
     const auto feed = [](float r, float l, float c) {
         Feed port = feedOf("p", r, l, c);
         return portFindings(port, 2, 3);
     };
-    EXPECT_EQ(feed(50, 8, 9), QStringList(reactance)) << "one value in common is enough for a feed";
+    EXPECT_EQ(feed(50, 8, 9), QStringList(reactance)) << "a feed needs only one common value";
     EXPECT_EQ(feed(75, 2, 9), QStringList(reactance));
     EXPECT_EQ(feed(75, 8, 3), QStringList(reactance));
     EXPECT_EQ(feed(75, 8, 9), (QStringList{reactance, mismatch}));
 }
 
-TEST(ComponentManager, kinds_that_are_doubtful_as_ports) {
+TEST(ComponentManager, WarnsAboutKindsThatAreUnsuitableAsPorts) {
     LumpedComponent lumped(base("l"), positive, {}, {});
     SBlock block(base("b"), "file", {});
     Diode diode(base("d"), 1, 1, 1, 1, 1, 1, 1, positive);
@@ -262,11 +263,11 @@ TEST(ComponentManager, kinds_that_are_doubtful_as_ports) {
         (QStringList{
             reactance, mismatch, doubtful.arg("Switch"), doubtful.arg("Nonlinear Capacitor"), doubtful.arg("Diode")}) +
             own)
-        << "each once, in this order, and then the components' own";
+        << "each once, in this order, followed by the findings of the components";
     EXPECT_EQ(findingsOf(all, Engine::FEM), (QStringList{diodeEngine, diodeEngine, switchEngine, negativeC}));
 }
 
-TEST(ComponentManager, without_a_valid_active_feed_nothing_is_compared) {
+TEST(ComponentManager, ComparesNothingWithoutAValidActiveFeed) {
     Feed feed = feedOf("f", 50, 0, 0), other = feedOf("g", 75, 8, 9), noPort = feedOf("h", 1, 2, 3, false);
     PassiveLoad load = loadOf("l", 75, 0, 0), plain = loadOf("m", 75, 0, 0, false);
     EXPECT_EQ(findingsOf(Manager({}, true, 0), Engine::FDTD), QStringList(noComponents));
@@ -284,10 +285,10 @@ TEST(ComponentManager, without_a_valid_active_feed_nothing_is_compared) {
     EXPECT_EQ(findingsOf(Manager({&other, &load}, true, 0), Engine::FDTD), QStringList(inactive));
     Manager stale({&load}, false, -1);
     load = loadOf("n", -1, 0, 0, false);
-    EXPECT_EQ(findingsOf(stale, Engine::FDTD), QStringList(negativeR)) << "the ports were counted before";
+    EXPECT_EQ(findingsOf(stale, Engine::FDTD), QStringList(negativeR)) << "the ports were counted before the change";
 }
 
-TEST(StaticVoltages, thresholds_are_checked_beyond_fdtd) {
+TEST(StaticVoltages, ThresholdsAreCheckedExceptForFDTD) {
     const QString text = "The voltage %1 threshhold %2 be greater than zero.";
     StaticVoltageList list(0, -1, 3, {});
     EXPECT_EQ(findingsOf(list, Engine::FDTD), QStringList());
@@ -299,58 +300,6 @@ TEST(StaticVoltages, thresholds_are_checked_beyond_fdtd) {
               (QStringList{"error: " + text.arg("conductor", "must"), "error: " + text.arg("residual", "must")}));
     EXPECT_EQ(findingsOf(StaticVoltageList(), Engine::FEM), QStringList());
     EXPECT_EQ(StaticVoltageList(), StaticVoltageList(0.01, 100, 5000, {}));
-}
-
-const QString noBoundaries = "error: Boundary conditions have not been specified.";
-const QString noExcitation = "error: No excitation has been specified.";
-const QString noWaveforms = "error: No waveform has been specified.";
-const QString noTermination = "error: No termination criteria has been specified.";
-
-TEST(ProjectValidity, components_and_static_voltages_are_excitations) {
-    OwningProject project;
-    auto* voltages = new StaticVoltageList(0, 1, 1, {});
-    project.setStaticVoltageList(voltages);
-    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noExcitation, noTermination})) << "no voltage is given";
-    voltages->addPoint({});
-    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noTermination}));
-    project.setEngine(Engine::FEM);
-    EXPECT_EQ(findingsOf(project),
-              (QStringList{noBoundaries, "error: The voltage conductor threshhold must be greater than zero."}));
-    project.setEngine(Engine::FDTD);
-    project.setComponentManager(new Manager({}, true, 0));
-    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noComponents, noTermination})) << "no component, no wave";
-    delete project.getComponentManager();
-    project.setComponentManager(new Manager({new Feed(feedOf("f", -1, 0, 0))}, true, 0));
-    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noWaveforms, noTermination, negativeR}));
-    delete project.getComponentManager()->getComponent(0);
-    delete project.getComponentManager();
-    project.setComponentManager(new Manager({new Feed(feedOf("f", 50, 0, 0))}, false, 0));
-    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noTermination})) << "no active port, no wave";
-}
-
-TEST(ProjectValidity, copies_share_components_and_ports) {
-    OwningProject source;
-    source.setComponentManager(new Manager({new Feed(feedOf("f", 50, 0, 0))}, false, 0));
-    source.setWaveGuidePortManager(new WaveGuidePortManager({new WaveGuidePort}));
-    source.setStaticVoltageList(new StaticVoltageList(1, 2, 3, {{4, 5, 6, 7}}));
-    v6ProjectFile copy(source);
-    EXPECT_NE(copy.getComponentManager(), source.getComponentManager());
-    EXPECT_EQ(copy.getComponentManager()->getComponents(), source.getComponentManager()->getComponents());
-    EXPECT_NE(copy.getWaveGuidePortManager(), source.getWaveGuidePortManager());
-    EXPECT_EQ(copy.getWaveGuidePortManager()->getWaveguidePorts(),
-              source.getWaveGuidePortManager()->getWaveguidePorts());
-    EXPECT_NE(copy.getStaticVoltageList(), source.getStaticVoltageList());
-    EXPECT_EQ(*copy.getStaticVoltageList(), *source.getStaticVoltageList());
-    copy.clearComponents();
-    copy.clearWaveguidePorts();
-    EXPECT_EQ(copy.getComponentManager()->getNumberOfPorts() + copy.getWaveGuidePortManager()->getNumberOfPorts(), 0U);
-    EXPECT_EQ(source.getComponentManager()->getNumberOfComponents(), 1U);
-    EXPECT_EQ(source.getWaveGuidePortManager()->getNumberOfPorts(), 1U);
-    deleteContents(copy);
-    v6ProjectFile empty;
-    empty.clearComponents();
-    empty.clearWaveguidePorts();
-    deleteContents(empty);
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
 #include <QByteArray>
 #include <sstream>
 
-#include "circuit/CircuitTestSupport.h"
+#include "EachMember.h"
+#include "TestSupport.h"
 #include "quarn/MeshlessVia.h"
 #include "results/ResultFolder.h"
 
@@ -37,7 +38,7 @@ protected:
     ResultFolder m_folder;
 };
 
-TEST_F(MeshlessViaFile, bytes) {
+TEST_F(MeshlessViaFile, HasItsBytes) {
     const std::vector<MeshlessVia> vias{coaxialVia(), MeshlessVia()};
     const std::string bytes = check + twoVias + coaxialBytes + unsetBytes, path = write(std::string(999, 'x'));
     MeshlessVia::write_binary(vias, path);
@@ -52,7 +53,7 @@ TEST_F(MeshlessViaFile, bytes) {
     EXPECT_TRUE(list.empty()) << "the list is replaced";
 }
 
-// The input of a pipe: no position to ask for.
+// Input like that of a pipe, which has no position.
 struct Pipe : std::streambuf {
     explicit Pipe(std::string text) : m_text(std::move(text)) {
         setg(m_text.data(), m_text.data(), m_text.data() + m_text.size());
@@ -60,7 +61,7 @@ struct Pipe : std::streambuf {
     std::string m_text;
 };
 
-TEST(MeshlessViaStream, needs_no_position_and_leaves_what_follows) {
+TEST(MeshlessViaStream, NeedsNoPositionAndLeavesTheRest) {
     const std::vector<MeshlessVia> vias(5000, coaxialVia());
     std::stringstream written;
     MeshlessVia::write_binary_stream(vias, written);
@@ -79,24 +80,24 @@ TEST(MeshlessViaStream, needs_no_position_and_leaves_what_follows) {
     EXPECT_TRUE(list.empty());
 }
 
-TEST_F(MeshlessViaFile, failures_have_messages_and_leave_the_list_empty) {
+TEST_F(MeshlessViaFile, FailuresHaveMessagesAndLeaveTheListEmpty) {
     const std::string order = "Unable to read meshless vias, byte order check failed";
     const std::string content = "Unable to read meshless vias";
     struct Row {
         std::string name, bytes, message;
-        std::uint64_t count;  // as the counter reads it; its message where it cannot
+        std::uint64_t count;  // the result of getNbMeshlessVias
     };
     const Row rows[] = {
-        {"empty", "", order, 0},
-        {"short_check", check.substr(1), order, 0},
-        {"check_of_another_byte_order", bytesOf("000000000001e240") + noVias, order, 0},
-        {"no_count", check, content, 0},
-        {"short_count", check + noVias.substr(1), content, 0},
-        {"three_named_and_two_there", check + bytesOf("0300000000000000") + coaxialBytes + unsetBytes, content, 3},
-        {"one_byte_short", check + bytesOf("0100000000000000") + coaxialBytes.substr(1), content, 1},
-        {"hostile_count", check + bytesOf("0000000000000020") + coaxialBytes, content, std::uint64_t(1) << 61},
-        {"count_that_wraps_to_0", check + bytesOf("0000000000000080"), content, std::uint64_t(1) << 63},
-        {"largest_count", check + bytesOf("ffffffffffffffff") + unsetBytes, content, ~std::uint64_t(0)},
+        {"Empty", "", order, 0},
+        {"ShortCheck", check.substr(1), order, 0},
+        {"CheckOfAnotherByteOrder", bytesOf("000000000001e240") + noVias, order, 0},
+        {"NoCount", check, content, 0},
+        {"ShortCount", check + noVias.substr(1), content, 0},
+        {"ThreeNamedButTwoPresent", check + bytesOf("0300000000000000") + coaxialBytes + unsetBytes, content, 3},
+        {"OneByteShort", check + bytesOf("0100000000000000") + coaxialBytes.substr(1), content, 1},
+        {"HostileCount", check + bytesOf("0000000000000020") + coaxialBytes, content, std::uint64_t(1) << 61},
+        {"CountThatOverflowsToZero", check + bytesOf("0000000000000080"), content, std::uint64_t(1) << 63},
+        {"LargestCount", check + bytesOf("ffffffffffffffff") + unsetBytes, content, ~std::uint64_t(0)},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -119,7 +120,7 @@ TEST_F(MeshlessViaFile, failures_have_messages_and_leave_the_list_empty) {
     }
 }
 
-TEST_F(MeshlessViaFile, that_cannot_be_opened) {
+TEST_F(MeshlessViaFile, UnopenedFilesAreReported) {
     const std::string path = m_folder.path("no folder/vias").toStdString();
     std::vector<MeshlessVia> list(1);
     EXPECT_EQ(MeshlessVia::getNbMeshlessVias(path), 0U);
@@ -129,7 +130,7 @@ TEST_F(MeshlessViaFile, that_cannot_be_opened) {
     EXPECT_EQ(thrownBy([&] { MeshlessVia::write_binary({}, path); }), "Unable to write <" + path + ">");
 }
 
-TEST(MeshlessViaModel, radii) {
+TEST(MeshlessViaModel, ChecksTheRadii) {
     const P a, b;
     const MeshlessVia solid(a, b, 0.5, 1, 2);
     EXPECT_EQ(solid.getInnerRadius(), 0);
@@ -140,25 +141,18 @@ TEST(MeshlessViaModel, radii) {
               "invalid inner/outer radius for Meshless Via: Rinner=0.333333, Router=1e-07");
 }
 
-TEST(MeshlessViaModel, every_value_counts_for_equality) {
-    const auto via = [](int changed) {
-        double v[14] = {};
-        int ids[4] = {};
-        if (changed < 14) v[changed] = 0.25;
-        if (changed >= 14 && changed < 18) ids[changed - 14] = 1;
-        v[6] += 1;  // the outer radius is above the inner one
-        MeshlessVia result(P(v, P::Type(ids[0]), ids[1]), P(v + 3, P::Type(ids[2]), ids[3]), v[6], v[7], v[8], v[9]);
-        result.setInnerDielectricPermittivity(v[10]);
-        return result;
-    };
-    EXPECT_EQ(via(99), via(99));
-    for (const int changed : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 14, 15, 16, 17}) {
-        EXPECT_NE(via(99), via(changed)) << changed;
-        EXPECT_FALSE(via(99) == via(changed)) << changed;
-    }
+TEST(MeshlessViaModel, EveryValueCountsForEquality) {
+    using std::tuple;
+    const auto points = changedOneByOne<P>(tuple(0.0, 0.0, 0.0, P::OnVertex, 0), tuple(1.0, 1.0, 1.0, P::OnEdge, 1));
+    expectAllDifferent(points);
+    auto vias = changedOneByOne<MeshlessVia>(tuple(points[0], points[0], 2.0, 0.0, 0.0, 0.0),
+                                             tuple(points[1], points[1], 3.0, 1.0, 1.0, 1.0));
+    vias.push_back(vias[0]);
+    vias.back().setInnerDielectricPermittivity(1);
+    expectAllDifferent(vias);
 }
 
-TEST(MeshlessViaModel, text_forms) {
+TEST(MeshlessViaModel, HasTextForms) {
     EXPECT_EQ(P().str(), "[(0, 0, 0)]");
     EXPECT_EQ(P(0.1, -2, 1234567, P::OnEdge, 5).str(), "[(0.1, -2, 1.23457e+06) on edge 5]");
     EXPECT_EQ(P(1, 2, 3, P::OnFace, -1).str(), "[(1, 2, 3) on face -1]");

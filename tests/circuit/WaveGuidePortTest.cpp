@@ -1,4 +1,4 @@
-#include "circuit/CircuitTestSupport.h"
+#include "TestSupport.h"
 #include "quarn/WaveGuidePort.h"
 
 namespace quarn::test {
@@ -21,7 +21,7 @@ Keys keysOf(const WaveGuidePortManager& manager) {
     return keys;
 }
 
-TEST(WaveGuidePorts, are_kept_sorted_by_waveguide_and_mode) {
+TEST(WaveGuidePortManager, KeepsPortsSortedByWaveguideAndMode) {
     WaveGuidePort ports[] = {portOf(2, 1), portOf(1, 3), portOf(1, 1), portOf(-1, 9), portOf(10, 0)};
     WaveGuidePortManager manager;
     for (auto& port : ports) manager.insert(&port);
@@ -35,15 +35,15 @@ TEST(WaveGuidePorts, are_kept_sorted_by_waveguide_and_mode) {
     EXPECT_EQ(keysOf(manager), before);
 }
 
-// A loaded list may have such ports.
-TEST(WaveGuidePorts, of_listed_ports_with_the_same_numbers_the_last_survives_an_insertion) {
+// A loaded list may contain such ports.
+TEST(WaveGuidePortManager, InsertionKeepsTheLastOfListedPortsWithEqualNumbers) {
     WaveGuidePort first = portOf(2, 1), second = portOf(2, 1), other = portOf(1, 1);
     WaveGuidePortManager manager({&first, &second});
     EXPECT_NE(thrownBy([&] { manager.insert(&first); }), "nothing");
     EXPECT_EQ(manager.getNumberOfWaveguidePorts(), 2U) << "unchanged";
     manager.insert(&other);
     EXPECT_EQ(manager.getWaveguidePorts(), (std::vector<WaveGuidePort*>{&other, &second}));
-    EXPECT_EQ(findingsOf(manager, Engine::FDTD), QStringList()) << "as many as were counted";
+    EXPECT_EQ(findingsOf(manager, Engine::FDTD), QStringList()) << "the count still holds";
     WaveGuidePort third = portOf(3, 1);
     WaveGuidePortManager doubled({&first, &second, &second});
     doubled.insert(&third);
@@ -51,7 +51,7 @@ TEST(WaveGuidePorts, of_listed_ports_with_the_same_numbers_the_last_survives_an_
               QStringList("error: The number of ports is greater than the number of waveguide ports."));
 }
 
-TEST(WaveGuidePorts, are_counted_on_demand_and_shared_by_copies) {
+TEST(WaveGuidePortManager, CountsPortsByCachingAndSharesThemWithCopies) {
     WaveGuidePort a = portOf(1, 1), b = portOf(2, 1);
     WaveGuidePortManager manager;
     manager.insert(&a);
@@ -69,7 +69,7 @@ TEST(WaveGuidePorts, are_counted_on_demand_and_shared_by_copies) {
     EXPECT_EQ(manager.getNumberOfPorts() + manager.getNumberOfWaveguidePorts(), 0U);
 }
 
-TEST(WaveGuidePorts, text_form) {
+TEST(WaveGuidePortManager, HasATextForm) {
     WaveGuidePort port;
     const QString head = "name                  : noname\nwaveguide number      : -1\nwaveguide mode number : -1\n";
     EXPECT_EQ(port.qstr(),
@@ -102,7 +102,7 @@ TEST(WaveGuidePorts, text_form) {
     }
 }
 
-TEST(WaveGuidePorts, names_from_file_names) {
+TEST(WaveGuidePortManager, DerivesPortNamesFromFileNames) {
     WaveGuidePort port;
     for (const auto& [file, name] :
          {std::pair("a_b_c_d", "b_c"), {"a__d", ""}, {"a_d", ""}, {"ad", ""}, {"_mode 1_", "mode 1"}}) {

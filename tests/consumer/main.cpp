@@ -1,5 +1,5 @@
-// A user of the installed package: it must compile against the installed headers without a warning, link, start, and
-// find there the version that the package claims. Materials of any two classes can be compared in each standard.
+// A program that uses the installed package: it must compile against the installed headers without a warning, link,
+// start, and print the version of the package. Materials of any two classes can be compared in each language standard.
 #include <algorithm>
 #include <cstdio>
 #include <list>

@@ -36,7 +36,7 @@ Stream streamOf(const Bytes& bytes) {
     return stream;
 }
 
-// The bytes that a value becomes, that become the value, and of which none may miss.
+// The value is written as the bytes and read from them, and from one byte less it is not.
 template <class T>
 void expectBytes(const T& value, const Bytes& bytes, bool write(const T&, std::FILE*), bool read(T&, std::FILE*)) {
     const Stream written(std::tmpfile());
@@ -48,14 +48,14 @@ void expectBytes(const T& value, const Bytes& bytes, bool write(const T&, std::F
     found = {};
     const Stream tooShort = streamOf({bytes.begin(), bytes.end() - 1});
     EXPECT_FALSE(read(found, tooShort.get()));
-    EXPECT_TRUE(std::feof(tooShort.get())) << "every byte is tried";
+    EXPECT_TRUE(std::feof(tooShort.get())) << "reading must reach the end of the file";
     EXPECT_FALSE(read(found, nullptr));
-    EXPECT_EQ(found, T()) << "changed by a number that is not all there";
+    EXPECT_EQ(found, T()) << "an incomplete number must not change the value";
     EXPECT_FALSE(write(value, Stream(std::fopen("/dev/null", "rb")).get()));
     EXPECT_FALSE(write(value, nullptr));
 }
 
-TEST(BinaryFile, bytesOfEachType) {
+TEST(BinaryFile, EachTypeHasItsBytes) {
     expectBytes<signed char>(-2, {0xFE}, fwrite_int8, fread_int8);
     expectBytes<short>(-2, {0xFE, 0xFF}, fwrite_int16, fread_int16);
     expectBytes<int>(0x01020304, {4, 3, 2, 1}, fwrite_int32, fread_int32);
@@ -66,7 +66,7 @@ TEST(BinaryFile, bytesOfEachType) {
         {1.0F, -2.0F}, {0, 0, 0x80, 0x3F, 0, 0, 0, 0xC0}, fwrite_complex_float, fread_complex_float);
 }
 
-TEST(BinaryFile, reversedByteOrder) {
+TEST(BinaryFile, SupportsTheReversedByteOrder) {
     using namespace scalar;
     constexpr ByteOrder reversed = ByteOrder::Reversed;
     expectBytes<short>(0x0102, {1, 2}, writeScalar<reversed>, readScalar<reversed>);
@@ -74,8 +74,8 @@ TEST(BinaryFile, reversedByteOrder) {
     expectBytes<long long>(0x0102030405060708, {1, 2, 3, 4, 5, 6, 7, 8}, writeScalar<reversed>, readScalar<reversed>);
 }
 
-// Of an odd length, so that numbers lie across the ends of the stream's buffer; unbuffered, line-buffered, and tiny.
-TEST(BinaryFile, numbersAcrossAnyBuffer) {
+// The odd length makes numbers cross the ends of the stream's buffer, which is also tiny, line-buffered or absent.
+TEST(BinaryFile, MovesNumbersAcrossAnyBuffer) {
     const std::pair<int, std::size_t> buffers[] = {
         {_IOFBF, 4096}, {_IOFBF, 16}, {_IOFBF, 3}, {_IOLBF, 64}, {_IONBF, 0}};
     for (const auto& [mode, size] : buffers) {
@@ -102,7 +102,7 @@ TEST(BinaryFile, numbersAcrossAnyBuffer) {
 
 class OpenFile : public testing::Test {
 protected:
-    // The path of a file in the test's folder, brought to a length by slashes.
+    // The path of a file in the test's folder, extended to a length by slashes.
     QString path(int length) const {
         return m_folder.path() + QString(length - m_folder.path().size() - 1, QLatin1Char('/')) + "f";
     }
@@ -115,7 +115,7 @@ protected:
     PathSettings m_settings{false, ""};
 };
 
-TEST_F(OpenFile, limitsWithoutLongPathSupport) {
+TEST_F(OpenFile, LimitsPathsWithoutLongPathSupport) {
     EXPECT_TRUE(open(path(258), "wb"));
     EXPECT_FALSE(open(path(259), "rb"));
     EXPECT_EQ(errno, 38);
@@ -128,20 +128,20 @@ TEST_F(OpenFile, limitsWithoutLongPathSupport) {
     EXPECT_EQ(errno, ENOENT);
 }
 
-TEST_F(OpenFile, longPathSupportLiftsTheLimitAndResolves) {
+TEST_F(OpenFile, LongPathSupportLiftsTheLimitAndResolvesPaths) {
     const PathSettings settings(true, m_folder.path().toStdString());
     EXPECT_TRUE(open(path(300), "wb"));
     EXPECT_TRUE(open("f", "rb"));
     EXPECT_TRUE(open("../" + m_folder.path().section('/', -1) + "/f", "rb"));
 }
 
-TEST_F(OpenFile, nameBeyondAscii) {
+TEST_F(OpenFile, AcceptsNamesBeyondASCII) {
     const QString name = m_folder.filePath(QString::fromUtf8("\xc3\xa9.bin"));
     EXPECT_TRUE(open(name, "wb"));
     EXPECT_TRUE(QFile::exists(name));
 }
 
-TEST_F(OpenFile, retriesUntilTheMaximumWait) {
+TEST_F(OpenFile, RetriesUntilTheMaximumWait) {
     const QString missing = m_folder.filePath("missing");
     for (const auto& [maximum, expected] : {std::pair(100, 100), {1, 1}, {0, 0}, {-5, 0}}) {
         int waited = -1;
@@ -155,8 +155,8 @@ TEST_F(OpenFile, retriesUntilTheMaximumWait) {
     EXPECT_EQ(both, 5);
 }
 
-// Each wait is twice the one before, so that the sum is one less than a power of two.
-TEST_F(OpenFile, retriesUntilTheFileIsThere) {
+// Each wait is twice the previous one, so that the sum is one less than a power of two.
+TEST_F(OpenFile, RetriesUntilTheFileIsThere) {
     const QString late = m_folder.filePath("late");
     std::thread other([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));

@@ -21,18 +21,18 @@ void PrintTo(const TextRow& row, std::ostream* out) { *out << row.path; }
 
 class LongPathText : public testing::TestWithParam<TextRow> {};
 
-TEST_P(LongPathText, native) {
+TEST_P(LongPathText, HasItsNativeForm) {
     const TextRow& row = GetParam();
     EXPECT_EQ(toLongPathText(withoutLongPathPrefix(row.path), row.addPrefix).toStdString(), row.native);
 }
 
 const TextRow textRows[] = {
-    {"prefix_and_backslashes", "C:/runs/a.bin", true, R"(\\?\C:\runs\a.bin)"},
-    {"no_prefix_unless_asked_for", "C:/runs/a.bin", false, R"(C:\runs\a.bin)"},
-    {"no_second_prefix_on_backslashes", R"(\\?\C:\a.bin)", true, R"(\\?\C:\a.bin)"},
-    {"no_second_prefix_on_slashes", "//?/C:/a.bin", true, R"(\\?\C:\a.bin)"},
-    {"prefix_alone_is_a_path", "//?/", false, R"(\?\)"},
-    {"pairs_become_single_in_one_pass", "C://a///b////c", false, R"(C:\a\\b\\c)"},
+    {"PrefixAndBackslashes", "C:/runs/a.bin", true, R"(\\?\C:\runs\a.bin)"},
+    {"NoPrefixUnlessAskedFor", "C:/runs/a.bin", false, R"(C:\runs\a.bin)"},
+    {"NoSecondPrefixOnBackslashes", R"(\\?\C:\a.bin)", true, R"(\\?\C:\a.bin)"},
+    {"NoSecondPrefixOnSlashes", "//?/C:/a.bin", true, R"(\\?\C:\a.bin)"},
+    {"PrefixAloneIsAPath", "//?/", false, R"(\?\)"},
+    {"PairsOfSlashesBecomeSingleInOnePass", "C://a///b////c", false, R"(C:\a\\b\\c)"},
 };
 INSTANTIATE_TEST_SUITE_P(, LongPathText, testing::ValuesIn(textRows), [](const auto& row) { return row.param.name; });
 
@@ -48,7 +48,7 @@ void PrintTo(const PathRow& row, std::ostream* out) { *out << row.path; }
 
 class ResolveLongPath : public testing::TestWithParam<PathRow> {};
 
-TEST_P(ResolveLongPath, inAllForms) {
+TEST_P(ResolveLongPath, GivesTheSamePathInAllForms) {
     const PathRow& row = GetParam();
     const PathSettings settings(row.supportLongPaths, row.workingDir);
     EXPECT_EQ(resolveLongPath(row.path, true), row.resolved);
@@ -59,13 +59,13 @@ TEST_P(ResolveLongPath, inAllForms) {
 
 const std::string current = QDir::currentPath().toStdString();
 const PathRow pathRows[] = {
-    {"unchanged_without_support", false, "/runs", "a//../b", "a//../b"},
-    {"relative_to_working_directory", true, "/runs/1", "../b//c", "/runs/b/c"},
-    {"relative_to_current_directory", true, "", "b/c", current + "/b/c"},
-    {"absolute_stays", true, "/runs", "/b/../c", "/b/../c"},
-    {"prefix_is_dropped", true, "/runs", "//?/b", "/runs/b"},
-    {"percent_signs_are_no_place_holders", true, "/run%2", "%1", "/run%2/%1"},
-    {"beyond_ascii", true, "/r\xc3\xa9sultats", "\xf0\x9f\x93\xa1", "/r\xc3\xa9sultats/\xf0\x9f\x93\xa1"},
+    {"UnchangedWithoutSupport", false, "/runs", "a//../b", "a//../b"},
+    {"RelativeToWorkingDirectory", true, "/runs/1", "../b//c", "/runs/b/c"},
+    {"RelativeToCurrentDirectory", true, "", "b/c", current + "/b/c"},
+    {"AbsoluteStays", true, "/runs", "/b/../c", "/b/../c"},
+    {"PrefixIsDropped", true, "/runs", "//?/b", "/runs/b"},
+    {"PercentSignsAreNotPlaceholders", true, "/run%2", "%1", "/run%2/%1"},
+    {"BeyondAscii", true, "/r\xc3\xa9sultats", "\xf0\x9f\x93\xa1", "/r\xc3\xa9sultats/\xf0\x9f\x93\xa1"},
 };
 INSTANTIATE_TEST_SUITE_P(, ResolveLongPath, testing::ValuesIn(pathRows),
                          [](const auto& row) { return row.param.name; });

@@ -6,7 +6,7 @@
 
 namespace quarn::test {
 
-/// Sets what path resolution depends on for the length of a test.
+/// Sets the environment variable and the working directory of path resolution for the duration of a test.
 class PathSettings {
 public:
     PathSettings(bool supportLongPaths, const std::string& workingDir) {

@@ -27,11 +27,12 @@ const QString wire = "begin_<thin_wire> Größe \"7\" > 6\nmaterial_number 2\nra
 const QString wholeFile =
     withMaterials(wire) + maps + grid5x2x1 + "begin_<AveragedMaterialBins> \nend_<AveragedMaterialBins>\n";
 
-TEST(GeometryFile, is_loaded_and_saved_as_it_was) {
+TEST(GeometryFile, LoadAndSaveReproduceTheFile) {
     onBothStreams(wholeFile, [](QTextStream& stream) {
         v6GeometryFile file;
         Grid grid;
         QStringList errors;
+        ASSERT_TRUE(loadText(file, wholeFile)) << "the second load replaces the first";
         ASSERT_TRUE(file.loadFromStream(stream, &grid, errors));
         EXPECT_EQ(errors, QStringList());
         EXPECT_EQ(file.GetMajorFileVersionNumber(), 3);
@@ -44,15 +45,6 @@ TEST(GeometryFile, is_loaded_and_saved_as_it_was) {
     });
 }
 
-TEST(GeometryFile, is_replaced_by_a_second_load) {
-    v6GeometryFile file;
-    ASSERT_TRUE(loadText(file, wholeFile));
-    ASSERT_TRUE(loadText(file, wholeFile));
-    EXPECT_EQ(file.getElectricMaterials().size(), 3U);
-    EXPECT_EQ(file.getMagneticMaterials().size(), 2U);
-    EXPECT_EQ(file.getMaterialMappings().size(), 1U);
-}
-
 struct Reading {
     const char* name;
     QString text;
@@ -61,10 +53,10 @@ struct Reading {
 
 void PrintTo(const Reading& row, std::ostream* out) { *out << row.name; }
 
-class ReadAs : public testing::TestWithParam<Reading> {};
+class GeometryReading : public testing::TestWithParam<Reading> {};
 
-// Both texts are blocks of a file.
-TEST_P(ReadAs, gives_the_same_file) {
+// Both texts are blocks of a geometry file.
+TEST_P(GeometryReading, GivesTheSameFileAsTheEquivalentText) {
     const auto canonical = [](const QString& blocks) {
         v6GeometryFile file;
         Grid grid;
@@ -77,56 +69,56 @@ TEST_P(ReadAs, gives_the_same_file) {
 const QString cells3x1x1 = "GridDefinition{ NumberOfCellsInX 3; NumberOfCellsInY 1; NumberOfCellsInZ 1; }";
 
 const Reading readings[] = {
-    {"blocks_in_any_order", grid5x2x1 + maps, maps + grid5x2x1},
-    {"unknown_blocks", expanded("Unheard{ x 1; Deltas{ y; } }") + maps + expanded("Unheard{}"), maps},
-    {"lines_between_blocks", "stray words\n\nend_<materials>\n" + maps + "stray", maps},
-    {"other_grid_keys",
+    {"BlocksInAnyOrder", grid5x2x1 + maps, maps + grid5x2x1},
+    {"UnknownBlocks", expanded("Unheard{ x 1; Deltas{ y; } }") + maps + expanded("Unheard{}"), maps},
+    {"LinesBetweenBlocks", "stray words\n\nend_<materials>\n" + maps + "stray", maps},
+    {"OtherGridKeys",
      expanded("GridDefinition{ OffsetX a; TargetSizeOfGridInMeters a b c; BaseCellSize 1 2 3; NumberOfCellsInY +2;"
               "GridOriginInMeters 1 2 3; NumberOfCellsInX 1; Unheard NumberOfCellsInX 9; }"),
      expanded("GridDefinition{ GridOriginInMeters 1 2 3; NumberOfCellsInX 1; NumberOfCellsInY 2; }")},
-    {"what_is_dropped_may_be_anything",
+    {"IgnoredValuesMayBeAnything",
      expanded("GridDefinition{ BaseCellSize a b c; OffsetX ; NumberOfCellsInX 1; TargetSizeOfGridInMeters 1;"
               "BaseCellSize 1 x 3 NumberOfCellsInY 2; }"),
      expanded("GridDefinition{ NumberOfCellsInX 1; NumberOfCellsInY 2; }")},
-    {"the_origin_is_single_precision",
+    {"OriginIsSinglePrecision",
      expanded("GridDefinition{ GridOriginInMeters 0.1 0 0; }"),
      expanded("GridDefinition{ GridOriginInMeters 0.10000000149011612 0 0; }")},
-    {"only_the_first_block_of_an_adaptive_grid",
+    {"AdaptiveGridUsesItsFirstBlock",
      expanded("AdaptiveGridDefinition{ word; Any{ NumberOfCellsInX 2; } GridDefinition{ NumberOfCellsInX 7; } }") +
          maps,
      expanded("GridDefinition{ NumberOfCellsInX 2; }") + maps},
-    {"other_blocks_among_the_deltas",
+    {"OtherBlocksAmongTheDeltas",
      expanded(cells3x1x1 + "Deltas{ DelZ{ 0 3; } Unheard{ 0 9; } DelX{ 0 1; +1 2; } }"),
      expanded(cells3x1x1 + "Deltas{ DelX{ 0 1; 1 2; } DelY{} DelZ{ 0 3; } }")},
-    {"the_number_of_a_map_is_its_position",
+    {"NumberOfAMapIsItsPosition",
      expanded("materialMaps{ materialMap{ zMagneticMaterial 1; unheard 3; materialNumber 5; } }"),
      expanded("materialMaps{ materialMap{ materialNumber 0; zMagneticMaterial 1; } }")},
-    {"the_names_of_built_in_materials_are_the_readers",
+    {"BuiltInMaterialsHaveFixedNames",
      expanded("materials{ electricfreespace{ conductivity 5; } }"),
      "begin_<materials> \nend_<materials>\n"},
-    {"kinds_that_are_no_more",
+    {"ObsoleteKindsAreIgnored",
      expanded("materials{ frequency_dependent{ debye{ } } thin_wire{ radius 1; } }"),
      expanded("materials{ thin_wire{ radius 1; } }")},
-    {"a_second_block_of_materials",
+    {"SecondBlockOfMaterials",
      expanded("materials{ thin_wire{ radius 1; } } materials{ thin_wire{ radius 2; } }"),
      expanded("materials{ thin_wire{ radius 1; } thin_wire{ radius 2; } }")},
-    {"both_loss_tangent_and_imaginary_part",
+    {"BothLossTangentAndImaginaryPart",
      expanded("materials{ normal_magnetic{ UseComplex ; Imaginary 3; UseLossTangent ; LossTangent 2; } }"),
      expanded("materials{ normal_magnetic{ UseLossTangent ; LossTangent 2; } }")},
-    {"a_density_alone_makes_physical_parameters",
+    {"DensityAloneCreatesPhysicalParameters",
      expanded("materials{ normal_electric{ density 2; } }"),
      expanded("materials{ normal_electric{ density 2; TemperatureRiseMaterialParameters{} } }")},
-    {"a_file_that_breaks_off", maps + "begin_<Deltas> \nbegin_<DelX> \n0 1\n", maps},
+    {"TruncatedFile", maps + "begin_<Deltas> \nbegin_<DelX> \n0 1\n", maps},
 };
-INSTANTIATE_TEST_SUITE_P(GeometryFile, ReadAs, testing::ValuesIn(readings), rowName<Reading>);
+INSTANTIATE_TEST_SUITE_P(, GeometryReading, testing::ValuesIn(readings), rowName<Reading>);
 
-TEST(GeometryFile, writes_a_run_of_nans_once) {
+TEST(GeometryFile, WritesARunOfNaNsOnce) {
     Grid grid;
     ASSERT_TRUE(grid.initialize(3, 0, 0, 0, 0, 0, {{0, std::nanf("")}}, {}, {}, false));
     EXPECT_EQ(savedText(v6GeometryFile(), grid).count("nan"), 1);
 }
 
-TEST(GeometryFile, skips_the_extra_integer_of_the_header_only_behind_a_one) {
+TEST(GeometryFile, SkipsTheExtraHeaderIntegerOnlyAfterAOne) {
     const QString header = versionLine + "mesh 1 -2 3 1.5 2e3 nan -1 0 .5 a b c d e f ";
     v6GeometryFile file;
     ASSERT_TRUE(loadText(file, header + "1 begin_<Unheard>\n" + maps));
@@ -144,9 +136,9 @@ struct Version {
 
 void PrintTo(const Version& row, std::ostream* out) { *out << row.name; }
 
-class VersionLine : public testing::TestWithParam<Version> {};
+class GeometryVersion : public testing::TestWithParam<Version> {};
 
-TEST_P(VersionLine, decides_whether_the_file_is_read) {
+TEST_P(GeometryVersion, DecidesWhetherTheFileIsRead) {
     v6GeometryFile file;
     QStringList errors;
     EXPECT_EQ(loadText(file, QString(GetParam().line) + "\nmesh_defined\n", nullptr, &errors), GetParam().isAccepted);
@@ -156,16 +148,16 @@ TEST_P(VersionLine, decides_whether_the_file_is_read) {
 }
 
 const Version versions[] = {
-    {"current", "Geometry file version 3.20", 3, 20, true},
-    {"any_case_and_blanks", " geometryFILE  ver sion3 . 7", 3, 7, true},
-    {"minor_nineteen", "Geometry file version 4.19", 4, 19, true},
-    {"older", "Geometry file version 2.20", 2, 20, false},
-    {"no_minor", "Geometry file version 3", 3, 0, true},
-    {"no_number", "Geometry file version", -1, 0, false},
-    {"no_integer_holds_it", "Geometry file version 1e30", 0, 0, false},
-    {"no_version", "mesh_defined", 0, 0, false},
+    {"CurrentVersion", "Geometry file version 3.20", 3, 20, true},
+    {"AnyCaseAndBlanks", " geometryFILE  ver sion3 . 7", 3, 7, true},
+    {"MinorNineteen", "Geometry file version 4.19", 4, 19, true},
+    {"OlderVersion", "Geometry file version 2.20", 2, 20, false},
+    {"NoMinor", "Geometry file version 3", 3, 0, true},
+    {"NoNumber", "Geometry file version", -1, 0, false},
+    {"NumberBeyondIntegers", "Geometry file version 1e30", 0, 0, false},
+    {"NoVersion", "mesh_defined", 0, 0, false},
 };
-INSTANTIATE_TEST_SUITE_P(GeometryFile, VersionLine, testing::ValuesIn(versions), rowName<Version>);
+INSTANTIATE_TEST_SUITE_P(, GeometryVersion, testing::ValuesIn(versions), rowName<Version>);
 
 struct Refusal {
     const char* name;
@@ -175,9 +167,9 @@ struct Refusal {
 
 void PrintTo(const Refusal& row, std::ostream* out) { *out << row.name; }
 
-class RefusedFile : public testing::TestWithParam<Refusal> {};
+class RefusedGeometry : public testing::TestWithParam<Refusal> {};
 
-TEST_P(RefusedFile, leaves_everything_as_it_was) {
+TEST_P(RefusedGeometry, LeavesFileAndGridUnchanged) {
     v6GeometryFile file;
     Grid grid;
     ASSERT_TRUE(loadText(file, wholeFile, &grid));
@@ -198,29 +190,29 @@ Refusal block(const char* name, const char* shortForm, const char* error) {
 }
 
 const Refusal refusals[] = {
-    {"undefined_mesh", versionLine + "mesh_undefined\n" + maps, "The mesh is undefined."},
-    {"unreadable_material",
+    {"UndefinedMesh", versionLine + "mesh_undefined\n" + maps, "The mesh is undefined."},
+    {"UnreadableMaterial",
      withMaterials("begin_<normal_electric> x\ndensity 1\nconductivity abc\nend_<normal_electric>\n"),
      "Error loading materials."},
-    block("unreadable_sample", "materials{ magnetic_sampled{ SampledParameters{ frequency x; } } }",
+    block("UnreadableSample", "materials{ magnetic_sampled{ SampledParameters{ frequency x; } } }",
           "Error loading materials."),
-    block("unreadable_thermal_value",
+    block("UnreadableThermalValue",
           "materials{ normal_electric{ TemperatureRiseMaterialParameters{ heat_capacity x; } } }",
           "Error loading materials."),
-    block("tensor_too_short", "materials{ anisotropic{ conductivity ; 1 2 3 ; permittivity ; } }",
+    block("TensorTooShort", "materials{ anisotropic{ conductivity ; 1 2 3 ; permittivity ; } }",
           "Error loading materials."),
-    block("unreadable_map", "materialMaps{ materialMap{ xElectricMaterial x; } }", "Error loading material mappings."),
-    block("unreadable_deltas", "Deltas{ DelY{ 0 1; x 2; } }", "Error loading deltas."),
-    block("unreadable_origin", "GridDefinition{ GridOriginInMeters 1 x 3; }", "Error loading grid definition."),
-    block("unreadable_adaptive_grid", "AdaptiveGridDefinition{ Inner{ NumberOfCellsInX x; } }",
+    block("UnreadableMap", "materialMaps{ materialMap{ xElectricMaterial x; } }", "Error loading material mappings."),
+    block("UnreadableDeltas", "Deltas{ DelY{ 0 1; x 2; } }", "Error loading deltas."),
+    block("UnreadableOrigin", "GridDefinition{ GridOriginInMeters 1 x 3; }", "Error loading grid definition."),
+    block("UnreadableAdaptiveGrid", "AdaptiveGridDefinition{ Inner{ NumberOfCellsInX x; } }",
           "Error loading grid definition."),
-    block("huge_count", "GridDefinition{ NumberOfCellsInX 4000000000; }", "Error initializing the grid."),
-    block("count_that_would_wrap", "GridDefinition{ NumberOfCellsInY 4294967297; }", "Error initializing the grid."),
-    block("negative_count", "GridDefinition{ NumberOfCellsInZ -1; }", "Error initializing the grid."),
+    block("HugeCount", "GridDefinition{ NumberOfCellsInX 4000000000; }", "Error initializing the grid."),
+    block("CountThatWouldOverflow", "GridDefinition{ NumberOfCellsInY 4294967297; }", "Error initializing the grid."),
+    block("NegativeCount", "GridDefinition{ NumberOfCellsInZ -1; }", "Error initializing the grid."),
 };
-INSTANTIATE_TEST_SUITE_P(GeometryFile, RefusedFile, testing::ValuesIn(refusals), rowName<Refusal>);
+INSTANTIATE_TEST_SUITE_P(, RefusedGeometry, testing::ValuesIn(refusals), rowName<Refusal>);
 
-TEST(GeometryFile, is_not_saved_with_what_the_text_cannot_carry) {
+TEST(GeometryFile, IsNotSavedWithNullPointers) {
     v6GeometryFile nullMaterial, nullMap;
     nullMaterial.setMagneticMaterials({nullptr});
     nullMap.setMaterialMappings({nullptr});
@@ -232,7 +224,7 @@ TEST(GeometryFile, is_not_saved_with_what_the_text_cannot_carry) {
     }
 }
 
-TEST(GeometryFile, copies_are_deep) {
+TEST(GeometryFile, CopiesAreDeep) {
     v6GeometryFile file;
     const QString text = withMaterials(expanded("normal_electric{ density 3; } electric_sampled{ SampledParameters{ "
                                                 "frequency 1; conductivity 2; permittivity 3; } }")) +
@@ -257,7 +249,7 @@ TEST(GeometryFile, copies_are_deep) {
     EXPECT_EQ(savedText(assigned), before);
 }
 
-TEST(GeometryFile, physical_parameters_outlive_the_file_that_made_them) {
+TEST(GeometryFile, PhysicalParametersOutliveTheirFile) {
     const QString text = withMaterials(expanded("normal_electric{ density 3; }"));
     auto file = std::make_unique<v6GeometryFile>();
     ASSERT_TRUE(loadText(*file, text));
@@ -278,7 +270,7 @@ TEST(GeometryFile, physical_parameters_outlive_the_file_that_made_them) {
     EXPECT_EQ(fromCopy.getPhysicalParameters()->getDensity(), 3.0F);
     EXPECT_EQ(*second.getElectricMaterials()[1]->getPhysicalParameters(), own);
     second.setElectricMaterials({});
-    EXPECT_EQ(*loaded, *fromLoad.getPhysicalParameters()) << "what was stored before is not deleted";
+    EXPECT_EQ(*loaded, *fromLoad.getPhysicalParameters()) << "the parameters stored before are not deleted";
 }
 
 class CountedWire : public ElectricThinWire {
@@ -290,7 +282,7 @@ private:
     int& m_living;
 };
 
-TEST(GeometryFile, deletes_what_it_no_longer_lists) {
+TEST(GeometryFile, DeletesObjectsThatAreNoLongerListed) {
     int living = 0;
     {
         GeometryFile file;

@@ -25,7 +25,7 @@ inline QString withMaterials(const QString& electric, const QString& magnetic = 
            "end_<materials>\n";
 }
 
-/// What stands below the materials when there are no maps and no cells.
+/// The rest of a file without maps and cells, below the materials.
 inline const QString emptyGrid = expanded(
     "materialMaps{} GridDefinition{ GridOriginInMeters 0 0 0; NumberOfCellsInX 0; NumberOfCellsInY 0;"
     "NumberOfCellsInZ 0; } Deltas{ DelX{} DelY{} DelZ{} } AveragedMaterialBins{}");

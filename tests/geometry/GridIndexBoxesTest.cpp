@@ -65,7 +65,7 @@ void PrintTo(const DensityRow& row, std::ostream* out) { *out << row.cells.size(
 
 class GridIndexBoxesDensity : public testing::TestWithParam<DensityRow> {};
 
-TEST_P(GridIndexBoxesDensity, isOneBox) {
+TEST_P(GridIndexBoxesDensity, BecomesOneBoxWhenDense) {
     const GridIndexBoxes boxes(GetParam().cells);
     EXPECT_EQ(boxes.getBoxes().size() == 1 && boxes.getSparePointIndices().empty(), GetParam().isOneBox);
     const std::set<ivec3> expected(GetParam().cells.begin(), GetParam().cells.end());
@@ -73,23 +73,23 @@ TEST_P(GridIndexBoxesDensity, isOneBox) {
 }
 
 const DensityRow densityRows[] = {
-    {"nothing", {}, false},
-    {"two_cells_are_spare", block(1, 1, 2, 0), false},
-    {"three_cells_in_line", block(1, 1, 3, 0), true},
-    {"corner_of_three", {{0, 0, 0}, {0, 0, 1}, {0, 1, 0}}, true},
-    {"half_of_a_small_block_is_spare", {{0, 0, 0}, {0, 1, 1}, {1, 0, 1}, {1, 1, 0}}, false},
-    {"full_block", block(2, 2, 2, 0), true},
-    {"seven_eighths", block(4, 4, 4, 8), true},
-    {"below_seven_eighths", block(4, 4, 4, 9), false},
-    {"sixteen_missing", block(10, 10, 10, 16), true},
-    {"seventeen_missing", block(10, 10, 10, 17), false},
-    {"points_that_come_twice_count_once", {{0, 0, 0}, {0, 0, 9}, {0, 0, 0}, {0, 0, 9}, {0, 0, 0}}, false},
-    {"negative_indices_split_below_their_middle", {{-4, 0, 0}, {-3, 0, 0}, {-1, 0, 0}, {0, 9, 0}, {1, 9, 1}}, false},
+    {"NoPoints", {}, false},
+    {"TwoCellsAreSpare", block(1, 1, 2, 0), false},
+    {"ThreeCellsInLine", block(1, 1, 3, 0), true},
+    {"ThreeCellsAroundACorner", {{0, 0, 0}, {0, 0, 1}, {0, 1, 0}}, true},
+    {"HalfOfASmallBlockIsSpare", {{0, 0, 0}, {0, 1, 1}, {1, 0, 1}, {1, 1, 0}}, false},
+    {"FullBlock", block(2, 2, 2, 0), true},
+    {"SevenEighths", block(4, 4, 4, 8), true},
+    {"BelowSevenEighths", block(4, 4, 4, 9), false},
+    {"SixteenMissing", block(10, 10, 10, 16), true},
+    {"SeventeenMissing", block(10, 10, 10, 17), false},
+    {"RepeatedPointsCountOnce", {{0, 0, 0}, {0, 0, 9}, {0, 0, 0}, {0, 0, 9}, {0, 0, 0}}, false},
+    {"NegativeIndicesAreSplitBelowTheMiddle", {{-4, 0, 0}, {-3, 0, 0}, {-1, 0, 0}, {0, 9, 0}, {1, 9, 1}}, false},
 };
 INSTANTIATE_TEST_SUITE_P(, GridIndexBoxesDensity, testing::ValuesIn(densityRows),
                          [](const auto& row) { return row.param.name; });
 
-TEST(GridIndexBoxes, numbersSkipExcludedCells) {
+TEST(GridIndexBoxes, NumbersSkipExcludedCells) {
     const GridIndexBoxes boxes({{0, 0, 3}, {0, 0, 0}, {0, 0, 1}});
     EXPECT_THAT(boxes.getBoxes(), ElementsAre(Box({0, 0, 0}, {0, 0, 3})));
     EXPECT_THAT(pointsOf(boxes), ElementsAre(ivec3(0, 0, 0), ivec3(0, 0, 1), ivec3(0, 0, 3)));
@@ -102,7 +102,7 @@ TEST(GridIndexBoxes, numbersSkipExcludedCells) {
 }
 
 // z runs fastest, x slowest.
-TEST(GridIndexBoxes, numbersFollowTheOrderOfTheBox) {
+TEST(GridIndexBoxes, NumbersFollowTheOrderOfTheBox) {
     const GridIndexBoxes boxes({{{5, 6, 7}, {6, 8, 10}}}, {{5, 6, 8}}, {});
     EXPECT_EQ(boxes.getNumPoints(), 23);
     EXPECT_EQ(boxes.getPoint(0), ivec3(5, 6, 7));
@@ -112,8 +112,8 @@ TEST(GridIndexBoxes, numbersFollowTheOrderOfTheBox) {
     EXPECT_EQ(boxes.getPoint(22), ivec3(6, 8, 10));
 }
 
-// Clouds of all densities, in a cube, flat and long, and of clumps.
-TEST(GridIndexBoxes, bisectsLikeTheReference) {
+// Point clouds of all densities, in cubic, flat and long regions, with clusters.
+TEST(GridIndexBoxes, BisectsLikeTheReference) {
     std::mt19937 random(1);
     const ivec3 sizes[] = {{8, 8, 8}, {30, 30, 1}, {1, 3, 200}, {2, 2, 2}, {40, 40, 40}};
     for (int round = 0; round < 400; ++round) {
@@ -134,8 +134,8 @@ TEST(GridIndexBoxes, bisectsLikeTheReference) {
     }
 }
 
-// Boxes that overlap, that hold nothing, and that are excluded completely; exclusions in several boxes and in none.
-TEST(GridIndexBoxes, excludesAndIntersectsLikeTheReference) {
+// Overlapping, empty and completely excluded boxes; exclusions in several boxes and outside all boxes.
+TEST(GridIndexBoxes, ExcludesAndIntersectsLikeTheReference) {
     std::mt19937 random(2);
     for (int round = 0; round < 300; ++round) {
         SCOPED_TRACE(round);
@@ -165,7 +165,7 @@ TEST(GridIndexBoxes, excludesAndIntersectsLikeTheReference) {
     }
 }
 
-TEST(GridIndexBoxes, intersectionWithNothingLeavesNothing) {
+TEST(GridIndexBoxes, IntersectionWithNothingLeavesNothing) {
     GridIndexBoxes boxes({{{0, 0, 0}, {3, 3, 3}}}, {{1, 1, 1}}, {{9, 9, 9}});
     boxes.intersectBoundingBox({4, 0, 0}, {8, 8, 8});
     EXPECT_THAT(boxes.getBoxes(), IsEmpty());
@@ -174,8 +174,9 @@ TEST(GridIndexBoxes, intersectionWithNothingLeavesNothing) {
     EXPECT_EQ(boxes.getNumPoints(), 0);
 }
 
-// Bounding boxes of 2^33, 2^32, 2^32 and 2^96 cells: with 32 bits there would be none, with 64 none in the last.
-TEST(GridIndexBoxes, farApartPointsMakeNoBox) {
+// Bounding boxes of 2^33, 2^32, 2^32 and 2^96 cells: a volume of 32 bits would overflow to 0, one of 64 bits in the
+// last.
+TEST(GridIndexBoxes, FarApartPointsMakeNoBox) {
     const Cells clouds[] = {{{0, 0, 0}, {1, 1, 1}, {2047, 2047, 2047}},
                             {{0, 0, 0}, {0, 1, 1}, {0, 65535, 65535}},
                             {{0, 0, lowest}, {0, 0, 0}, {0, 0, highest}},
@@ -190,8 +191,8 @@ TEST(GridIndexBoxes, farApartPointsMakeNoBox) {
     EXPECT_EQ(dense.getPoint(2), ivec3(highest, 0, lowest + 2));
 }
 
-// Cells beyond the largest int have no number, but stay known.
-TEST(GridIndexBoxes, boxesBeyondAllIntegers) {
+// Cells beyond the largest int have no number, but remain in the set.
+TEST(GridIndexBoxes, HandlesBoxesWithMoreCellsThanIntegers) {
     const Box all({lowest, lowest, lowest}, {highest, highest, highest});
     const Exclusions exclusions = {{lowest, lowest, lowest + 1}, {0, 0, 0}, {5, 5, 5}, {highest, highest, highest}};
     GridIndexBoxes boxes({all, {{0, 0, 0}, {2999, 2999, 2999}}}, exclusions, {{1, 1, 1}});
@@ -207,22 +208,23 @@ TEST(GridIndexBoxes, boxesBeyondAllIntegers) {
     expectLike(boxes, ReferenceBoxes({ten, ten}, {{0, 0, 0}, {5, 5, 5}}, {{1, 1, 1}}));
 }
 
-TEST(GridIndexBoxes, boxesThatRepeatTooManyExclusionsAreRefused) {
+TEST(GridIndexBoxes, BoxesThatRepeatTooManyExclusionsAreRefused) {
     const std::vector<Box> boxes(1100, {{0, 0, 0}, {0, 0, 9999}});
     Exclusions exclusions;
     for (int z = 0; z < 1100; ++z) exclusions.emplace(0, 0, z);
     EXPECT_THROW(GridIndexBoxes(boxes, exclusions, {}), std::runtime_error);
 
     for (int z = 0; z < 3000; ++z) exclusions.emplace(5, 0, z);
-    EXPECT_THROW(GridIndexBoxes(boxes, exclusions, {}), std::runtime_error) << "exclusions in no box change nothing";
+    EXPECT_THROW(GridIndexBoxes(boxes, exclusions, {}), std::runtime_error)
+        << "exclusions outside all boxes do not raise the limit";
     std::vector<Box> more = boxes;
     more.push_back({{5, 0, 0}, {5, 0, 9999}});
     GridIndexBoxes withinLimit(more, exclusions, {});
     withinLimit.intersectBoundingBox({0, 0, 0}, {0, 0, 9999});
-    EXPECT_EQ(withinLimit.getNumPoints(), 1100 * 8900) << "what is kept was stored before and is stored again";
+    EXPECT_EQ(withinLimit.getNumPoints(), 1100 * 8900) << "intersecting stores no more exclusions than before";
 }
 
-TEST(GridIndexBoxes, movedFromObjectIsEmptyAndUsable) {
+TEST(GridIndexBoxes, MovedFromObjectIsEmptyAndUsable) {
     GridIndexBoxes boxes(block(3, 3, 3, 0));
     const GridIndexBoxes other = std::move(boxes);
     EXPECT_EQ(other.getNumPoints(), 27);

@@ -11,7 +11,7 @@ namespace {
 
 using testing::ElementsAreArray;
 
-// One axis as the getters give it.
+// The x axis as returned by the getters.
 struct Axis {
     std::vector<double> electricNodes, magneticNodes;
     std::vector<float> electricDeltas, magneticDeltas;
@@ -41,9 +41,9 @@ struct Layout {
 
 void PrintTo(const Layout& row, std::ostream* out) { *out << row.name; }
 
-class LaidOut : public testing::TestWithParam<Layout> {};
+class GridLayout : public testing::TestWithParam<Layout> {};
 
-TEST_P(LaidOut, has_these_cells_and_nodes) {
+TEST_P(GridLayout, HasItsCellsAndNodes) {
     Grid grid;
     ASSERT_TRUE(initializeX(grid, GetParam().cells, GetParam().origin, GetParam().runs));
     const Axis axis(grid);
@@ -53,37 +53,37 @@ TEST_P(LaidOut, has_these_cells_and_nodes) {
 }
 
 const Layout layouts[] = {
-    {"one_run", 4, 0, {{0, 0.5F}}, {0.5F, 0.5F, 0.5F, 0.5F}, {0, 0.5, 1, 1.5}},
+    {"OneRun", 4, 0, {{0, 0.5F}}, {0.5F, 0.5F, 0.5F, 0.5F}, {0, 0.5, 1, 1.5}},
     // 3 times the float 0.1 is 0.3000000044703484 before it is rounded to single precision.
-    {"distances_are_single_precision",
+    {"DistancesAreSinglePrecision",
      4,
      0,
      {{0, 0.1F}},
      {0.1F, 0.1F, 0.1F, 0.1F},
      {0, 0.10000000149011612, 0.20000000298023224, 0.30000001192092896}},
-    // Measured from node 2, not from the origin: 0.2 and 1 in double precision.
-    {"a_run_is_measured_from_its_beginning",
+    // Distances are measured from node 2, not from the origin: 0.2 and 1 in double precision.
+    {"RunIsMeasuredFromItsBeginning",
      5,
      -1,
      {{0, 0.1F}, {2, 1}},
      {0.1F, 0.1F, 1, 1, 1},
      {-1, -0.89999999850988388, -0.79999999701976776, 0.20000000298023224, 1.2000000029802322}},
-    {"no_runs_give_cells_of_no_size", 3, 2, {}, {0, 0, 0}, {2, 2, 2}},
-    {"cells_before_the_first_run_have_no_size", 4, 1, {{2, 1}}, {0, 0, 1, 1}, {1, 1, 1, 2}},
-    {"a_run_below_zero_begins_at_zero", 3, 0, {{-5, 2}}, {2, 2, 2}, {0, 2, 4}},
-    {"a_run_beyond_the_last_cell_is_left_out", 2, 0, {{0, 1}, {2, 5}, {INT32_MAX, 7}}, {1, 1}, {0, 1}},
-    {"the_last_of_equal_beginnings_counts", 2, 0, {{0, 1}, {0, 3}}, {3, 3}, {0, 3}},
-    {"a_run_that_descends_replaces_earlier_ones",
+    {"NoRunsGiveCellsOfZeroSize", 3, 2, {}, {0, 0, 0}, {2, 2, 2}},
+    {"CellsBeforeTheFirstRunHaveZeroSize", 4, 1, {{2, 1}}, {0, 0, 1, 1}, {1, 1, 1, 2}},
+    {"RunBelowZeroBeginsAtZero", 3, 0, {{-5, 2}}, {2, 2, 2}, {0, 2, 4}},
+    {"RunBeyondTheLastCellIsIgnored", 2, 0, {{0, 1}, {2, 5}, {INT32_MAX, 7}}, {1, 1}, {0, 1}},
+    {"LastOfEqualBeginningsCounts", 2, 0, {{0, 1}, {0, 3}}, {3, 3}, {0, 3}},
+    {"DescendingRunReplacesEarlierOnes",
      6,
      0,
      {{0, 1}, {4, 9}, {2, 2}, {5, 3}},
      {1, 1, 2, 2, 2, 3},
      {0, 1, 2, 4, 6, 8}},
-    {"no_cells_leave_the_origin", 0, 3, {{0, 1}}, {}, {}},
+    {"AxisWithoutCellsHasAnOrigin", 0, 3, {{0, 1}}, {}, {}},
 };
-INSTANTIATE_TEST_SUITE_P(Grid, LaidOut, testing::ValuesIn(layouts), rowName<Layout>);
+INSTANTIATE_TEST_SUITE_P(, GridLayout, testing::ValuesIn(layouts), rowName<Layout>);
 
-TEST(Grid, places_magnetic_nodes_half_way) {
+TEST(Grid, PlacesMagneticNodesHalfway) {
     Grid grid;
     ASSERT_TRUE(initializeX(grid, 4, 0, {{0, 0.5F}, {2, 2}}));
     const Axis axis(grid);
@@ -91,7 +91,7 @@ TEST(Grid, places_magnetic_nodes_half_way) {
     EXPECT_THAT(axis.magneticDeltas, ElementsAreArray({0.5F, 0.5F, 1.25F, 2.0F}));
 }
 
-TEST(Grid, is_bounded_by_its_first_and_last_electric_nodes) {
+TEST(Grid, IsBoundedByItsFirstAndLastElectricNodes) {
     Grid grid;
     ASSERT_TRUE(grid.initialize(2, 3, 4, 1, 2, 3, {{0, 1}}, {{0, 10}}, {{0, 100}}, true));
     double bounds[6];
@@ -99,7 +99,7 @@ TEST(Grid, is_bounded_by_its_first_and_last_electric_nodes) {
     EXPECT_THAT(bounds, ElementsAreArray({1.0, 2.0, 2.0, 22.0, 3.0, 303.0}));
 }
 
-TEST(Grid, has_bounds_without_nodes) {
+TEST(Grid, HasBoundsWithoutNodes) {
     Grid grid;
     EXPECT_EQ(grid.getUserYUpperBound(), 0.0);
     ASSERT_TRUE(initializeX(grid, 3, 7, {{0, 1}}, false));
@@ -108,7 +108,7 @@ TEST(Grid, has_bounds_without_nodes) {
     EXPECT_EQ(grid.getUserXElectricDelta(2), 1.0F);
 }
 
-TEST(Grid, refuses_too_many_cells_and_stays_as_it_was) {
+TEST(Grid, RefusesTooManyCellsAndStaysUnchanged) {
     Grid grid;
     ASSERT_TRUE(initializeX(grid, 2, 5, {{0, 1}}));
     for (const std::uint32_t cells : {Grid::maximumCells + 1, 0x7fffffffU, std::numeric_limits<std::uint32_t>::max()}) {
@@ -117,7 +117,7 @@ TEST(Grid, refuses_too_many_cells_and_stays_as_it_was) {
     EXPECT_THAT(Axis(grid).electricNodes, ElementsAreArray({5.0, 6.0}));
 }
 
-TEST(Grid, copies_are_independent) {
+TEST(Grid, CopiesAreIndependent) {
     Grid grid;
     ASSERT_TRUE(initializeX(grid, 2, 5, {{0, 1}}));
     Grid copy(grid);
@@ -128,8 +128,8 @@ TEST(Grid, copies_are_independent) {
     EXPECT_THAT(Axis(assigned).electricNodes, ElementsAreArray({5.0, 6.0}));
 }
 
-// Each pair of runs would fill the whole axis again if runs were filled as they come.
-TEST(Grid, takes_runs_that_go_up_and_down_without_filling_cells_again_and_again) {
+// Filling the runs in the given order would fill the whole axis again for each pair of runs.
+TEST(Grid, FillsEachCellOnceForAlternatingRuns) {
     constexpr std::int32_t cells = 1000000;
     Grid::Runs runs;
     for (int i = 0; i < 100000; ++i) {

@@ -1,19 +1,20 @@
-// A sample of each text format and of the via file, cut off at each length, and a small one with each byte changed to
-// every other: reading ends in a refusal or in an object that is saved, read and saved again as it is.
+// A sample of each text format and of the via file is truncated at each length, and each byte of a smaller sample is
+// changed to every other value. Reading must end in a refusal or in an object whose saved form is stable: read and
+// saved again, it does not change.
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <sstream>
 
-#include "TestSupport.h"
+#include "geometry/GeometrySupport.h"
 #include "project/GoldenProject.h"
 #include "quarn/quarn.h"
 
 namespace quarn::test {
 namespace {
 
-/// What is saved after reading, or what was read where nothing can be saved; null when the text is refused.
+/// The saved form of the object that was read, or its values where it cannot be saved; null for a refused text.
 using Rewrite = QByteArray (*)(const QByteArray& bytes);
 
 QByteArray rewrittenProject(const QByteArray& bytes) {
@@ -25,7 +26,7 @@ QByteArray rewrittenProject(const QByteArray& bytes) {
         constexpr auto any = BoundaryConditions::PEC;
         project.setBoundaryConditions(new BoundaryConditions(any, any, any, any, any, any, 0));
     }
-    project.setModelingUnits({"m", 1.0});  // not read from a file as it is written
+    project.setModelingUnits({"m", 1.0});  // a written file does not set them when it is read
     QByteArray saved;
     QTextStream output(&saved, QIODevice::WriteOnly);
     EXPECT_FALSE(project.saveToStream(output));
@@ -58,7 +59,7 @@ QByteArray rewrittenVias(const QByteArray& bytes) {
     return QByteArray::fromStdString(output.str());
 }
 
-// The lines that say what the cut has.
+// The number of points, a range and the samples of the cut, as lines of its format.
 QByteArray rewrittenCut(const QByteArray& bytes) {
     QTextStream input(bytes);
     NSMACutPlane cut;
@@ -81,25 +82,18 @@ struct Format {
 void PrintTo(const Format& format, std::ostream* out) { *out << format.name; }
 
 QByteArray geometrySample() {
-    v6GeometryFile geometry;
-    auto* tissue = new ElectricNormal("Gewebe", 0.5F, 0.25F, 40);
-    const PhysicalParameters thermal(1000, 3500, 0.5F, 0.01F, 100);
-    auto* sampled = new ElectricSampled("sampled", {{1e9F, 0.1F, 2}, {2e9F, 0.2F, 3}});
-    geometry.setElectricMaterials({new ElectricFreeSpace("ElectricFreeSpace"),
-                                   new ElectricPerfectConductor("ElectricPerfectConductor"),
-                                   tissue,
-                                   sampled});
-    geometry.setMagneticMaterials(
-        {new MagneticFreeSpace("MagneticFreeSpace"), new MagneticPerfectConductor("MagneticPerfectConductor")});
-    geometry.setMaterialMappings({new MaterialMap("map", 2, 3, 0, 0, 0, 0)});
-    tissue->addPhysicalParameters(&thermal);
-    const std::unique_ptr<PhysicalParameters> added(tissue->getPhysicalParameters());
-    Grid grid;
-    grid.initialize(3, 2, 1, -0.5F, 0, 0, {{0, 0.5F}, {2, 0.25F}}, {{0, 1}}, {{0, 1}}, true);
-    QByteArray saved;
-    QTextStream output(&saved, QIODevice::WriteOnly);
-    geometry.saveToStream(grid, output);
-    return saved;
+    const QString materials = expanded(
+        "normal_electric{ conductivity 0.5; permittivity 40; density 1000; TemperatureRiseMaterialParameters{ "
+        "heat_capacity 3500; perfusion_rate 0.01; } } electric_sampled{ SampledParameters{ frequency 1e9; conductivity "
+        "0.1; permittivity 2; } SampledParameters{ frequency 2e9; conductivity 0.2; permittivity 3; } } ");
+    const QString grid = expanded(
+        "materialMaps{ materialMap{ xElectricMaterial 2; yElectricMaterial 3; } } GridDefinition{ GridOriginInMeters "
+        "-0.5 "
+        "0 0; NumberOfCellsInX 3; NumberOfCellsInY 2; NumberOfCellsInZ 1; } Deltas{ DelX{ 0 0.5; 2 0.25; } DelY{ 0 1; "
+        "} "
+        "DelZ{ 0 1; } } ");
+    const QString wire = "begin_<thin_wire> Größe\nradius 5\nend_<thin_wire>\n";
+    return rewrittenGeometry(withMaterials(materials + wire).toUtf8() + grid.toUtf8());
 }
 
 QByteArray smallProject() {
@@ -129,10 +123,10 @@ QByteArray viaSample() {
 }
 
 const Format formats[] = {
-    {"project", [] { return golden.toUtf8(); }, smallProject, rewrittenProject},
-    {"geometry", geometrySample, smallGeometry, rewrittenGeometry},
-    {"cut", cutSample, cutSample, rewrittenCut},
-    {"vias", viaSample, viaSample, rewrittenVias},
+    {"Project", [] { return golden.toUtf8(); }, smallProject, rewrittenProject},
+    {"Geometry", geometrySample, smallGeometry, rewrittenGeometry},
+    {"Cut", cutSample, cutSample, rewrittenCut},
+    {"Vias", viaSample, viaSample, rewrittenVias},
 };
 
 class DamagedText : public testing::TestWithParam<Format> {
@@ -144,13 +138,13 @@ protected:
     }
 };
 
-TEST_P(DamagedText, of_any_length_is_refused_or_stable) {
+TEST_P(DamagedText, IsRefusedOrStableAtAnyLength) {
     const QByteArray whole = GetParam().sample();
     EXPECT_EQ(GetParam().rewritten(whole), whole);
     for (int length = 0; length < whole.size(); ++length) expectStable(whole.left(length));
 }
 
-TEST_P(DamagedText, with_any_byte_changed_is_refused_or_stable) {
+TEST_P(DamagedText, IsRefusedOrStableWithAnyByteChanged) {
     const QByteArray whole = GetParam().smallSample();
     EXPECT_FALSE(GetParam().rewritten(whole).isNull());
     for (int i = 0; i < whole.size(); ++i) {

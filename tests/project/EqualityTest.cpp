@@ -32,7 +32,7 @@ struct TdAfs : TdAfsTerminationCriteria {
     }
 };
 
-TEST(Equality, of_sources_counts_every_value) {
+TEST(Equality, ComparesEveryValueOfSources) {
     using W = Waveform;
     expectAllDifferent(changedOneByOne<W>(tuple(W::Gaussian, 0.0F, 0.0F, noValues, noValues),
                                           tuple(W::Step, 1.0F, 1.0F, values, values)));
@@ -50,7 +50,7 @@ TEST(Equality, of_sources_counts_every_value) {
     expectAllDifferent<V>({{0, 0, 0, 0}, {1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}});
 }
 
-TEST(Equality, of_conditions_counts_every_value) {
+TEST(Equality, ComparesEveryValueOfConditions) {
     using A = AmbientConditions;
     std::vector<A> conditions(4, A(0, A::SpecificationType{}, 0, A::SpecificationType{}, 0));
     conditions[1].setBackgroundTemperature(1);
@@ -69,7 +69,7 @@ TEST(Equality, of_conditions_counts_every_value) {
     expectAllDifferent(changedOneByOne<DFTParameters>(tuple(false, 1U), tuple(true, 2U)));
 }
 
-TEST(Equality, of_requests_and_maps_counts_every_value) {
+TEST(Equality, ComparesEveryValueOfRequestsAndMaps) {
     expectAllDifferent<FarZoneRequest>({{{}, ""}, {{{0, 0}}, ""}, {{{1, 0}}, ""}, {{{0, 1}}, ""}, {{}, "a"}});
     expectAllDifferent(changedOneByOne<MaterialMap>(tuple(none, 0, 0, 0, 0, 0, 0), tuple(some, 1, 1, 1, 1, 1, 1)));
     expectAllDifferent(

@@ -35,7 +35,7 @@ const QString golden =
     "end_<SteadyStateFrequencies>\nend_<RequestResults>\nend_<FDTDProject>\n";
 // clang-format on
 
-/// Says the same by way of the setters.
+/// Describes the same project through the setters.
 inline void describe(v6ProjectFile& project) {
     using B = BoundaryConditions;
     using A = AmbientConditions;

@@ -7,7 +7,7 @@ namespace {
 using B = BoundaryConditions;
 using Units = QPair<QString, double>;
 
-TEST(ProjectModel, defaults) {
+TEST(ProjectModel, HasDefaults) {
     EXPECT_EQ(OwningProject().getDisplayUnits(), Units("m", 1.0));
     EXPECT_EQ(OwningProject().getModelingUnits(), Units("m", 1.0));
     ProjectFile base;
@@ -35,6 +35,10 @@ void expectDeepCopy(Wave* wave) {
     delete static_cast<TFSFPlaneWave*>(source.getPlaneWave());
     source.setPlaneWave(wave);
     source.setPathToGeometryFile("geometry");
+    source.setComponentManager(
+        new ComponentManager({new CircuitComponent("c", 0, 0, 0, CircuitComponent::X, true)}, false, 0));
+    source.setWaveGuidePortManager(new WaveGuidePortManager({new WaveGuidePort}));
+    source.setStaticVoltageList(new StaticVoltageList(1, 2, 3, {{4, 5, 6, 7}}));
     v6ProjectFile copy(source);
     expectCopy(copy.getBoundaryConditions(), source.getBoundaryConditions());
     expectCopy(copy.getAmbientConditions(), source.getAmbientConditions());
@@ -46,16 +50,29 @@ void expectDeepCopy(Wave* wave) {
     EXPECT_EQ(copy.getPathToGeometryFile(), "geometry");
     EXPECT_EQ(saved(copy), saved(source));
     copy.getWaveforms().clear();
+    expectCopy(copy.getStaticVoltageList(), source.getStaticVoltageList());
+    const auto *components = copy.getComponentManager(), *sourceComponents = source.getComponentManager();
+    const auto *ports = copy.getWaveGuidePortManager(), *sourcePorts = source.getWaveGuidePortManager();
+    EXPECT_TRUE(components != sourceComponents && components->getComponents() == sourceComponents->getComponents());
+    EXPECT_TRUE(ports != sourcePorts && ports->getWaveguidePorts() == sourcePorts->getWaveguidePorts());
+    copy.clearComponents();
+    copy.clearWaveguidePorts();
+    EXPECT_EQ(components->getNumberOfPorts() + ports->getNumberOfPorts(), 0U);
+    EXPECT_EQ(sourceComponents->getNumberOfComponents() + sourcePorts->getNumberOfPorts(), 2U);
     deleteContents(copy);
 }
 
-TEST(ProjectModel, copy_constructor_copies_objects_and_shares_waveforms) {
+TEST(ProjectModel, CopyConstructorCopiesObjectsAndSharesWaveformsComponentsAndPorts) {
     expectDeepCopy(new PlaneWave(1, 2, 3, PlaneWave::Theta, "a"));
     expectDeepCopy(new TFSFPlaneWave(1, 2, 3, PlaneWave::Theta, "a", true, false, true, false, true, true));
     expectDeepCopy(new GaussianBeam(1, 2, 3, PlaneWave::Theta, "a", 4, 5, 6, 7));
+    v6ProjectFile empty;
+    empty.clearComponents();
+    empty.clearWaveguidePorts();
+    deleteContents(empty);
 }
 
-TEST(ProjectModel, assignment_shares_the_objects) {
+TEST(ProjectModel, AssignmentSharesTheObjects) {
     OwningProject source;
     describe(source);
     v6ProjectFile other;
@@ -67,7 +84,7 @@ TEST(ProjectModel, assignment_shares_the_objects) {
     EXPECT_EQ(saved(other), saved(source));
 }
 
-TEST(ProjectModel, contents_are_deleted_once_and_forgotten) {
+TEST(ProjectModel, ContentsAreDeletedOnceAndPointersReset) {
     v6ProjectFile project;
     describe(project);
     project.getWaveforms().push_back(project.getWaveforms().front());
@@ -77,8 +94,8 @@ TEST(ProjectModel, contents_are_deleted_once_and_forgotten) {
     deleteContents(project);
 }
 
-// The address sanitizer sees what is left.
-TEST(ProjectModel, copies_and_their_loaded_contents_are_deleted) {
+// The address sanitizer detects objects that are left.
+TEST(ProjectModel, CopiesAndTheirLoadedContentsAreDeleted) {
     OwningProject source;
     v6ProjectFile copy(source);
     load(copy, expanded("Version 8; FDTDProject{ RequestResults{ DFTParameters{ NormalizeFields; } } }"));
@@ -86,7 +103,7 @@ TEST(ProjectModel, copies_and_their_loaded_contents_are_deleted) {
     deleteContents(copy);
 }
 
-TEST(ProjectModel, waves_that_were_sliced_are_plain) {
+TEST(ProjectModel, SlicedWavesBecomePlainPlaneWaves) {
     const TFSFPlaneWave box(1, 2, 3, PlaneWave::Theta, "a", true, false, true, false, true, true);
     const GaussianBeam beam(1, 2, 3, PlaneWave::Theta, "a", 4, 5, 6, 7);
     const PlaneWave plain(1, 2, 3, PlaneWave::Theta, "a");
@@ -99,7 +116,7 @@ TEST(ProjectModel, waves_that_were_sliced_are_plain) {
     EXPECT_EQ(filled, box) << "an object never changes its class";
 }
 
-TEST(ProjectModel, load_replaces_objects_of_the_caller_without_deleting_them) {
+TEST(ProjectModel, LoadReplacesObjectsOfTheCallerWithoutDeletingThem) {
     B boundaries(B::PEC, B::PEC, B::PEC, B::PEC, B::PEC, B::PEC, 1);
     OwningProject project;
     project.setBoundaryConditions(&boundaries);
@@ -108,7 +125,7 @@ TEST(ProjectModel, load_replaces_objects_of_the_caller_without_deleting_them) {
     EXPECT_EQ(boundaries.getNumberOfPECBoundaries(), 6);
 }
 
-TEST(BoundaryConditionsModel, sides_and_derived_answers) {
+TEST(BoundaryConditionsModel, AnswersFollowTheTypesOfTheSides) {
     B conditions(B::PEC, B::Liao, B::PEC, B::Periodic, B::ESymmetry, B::MSymmetry, 8);
     EXPECT_EQ(conditions.getNumberOfPECBoundaries(), 2);
     EXPECT_TRUE(conditions.hasPECBoundary() && conditions.hasLiaoBoundary() && conditions.hasPeriodicBoundary());
@@ -116,16 +133,16 @@ TEST(BoundaryConditionsModel, sides_and_derived_answers) {
     for (const int noSide : {-1, 6}) conditions.setBoundaryType(static_cast<BoundingBoxSide>(noSide), B::CPML);
     conditions.setBoundaryType(BoundingBoxSide::Top, B::PMC);
     EXPECT_EQ(conditions.getUpperZ(), B::PMC);
-    EXPECT_EQ(conditions.getBoundaryType(static_cast<BoundingBoxSide>(6)), B::PEC) << "as lower X";
+    EXPECT_EQ(conditions.getBoundaryType(static_cast<BoundingBoxSide>(6)), B::PEC) << "the type of lower X";
     EXPECT_FALSE(conditions.hasPMCBoundary()) << "the answer is cached";
     conditions.cacheVariables();
     EXPECT_TRUE(conditions.hasPMCBoundary());
-    EXPECT_FALSE(conditions.hasCPMLBoundary()) << "no side outside the box may have been set";
+    EXPECT_FALSE(conditions.hasCPMLBoundary()) << "invalid sides must be ignored";
     EXPECT_EQ(conditions.getPML_M() * 10 + conditions.getPML_Ma(), 42);
     EXPECT_TRUE(conditions.getPMLKappaMax() == 1 && conditions.getPMLAlphaMax() == 0);
 }
 
-TEST(BoundaryConditionsModel, numbers_and_names_of_types) {
+TEST(BoundaryConditionsModel, ConvertsNumbersAndNamesOfTypes) {
     for (int type = 0; type < 7; ++type) {
         const QString name = v6ProjectFile::OuterBoundaryTypeToDescriptor(static_cast<B::BoundaryType>(type));
         EXPECT_EQ(v6ProjectFile::OuterBoundaryDescriptorToType(type), type);

@@ -13,25 +13,16 @@ namespace {
 
 using A = AmbientConditions;
 
-void expectLoads(const QString& text, const QString& savedText) {
-    onBothStreams(text, [&](QTextStream& stream) {
-        OwningProject project;
-        QStringList errors;
-        EXPECT_TRUE(project.loadFromStream(stream, errors));
-        EXPECT_EQ(saved(project), savedText);
-    });
-}
-
-TEST(ProjectText, every_section_is_written_in_order_and_read_back) {
+TEST(ProjectText, EverySectionIsWrittenInOrderAndReadBack) {
     OwningProject project;
     describe(project);
     EXPECT_EQ(saved(project), golden);
     for (const QString& text : {golden, QString(golden).replace("\n", "\r\n"), golden.chopped(1)}) {
-        expectLoads(text, golden);
+        expectLoads(text, golden, saved);
     }
 }
 
-// In short form: a project file with its three frames, and boundaries unless the run parameters bring their own.
+// A project file with its three blocks in short form, and with boundaries unless the run parameters contain them.
 const QString sides =
     "LowerX ORBC_CPML; UpperX ORBC_CPML; LowerY ORBC_CPML; UpperY ORBC_CPML; LowerZ ORBC_CPML; "
     "UpperZ ORBC_CPML; NumberOfPMLLayers 8; ";
@@ -61,127 +52,127 @@ const struct {
     QString requests = "", requestsSaved = "";
     QString units = "", displaySaved = metres, modelingSaved = metres;
 } sectionRows[] = {
-    {"boundaries drop unknown lines and default to cpml",
+    {"BoundariesDropUnknownLinesAndDefaultToCPML",
      "OuterBoundaries{ foo LowerX ORBC_PEC; bar{ LowerX ORBC_PEC; } NumberOfPMLLayers 8; } ", ""},
-    {"boundary names are exact and pml is cpml",
+    {"BoundaryNamesAreExactAndPMLIsCPML",
      "OuterBoundaries{ UpperZ ORBC_PML; LowerX orbc_pec; UpperX ORBC_FOO; LowerY ORBC_MSYMMETRY; NumberOfPMLLayers 8; } ",
      "OuterBoundaries{ " + QString(sides).replace("LowerY ORBC_CPML", "LowerY ORBC_MSYMMETRY") + "} "},
-    {"periodic parameters drop unknown words and no waveform is known yet",
+    {"PeriodicParametersDropUnknownWordsAndNoWaveformIsKnownYet",
      "OuterBoundaries{ PeriodicParameters{ foo Phi 30; Frequency 7; UseWaveformFrequency; UseScanAngle; } "
      "NumberOfPMLLayers 8; } Waveform{ Sinusoid{ frequency 9; } } ",
      "OuterBoundaries{ " + sides + "PeriodicParameters{ UseScanAngle; Phi 30; Theta 0; Frequency 7; } } "
      "Waveform{ Sinusoid{ frequency 9; } } "},
-    {"missing number takes the close line so that the rest are run parameters",
+    {"MissingNumberConsumesTheCloseLine",
      "OuterBoundaries{ NumberOfPMLLayers; } UseUsersCFL 0.5; ",
      "OuterBoundaries{ " + QString(sides).replace('8', '0') + "} UseUsersCFL 0.5; ", frequency, ""},
-    {"ambient conditions default", "AmbientConditions{ } ",
+    {"AmbientConditionsDefault", "AmbientConditions{ } ",
      "AmbientConditions{ BackgroundMedium{ Temperature 298.14999389648438; } Top{ HeatTransferCoefficient 0; } "
      "Bottom{ HeatTransferCoefficient 0; } } "},
-    {"ambient conditions drop what they do not know",
+    {"AmbientConditionsDropUnknownContent",
      "AmbientConditions{ foo bar; Left{ HeatTransferCoefficient 1; } Bottom{ foo HeatTransferCoefficient 2; } "
      "Top{ HeatTransferCoefficient 3; } HeatTransferCoefficient 4; BackgroundMedium{ Temperature 5; } } ",
      "AmbientConditions{ BackgroundMedium{ Temperature 5; } Top{ HeatTransferCoefficient 3; } "
      "Bottom{ HeatTransferCoefficient 2; } } "},
-    {"convergence defaults to medium density without flat line detection",
+    {"ConvergenceDefaultsToMediumDensityWithoutFlatLineDetection",
      "TerminationCriteria{ ConvergenceEnabled; Threshhold -30; SamplingInterval 1; WindowSize 2; } ",
      "TerminationCriteria{ MaximumTimeSteps 0; MaximumWallClockSeconds 0; ConvergenceEnabled; Threshhold -30; "
      "SamplingInterval 1; WindowSize 2; MinimumTimeSteps 0; MEDIUM_DENSITY; " + tdAfs + "} "},
-    {"termination lines in any order",
+    {"TerminationLinesInAnyOrder",
      "TerminationCriteria{ TdAfsTerminationCriteria{ FFT; foo SPARAMETERS; NumberOfConsecutivePasses 9; } foo{ } "
      "LOW_DENSITY; foo HIGH_DENSITY; WindowSize -2; ConvergenceEnabled; MinimumTimeSteps 4294967295; "
      "FlatLineDetectionEnabled; SamplingInterval 1; Threshhold -30; MaximumWallClockSeconds 60; } ",
      "TerminationCriteria{ MaximumTimeSteps 0; MaximumWallClockSeconds 60; ConvergenceEnabled; Threshhold -30; "
      "SamplingInterval 1; WindowSize -2; MinimumTimeSteps 4294967295; FlatLineDetectionEnabled; LOW_DENSITY; " +
      QString(tdAfs).replace("INTERPOLATION", "FFT").replace("Passes 3", "Passes 9") + "} "},
-    {"minimum is not written without convergence", "TerminationCriteria{ MinimumTimeSteps 9; HIGH_DENSITY; } ",
+    {"MinimumIsNotWrittenWithoutConvergence", "TerminationCriteria{ MinimumTimeSteps 9; HIGH_DENSITY; } ",
      "TerminationCriteria{ MaximumTimeSteps 0; MaximumWallClockSeconds 0; } "},
-    {"bad number ends its section whose close line ends the run parameters",
+    {"BadNumberEndsItsSectionWhoseCloseLineEndsTheRunParameters",
      "TerminationCriteria{ MaximumTimeSteps x; MaximumTimeSteps 5; } UseUsersCFL 0.5; ",
      "TerminationCriteria{ MaximumTimeSteps 0; MaximumWallClockSeconds 0; } ", frequency, frequencySaved},
-    {"old convergence with minimum",
+    {"OldConvergenceWithMinimum",
      "Convergence{ foo{ } ConvergenceRequireMinimumNumberOfTimeSteps; ConvergenceMinimumNumberOfTimeSteps 500; } ",
      "TerminationCriteria{ MaximumTimeSteps 501; MaximumWallClockSeconds 0; } "},
-    {"old convergence needs flag and minimum", "Convergence{ ConvergenceMinimumNumberOfTimeSteps 500; } "
+    {"OldConvergenceNeedsFlagAndMinimum", "Convergence{ ConvergenceMinimumNumberOfTimeSteps 500; } "
      "Convergence{ ConvergenceRequireMinimumNumberOfTimeSteps; } ", ""},
-    {"wave lines in any order",
+    {"WaveLinesInAnyOrder",
      "SourceType{ foo AreaSourceFile  my area.txt ; ScatteredFieldPlaneWave{ OutputFileName  my wave.out ; "
      "ThetaPolarization; IncidentPhi 3; IncidentTheta 2; Amplitude 1; } } ",
      "SourceType{ " + scattered + "AreaSourceFile my area.txt; } "},
-    {"tfsf wave writes active faces only",
+    {"TFSFWaveWritesActiveFacesOnly",
      "SourceType{ TotalFieldScatteredFieldPlaneWave{ ZLower; YLower; XLower; " + wave + "} } ",
      "SourceType{ TotalFieldScatteredFieldPlaneWave{ " + wave + "XLower; YLower; ZLower; } } "},
-    {"gaussian beam", "SourceType{ GaussianBeam{ Radius 7; ZFocus 6; YFocus 5; XFocus 4; " + wave + "} } ",
+    {"GaussianBeam", "SourceType{ GaussianBeam{ Radius 7; ZFocus 6; YFocus 5; XFocus 4; " + wave + "} } ",
      "SourceType{ GaussianBeam{ " + wave + "XFocus 4; YFocus 5; ZFocus 6; Radius 7; } } "},
-    {"beam needs a radius", "SourceType{ GaussianBeam{ XFocus 4; YFocus 5; ZFocus 6; " + wave + "} } " + cfl, cfl},
-    {"wave needs a file name", "SourceType{ " + without("my wave.out", scattered) + "} " + cfl, cfl},
-    {"wave needs numbers", "SourceType{ " + QString(scattered).replace("Phi 3", "Phi nan") + "} " + cfl, cfl},
-    {"last complete wave counts",
+    {"BeamNeedsARadius", "SourceType{ GaussianBeam{ XFocus 4; YFocus 5; ZFocus 6; " + wave + "} } " + cfl, cfl},
+    {"WaveNeedsAFileName", "SourceType{ " + without("my wave.out", scattered) + "} " + cfl, cfl},
+    {"WaveNeedsNumbers", "SourceType{ " + QString(scattered).replace("Phi 3", "Phi nan") + "} " + cfl, cfl},
+    {"LastCompleteWaveCounts",
      "SourceType{ " + without("my", scattered) + scattered + "GaussianBeam{ " + wave + "} } ",
      "SourceType{ " + scattered + "} "},
-    {"unknown key of a wave loses it and the rest of the run parameters",
+    {"UnknownKeyDropsTheWaveAndTheRestOfTheRunParameters",
      "SourceType{ ScatteredFieldPlaneWave{ " + wave + "XLower; } } " + cfl, "", frequency, frequencySaved},
-    {"area source file without wave is not written", "SourceType{ AreaSourceFile area.txt; } ", ""},
-    {"waveform numbers default to zero each time and sections add up",
+    {"AreaSourceFileWithoutWaveIsNotWritten", "SourceType{ AreaSourceFile area.txt; } ", ""},
+    {"WaveformNumbersDefaultToZeroAndSectionsAccumulate",
      "Waveform{ Gaussian{ pulseWidth 64; } Step{ } } Waveform{ GaussianDerivative{ } } ",
      "Waveform{ Gaussian{ pulseWidth 64; } Step{ pulseWidth 0; } GaussianDerivative{ pulseWidth 0; } } "},
-    {"unknown waveforms and words are dropped",
+    {"UnknownWaveformsAndWordsAreDropped",
      "Waveform{ Sinusoid{ frequency 9; pulseWidth 7; } bar{ Step{ } } foo; ModulatedGaussian{ foo frequency 3; } } ",
      "Waveform{ Sinusoid{ frequency 9; } ModulatedGaussian{ pulseWidth 0; frequency 3; } } "},
-    {"iec waveform ends its section and the run parameters",
+    {"IECWaveformEndsItsSectionAndTheRunParameters",
      "Waveform{ Step{ } IEC_61000_4_2{ } Gaussian{ } } UseTimestep 1; ",
      "Waveform{ Step{ pulseWidth 0; } IEC_61000_4_2{ } } ", frequency, frequencySaved},
-    {"close line of another name is passed over", "Waveform{ Gaussian{ end_<gaussian>; pulseWidth 64; } } ",
+    {"CloseLineOfAnotherNameIsIgnored", "Waveform{ Gaussian{ end_<gaussian>; pulseWidth 64; } } ",
      "Waveform{ Gaussian{ pulseWidth 64; } } "},
-    {"samples are written up to the maximum of timesteps",
+    {"SamplesAreWrittenUpToTheMaximumTimestep",
      "TerminationCriteria{ MaximumTimeSteps 1; } "
      "Waveform{ UserDefined{ foo; Source{ 1 2.5; 3; } Derivative{ 0.25; -1; 7; } bar{ 8; } } "
      "UserDefined{ Derivative{ 8; 9; } Source{ 5; 6; } } } ",
      "TerminationCriteria{ MaximumTimeSteps 1; MaximumWallClockSeconds 0; } "
      "Waveform{ UserDefined{ Source{ 1; 2.5; } Derivative{ 0.25; -1; } } "
      "UserDefined{ Source{ 5; 6; } Derivative{ 8; 9; } } } "},
-    {"old dft parameters are skipped unless used", "Waveform{ DFTParameters{ NormalizeFields; } UseDFT; Step{ } } ",
+    {"OldDFTParametersAreSkippedUnlessUsed", "Waveform{ DFTParameters{ NormalizeFields; } UseDFT; Step{ } } ",
      "Waveform{ Step{ pulseWidth 0; } } ", frequency, frequencySaved},
-    {"old dft parameters add frequencies",
+    {"OldDFTParametersAddFrequencies",
      "Waveform{ foo UseDFT; DFTParameters{ DFTFrequencies{ foo SingleFrequency 1 A; SingleFrequency 2 B; } "
      "DissipatedPower NormalizeFields; PortDataStorage 6 SSEFieldSampling 4; SSHFieldSampling 5; } Step{ } } ",
      "Waveform{ Step{ pulseWidth 0; } } ", frequency,
      "DFTParameters{ NormalizeFields; DataSampling 4; } SteadyStateStorageMethodIsMemory; "
      "SteadyStateFrequencies{ FrequencyFolder 2 B; FrequencyFolder 1 F; } "},
-    {"timestep goes before courant factor", "UseUsersCFL 0.5; UseTimestep 0.25; ", "UseTimestep 0.25; "},
-    {"run parameters drop what they do not know",
+    {"TimestepTakesPrecedenceOverCourantFactor", "UseUsersCFL 0.5; UseTimestep 0.25; ", "UseTimestep 0.25; "},
+    {"RunParametersDropUnknownContent",
      "foo UseTimestep 1; BatchFrequencies{ UseTimestep 1; } bar{ UseTimestep 1; } UseUsersCFL 0.5; ", cfl},
-    {"result settings are not written without frequencies", "", "",
+    {"ResultSettingsAreNotWrittenWithoutFrequencies", "", "",
      "SteadyStateStorageMethodIsHardDisk; DontSaveFarZoneBoxFile; DFTParameters{ DataSampling 3; } ", ""},
-    {"result lines count only as a whole", "", "",
+    {"ResultLinesCountOnlyAsAWhole", "", "",
      "\tSteadyStateStorageMethodIsHardDisk; DontSaveFarZoneBoxFile ; dontComputeSystemDissipatedPower; " + frequency,
      "DFTParameters{ DataSampling 1; } SteadyStateStorageMethodIsHardDisk; " + frequency},
-    {"later result lines count and folders have no blanks", "", "",
+    {"LaterResultLinesCountAndFoldersHaveNoBlanks", "", "",
      "SteadyStateFrequencies{ foo FrequencyFolder 1 A; FrequencyFolder 2 my folder; foo{ FrequencyFolder 3 B; } } "
      "SteadyStateStorageMethodIsHardDisk; SteadyStateStorageMethodIsMemory; foo{ DFTParameters{ } } "
      "DFTParameters{ foo{ NormalizeFields; } DataSampling 7; foo DataSampling 6; } DontComputeSystemDissipatedPower; ",
      "DFTParameters{ DataSampling 7; } SteadyStateStorageMethodIsMemory; DontComputeSystemDissipatedPower; "
      "SteadyStateFrequencies{ FrequencyFolder 2 my; } "},
-    {"display units are read and modeling units are not", "", "", "", "",
+    {"DisplayUnitsAreReadAndModelingUnitsAreNot", "", "", "", "",
      "Display{ Name mm; Conversion 0.001; } Modeling{ Name inch; Conversion 2; } ", "Name mm; Conversion 0.001; "},
-    {"modeling units are read when they come first", "", "", "", "",
+    {"ModelingUnitsAreReadWhenTheyComeFirst", "", "", "", "",
      "Modeling{ Name mm; Conversion 2; } Display{ Name inch; Conversion 3; } ", metres, "Name mm; Conversion 2; "},
-    {"units without inner block are display units", "", "", "", "",
+    {"UnitsWithoutInnerBlockAreDisplayUnits", "", "", "", "",
      "foo{ Name inch; } foo Name inch; Name Å; Conversion 5e-324; ", "Name Å; Conversion 4.9406564584124654e-324; "},
-    {"unit name is one word", "", "", "", "", "Display{ Name my m; Conversion 2; } ", "Name my; Conversion 2; "},
-    {"missing unit name takes the next word", "", "", "", "", "Display{ Name ; Conversion 2; } ",
+    {"UnitNameIsOneWord", "", "", "", "", "Display{ Name my m; Conversion 2; } ", "Name my; Conversion 2; "},
+    {"MissingUnitNameTakesTheNextWord", "", "", "", "", "Display{ Name ; Conversion 2; } ",
      "Name Conversion; Conversion 1; "},
 };
 // clang-format on
 
-TEST(ProjectText, sections_loaded_and_saved) {
+TEST(ProjectText, SectionsAreSavedInCanonicalForm) {
     for (const auto& row : sectionRows) {
         SCOPED_TRACE(row.behaviour);
         const QString units = "Display{ " + row.displaySaved + "} Modeling{ " + row.modelingSaved + "} ";
-        expectLoads(fileOf(row.run, row.requests, row.units), fileOf(row.runSaved, row.requestsSaved, units));
+        expectLoads(fileOf(row.run, row.requests, row.units), fileOf(row.runSaved, row.requestsSaved, units), saved);
     }
 }
 
-TEST(ProjectText, first_line_decides_on_the_version) {
+TEST(ProjectText, FirstLineDeterminesTheVersion) {
     // clang-format off
     const struct { const char* line; unsigned major, minor; } rows[] = {
         {"Version 8", 8, 0}, {"Version 9", 9, 0}, {"Version 10", 1, 0}, {"Version", 0, 0}, {"My Version 9", 0, 0},
@@ -205,10 +196,10 @@ TEST(ProjectText, first_line_decides_on_the_version) {
     stream.setStatus(QTextStream::ReadCorruptData);
     unsigned major = 41, minor = 42;
     v6ProjectFile::getFileVersion(stream, major, minor);
-    EXPECT_EQ(major * 100 + minor, 4142U) << "a stream in error leaves both";
+    EXPECT_EQ(major * 100 + minor, 4142U) << "a stream in error leaves both unchanged";
 }
 
-TEST(ProjectText, outer_block_names_the_engine_and_is_the_only_one_read) {
+TEST(ProjectText, OuterBlockNamesTheEngineAndIsTheOnlyOneRead) {
     const QString inches = "Display{ Name inch; Conversion 0.025399999999999999; } Modeling{ ";
     const QString fem = fileOf("", "", inches + "Name mm; Conversion 0.001; } ", "FEMProject");
     OwningProject project;
@@ -228,7 +219,7 @@ TEST(ProjectText, outer_block_names_the_engine_and_is_the_only_one_read) {
     }
 }
 
-TEST(ProjectText, load_resets_some_settings_and_keeps_or_extends_others) {
+TEST(ProjectText, LoadResetsSomeSettingsAndKeepsOrExtendsOthers) {
     OwningProject project;
     project.setUseUsersCFL(true);
     project.setUseExplicitlySuppliedTimestep(true);
@@ -248,10 +239,10 @@ TEST(ProjectText, load_resets_some_settings_and_keeps_or_extends_others) {
     EXPECT_EQ(project.getWaveforms().size(), 2U);
     EXPECT_EQ(project.getSteadyStateFrequencies().size(), 2U);
     EXPECT_EQ(project.getTdAfsTerminationCriteria(), tdAfsCriteria);
-    EXPECT_EQ(project.getBoundaryConditions()->getFrequency(), 9.0F) << "of the waveform that was there";
+    EXPECT_EQ(project.getBoundaryConditions()->getFrequency(), 9.0F) << "the frequency of the earlier waveform";
 }
 
-TEST(ProjectText, members_that_a_save_does_not_show) {
+TEST(ProjectText, LoadSetsMembersThatAreNotSaved) {
     OwningProject project, other;
     const QString minimum = "ConvergenceRequireMinimumNumberOfTimeSteps; ConvergenceMinimumNumberOfTimeSteps 500; ";
     load(project,
@@ -266,7 +257,7 @@ TEST(ProjectText, members_that_a_save_does_not_show) {
 
 const QByteArray damagedAtFirst = "\xEC\x83\n" + expanded("FDTDProject{ Units{ Display{ Name km; } } } ").toUtf8();
 
-TEST(ProjectText, damaged_first_line_hides_nothing_behind_it) {
+TEST(ProjectText, DamagedFirstLineDoesNotHideTheBlocks) {
     QTextStream stream(damagedAtFirst);
     stream.setCodec("UTF-8");
     QStringList errors;
@@ -275,7 +266,7 @@ TEST(ProjectText, damaged_first_line_hides_nothing_behind_it) {
     EXPECT_EQ(project.getDisplayUnits().first, "km");
 }
 
-TEST(ProjectText, stream_in_error_is_reset_and_not_read) {
+TEST(ProjectText, StreamInErrorIsResetAndNotRead) {
     onBothStreams("Version 8\n" + expanded("FDTDProject{ Units{ Display{ Name km; } } } "), [](QTextStream& stream) {
         stream.setStatus(QTextStream::ReadPastEnd);
         OwningProject project;
@@ -286,7 +277,7 @@ TEST(ProjectText, stream_in_error_is_reset_and_not_read) {
     });
 }
 
-TEST(ProjectText, null_waveforms_are_passed_over) {
+TEST(ProjectText, NullWaveformsAreIgnored) {
     OwningProject project;
     const auto pec = BoundaryConditions::PEC;
     project.setBoundaryConditions(new BoundaryConditions(pec, pec, pec, pec, pec, pec, 0));
@@ -296,7 +287,7 @@ TEST(ProjectText, null_waveforms_are_passed_over) {
     EXPECT_TRUE(saved(project).contains(expanded("Waveform{ Step{ pulseWidth 64; } } ")));
 }
 
-TEST(ProjectText, deeply_nested_and_repeated_blocks) {
+TEST(ProjectText, LoadsDeeplyNestedAndRepeatedBlocks) {
     OwningProject nested, repeated;
     load(nested, fileOf(QString("foo{ ").repeated(100000) + QString("} ").repeated(100000) + cfl, "", ""));
     EXPECT_TRUE(nested.getUseUsersCFL());
@@ -304,10 +295,10 @@ TEST(ProjectText, deeply_nested_and_repeated_blocks) {
     const QString sections = golden.mid(run, golden.indexOf("UseTimestep") - run);
     const QString parameters = golden.mid(dft, golden.indexOf("SteadyStateStorage") - dft);
     load(repeated, QString(golden).insert(dft, parameters).insert(run, sections));
-    EXPECT_EQ(repeated.getWaveforms().size(), 12U) << "the other objects were replaced, and nobody else has them";
+    EXPECT_EQ(repeated.getWaveforms().size(), 12U) << "the other objects were replaced and must have been deleted";
 }
 
-TEST(ProjectText, save_that_fails) {
+TEST(ProjectText, FailedSaveWritesNothing) {
     OwningProject project;
     QTemporaryDir directory;
     QFile file(directory.filePath("project"));
@@ -328,7 +319,7 @@ TEST(ProjectText, save_that_fails) {
     EXPECT_TRUE(project.saveToStream(stream)) << "true stands for an error";
 }
 
-// Loads a file with the bytes, which the load opens again as `reopened`, and returns its errors.
+// Loads a file with these bytes, which load() opens again at `reopened`, and returns the errors.
 QStringList loadFromFile(v6ProjectFile& project, const QByteArray& bytes, const QString& path, const QString& reopened,
                          bool loads) {
     QFile file(path);
@@ -349,7 +340,7 @@ void expectSavesAndLoadsFiles() {
     OwningProject project;
     describe(project);
     EXPECT_EQ(saved(project), golden);
-    EXPECT_FALSE(project.save(file.fileName(), stream, file)) << "always";
+    EXPECT_FALSE(project.save(file.fileName(), stream, file)) << "save always returns false";
     EXPECT_TRUE(!file.isOpen() && result.open(QIODevice::ReadOnly));
     const QByteArray bytes = result.readAll();
     EXPECT_EQ(bytes, golden.toUtf8());
@@ -360,8 +351,8 @@ void expectSavesAndLoadsFiles() {
     }
 }
 
-// The locale of a host application, its decimal comma and its 8-bit encoding must not reach the file.
-TEST(ProjectFiles, saved_and_loaded_in_any_locale) {
+// The locale of a host application, its decimal comma and its 8-bit encoding must not affect the file.
+TEST(ProjectFiles, AreSavedAndLoadedInAnyLocale) {
     const std::string locale = std::setlocale(LC_ALL, nullptr);
     expectSavesAndLoadsFiles();
     QLocale::setDefault(QLocale::German);
@@ -375,7 +366,7 @@ TEST(ProjectFiles, saved_and_loaded_in_any_locale) {
     std::setlocale(LC_ALL, locale.c_str());
 }
 
-TEST(ProjectFiles, refused_when_the_version_is_unsupported_or_the_file_is_gone) {
+TEST(ProjectFiles, AreRefusedWhenUnsupportedOrMissing) {
     QTemporaryDir directory;
     const QString path = directory.filePath("Prüfung Ω.fdtd");
     OwningProject project;

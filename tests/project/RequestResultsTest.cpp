@@ -9,13 +9,13 @@ namespace {
 
 using B = BoundaryConditions;
 
-/// A project that has what a save needs.
+/// A project with the boundary conditions that saving requires.
 class Project : public OwningProject {
 public:
     Project() { setBoundaryConditions(new B(B::CPML, B::CPML, B::CPML, B::CPML, B::CPML, B::CPML, 8)); }
 };
 
-// What a project saves within its results block, and a file with such a block, in short form.
+// The saved content of the results block, and a file with such a block in short form.
 QString requestsOf(v6ProjectFile& project) {
     const QString begin = "begin_<RequestResults> \n";
     const QString text = saved(project);
@@ -31,7 +31,7 @@ const QString frequencies =
 const QString parameters = "; density 1; heatCapacity 2; thermalConductivity 3; perfussionByBlood 4; metabolicHeat 5; ";
 
 // clang-format off
-// One of each request, in the order and with the lines that are written.
+// One request of each kind, in file order.
 const QString everyRequest =
     "MultiFieldIndexedPoint{ Definition{ File point 1; MinTimestep 1; MaxTimestep 2; DeltaTimestep 3; TotalE; ScatteredE; "
     "TotalH; ScatteredH; TotalB; ScatteredB; J; } XIndex -4; YIndex 5; ZIndex 2147483647; } "
@@ -41,7 +41,7 @@ const QString everyRequest =
     "TransientTotalH; TransientTotalB; TransientJ; TransientScatteredE; TransientScatteredH; TransientScatteredB; "
     "SteadyTotalE; SteadyTotalH; SteadyTotalB; SteadyJ; Snapped; GridBoxes 2 0 1 2 3 4 5 10 10 10 10 10 11; "
     "PointsToRemoveFromBoxes 2 0 1 3 10 10 11; AdditionalPoints 2 9 8 7 -1 -1 -1; } "
-    "RawSARPlanes{ Plane ZX 4; Plane  5; Plane YZ 4294967295; Plane XY 0; } "
+    "RawSARPlanes{ Plane ZX 4; Plane XY 5; Plane YZ 4294967295; Plane XY 0; } "
     "TemperatureRiseRequest{ begin_<PhysicalParameters> Immersive" + parameters + "end_<PhysicalParameters>; "
     "begin_<PhysicalParameters> Perfusive" + parameters + "end_<PhysicalParameters>; "
     "begin_<PhysicalParameters> FreeSpace" + parameters + "end_<PhysicalParameters>; "
@@ -60,69 +60,28 @@ const QString everyRequest =
 const QString hac = "HACRequest{ Origin 1 2 3; U 4 0.10000000000000001 6; V 7 8 9; W 0 1 2; } ";
 // clang-format on
 
-void describeRequests(Project& project) {
-    using Q = QString;
-    project.GetNearZoneMultiFieldIndexedPoints() = {
-        {ivec3(-4, 5, 2147483647), true, true, true, true, true, true, true, 1, 2, 3, Q("point 1")}};
-    project.GetNearZoneMultiFieldInterpolatedPoints() = {
-        {0.1F, -2, 3.5F, false, false, true, false, false, false, false, -1, -1, -1, Q()}};
-    MultiPointFieldRequest points;
-    points.collectTransientTotalE = points.collectTransientTotalH = points.collectTransientTotalB = true;
-    points.collectTransientScatteredE = points.collectTransientScatteredH = points.collectTransientScatteredB = true;
-    points.collectSteadyTotalE = points.collectSteadyTotalH = points.collectSteadyTotalB = true;
-    points.collectTransientJ = points.collectSteadyJ = points.snapped = true;
-    points.minTimestep = 1;
-    points.maxTimestep = 2;
-    points.deltaTimestep = 3;
-    points.outputFile = "Größe";
-    points.gridIndexBoxes = GridIndexBoxes({{{0, 1, 2}, {3, 4, 5}}, {{10, 10, 10}, {10, 10, 11}}},
-                                           {{0, 1, 3}, {10, 10, 11}, {99, 9, 9}},
-                                           {{9, 8, 7}, {-1, -1, -1}});
-    project.GetMultiPointFieldRequests() = {points};
-    project.getSARPlaneRequests() = {new SARPlane(SARPlane::ZX, 4),
-                                     nullptr,
-                                     new SARPlane(static_cast<SARPlane::Plane>(3), 5),
-                                     new SARPlane(SARPlane::YZ, 4294967295),
-                                     new SARPlane};
-    const PhysicalParameters p(1, 2, 3, 4, 5);
-    // clang-format off
-    project.setTemperatureRiseRequest(new TemperatureRiseRequest(
-        true, true, true, 0.25F, 0.5F, 9, 0, TemperatureRiseRequest::ZX, 1, 2, 3, 4, 5, 6, true, 300, p, p, 310, p, p,
-        Q("before"), Q("after all"), true, 7, 8));
-    // clang-format on
-    project.setSARAveragingRequest(new SARAveragingRequest(
-        true, true, true, 1, 2, 3, 4, 5, 6, true, -20, {0, 255}, true, true, true, true, true, true, Q("my sar")));
-    project.getSteadyStateFarZoneRequests() = {{{{1, 2}}, Q("a.fz")}, {}};
-    project.getTransientFarZoneRequests() = {{{}, Q("b")}};
-    project.getHACRequests() = {new HACRequest{{1, 2, 3}, {4, 0.1, 6}, {7, 8, 9}, {0, 1, 2}}, nullptr};
-    project.setSteadyStateStorageMethod(ProjectFile::HardDisk);
-    project.setSaveFieldsOnFarZoneBoxForPostProcessing(false);
-}
-
-TEST(RequestResults, every_request_is_written_in_order_and_read_back) {
-    Project described, loaded;
-    describeRequests(described);
-    described.getSteadyStateFrequencies() = {{1, "F"}};
-    // A plane that has no name cannot be read; one with an unknown name reads as XY.
+TEST(RequestResults, EveryRequestIsReadAndWrittenInOrder) {
+    Project project;
     const QString text = everyRequest + frequencies + hac;
-    EXPECT_EQ(requestsOf(described), expanded(text));
-    load(loaded, fileWith(QString(text).replace("Plane  5;", "Plane XZ 5;")));
-    EXPECT_EQ(requestsOf(loaded), expanded(QString(text).replace("Plane  5;", "Plane XY 5;")));
+    load(project, fileWith(text));
+    EXPECT_EQ(requestsOf(project), expanded(text));
+    EXPECT_EQ(project.getSteadyStateFarZoneRequests(), (std::vector<FarZoneRequest>{{{{1, 2}}, "a.fz"}, {}}));
+    EXPECT_EQ(project.getTransientFarZoneRequests(), (std::vector<FarZoneRequest>{{{}, "b"}}));
+    EXPECT_EQ(*project.getHACRequests().at(0), (HACRequest{{1, 2, 3}, {4, 0.1, 6}, {7, 8, 9}, {0, 1, 2}}));
 
-    EXPECT_EQ(loaded.GetNearZoneMultiFieldIndexedPoints(), described.GetNearZoneMultiFieldIndexedPoints());
-    EXPECT_EQ(loaded.GetNearZoneMultiFieldInterpolatedPoints(), described.GetNearZoneMultiFieldInterpolatedPoints());
-    EXPECT_EQ(loaded.GetMultiPointFieldRequests(), described.GetMultiPointFieldRequests());
-    EXPECT_EQ(*loaded.getTemperatureRiseRequest(), *described.getTemperatureRiseRequest());
-    EXPECT_EQ(*loaded.getSARAveragingRequest(), *described.getSARAveragingRequest());
-    EXPECT_EQ(loaded.getTransientFarZoneRequests(), described.getTransientFarZoneRequests());
-    EXPECT_EQ(*loaded.getHACRequests().at(0), *described.getHACRequests().at(0));
+    project.getHACRequests().push_back(nullptr);
+    auto& planes = project.getSARPlaneRequests();
+    const auto unknown = static_cast<SARPlane::Plane>(3);
+    planes.insert(planes.end(), {nullptr, new SARPlane(unknown, 8), new SARPlane(SARPlane::ZX, 7), new SARPlane});
+    EXPECT_EQ(requestsOf(project),
+              expanded(QString(text).replace("Plane XY 0;", "Plane XY 0; Plane  8; Plane ZX 7; Plane XY 0;")));
 }
 
-TEST(RequestResults, copies_share_planes_and_measurements_only) {
+TEST(RequestResults, CopiesShareOnlyPlanesAndMeasurements) {
     Project source;
-    describeRequests(source);
+    load(source, fileWith(everyRequest + hac));
     v6ProjectFile copy(source), assigned;
-    EXPECT_EQ(requestsOf(copy), expanded(everyRequest)) << "HAC requests need frequencies";
+    EXPECT_EQ(requestsOf(copy), expanded(everyRequest)) << "HAC requests are saved only with frequencies";
     EXPECT_NE(copy.getSARAveragingRequest(), source.getSARAveragingRequest());
     EXPECT_NE(copy.getTemperatureRiseRequest(), source.getTemperatureRiseRequest());
     EXPECT_EQ(copy.getHACRequests(), source.getHACRequests());
@@ -141,28 +100,27 @@ TEST(RequestResults, copies_share_planes_and_measurements_only) {
     EXPECT_EQ(requestsOf(source), QString());
 }
 
-TEST(RequestResults, load_adds_to_lists_and_forgets_the_averaging_request) {
+TEST(RequestResults, LoadAppendsToListsAndResetsTheAveragingRequest) {
     Project project;
-    describeRequests(project);
+    load(project, fileWith(everyRequest + hac));
     const std::unique_ptr<const SARAveragingRequest> averaging(project.getSARAveragingRequest());
-    const auto* const temperature = project.getTemperatureRiseRequest();
+    const std::unique_ptr<const TemperatureRiseRequest> temperature(project.getTemperatureRiseRequest());
     load(project,
          fileWith("SARAveraging{ } RawSARPlanes{ Plane XY 1; } HACRequest{ } FarZoneRequests{ Transient{ } }"
                   "MultiPointFieldRequest{ } MultiFieldIndexedPoint{ } TemperatureRiseRequest{ } ") +
              "begin_<RequestResults> \nend_<RequestResults>\n");
     EXPECT_NE(project.getSARAveragingRequest(), averaging.get());
     EXPECT_EQ(averaging->getOutputAveragedFileName(), "my sar");
-    EXPECT_NE(project.getTemperatureRiseRequest(), temperature);
-    delete temperature;
-    EXPECT_EQ(project.getSARPlaneRequests().size(), 6U);
-    EXPECT_EQ(project.getHACRequests().size(), 3U);
+    EXPECT_NE(project.getTemperatureRiseRequest(), temperature.get());
+    EXPECT_EQ(project.getSARPlaneRequests().size(), 5U);
+    EXPECT_EQ(project.getHACRequests().size(), 2U);
     EXPECT_EQ(*project.getHACRequests().back(), HACRequest());
     EXPECT_EQ(project.getTransientFarZoneRequests().size(), 2U);
     EXPECT_EQ(project.GetMultiPointFieldRequests().size(), 2U);
     EXPECT_EQ(project.GetNearZoneMultiFieldIndexedPoints().size(), 2U);
 
     load(project, fileWith("SARAveraging{ } } RequestResults{ "));
-    EXPECT_EQ(project.getSARAveragingRequest(), nullptr) << "the second block asks for none";
+    EXPECT_EQ(project.getSARAveragingRequest(), nullptr) << "the second block has none";
 }
 
 struct Row {
@@ -172,15 +130,10 @@ struct Row {
 
 void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 
-class RequestsRead : public testing::TestWithParam<Row> {};
+class RequestReading : public testing::TestWithParam<Row> {};
 
-TEST_P(RequestsRead, and_written) {
-    onBothStreams(fileWith(GetParam().read), [](QTextStream& stream) {
-        Project project;
-        QStringList errors;
-        EXPECT_TRUE(project.loadFromStream(stream, errors));
-        EXPECT_EQ(requestsOf(project), expanded(GetParam().written));
-    });
+TEST_P(RequestReading, IsWrittenInCanonicalForm) {
+    expectLoads<Project>(fileWith(GetParam().read), expanded(GetParam().written), requestsOf);
 }
 
 QString multiPoint(const QString& lists, const QString& lines = QString(), int firstStep = -1) {
@@ -206,67 +159,67 @@ QString temperatureRise(const QString& immersive, const QString& plane) {
 
 // clang-format off
 const Row rows[] = {
-    {"grid_indices_alone", "MultiPointFieldRequest{ " + threePoints + "} ",
+    {"GridIndicesAlone", "MultiPointFieldRequest{ " + threePoints + "} ",
      multiPoint(noBoxes + "AdditionalPoints 3 1 2 3 4 5 6 7 8 9; ")},
-    {"grid_indices_become_boxes", "MultiPointFieldRequest{ GridIndices 4 0 0 0 0 0 1 0 0 3 0 0 1; } ",
+    {"GridIndicesBecomeBoxes", "MultiPointFieldRequest{ GridIndices 4 0 0 0 0 0 1 0 0 3 0 0 1; } ",
      multiPoint("GridBoxes 1 0 0 0 0 0 3; PointsToRemoveFromBoxes 1 0 0 2; AdditionalPoints 0; ")},
-    {"grid_indices_beside_empty_lists",
+    {"GridIndicesBesideEmptyLists",
      "MultiPointFieldRequest{ " + threePoints + "GridBoxes 0; AdditionalPoints -3; PointsToRemoveFromBoxes 1 1 2 3; } ",
      multiPoint(noBoxes + "AdditionalPoints 3 1 2 3 4 5 6 7 8 9; ")},
-    {"boxes_before_grid_indices", "MultiPointFieldRequest{ GridIndices 1 5 5 5; GridBoxes 1 0 0 0 2 2 2; } ",
+    {"BoxesBeforeGridIndices", "MultiPointFieldRequest{ GridIndices 1 5 5 5; GridBoxes 1 0 0 0 2 2 2; } ",
      multiPoint("GridBoxes 1 0 0 0 2 2 2; PointsToRemoveFromBoxes 0; AdditionalPoints 0; ")},
-    {"additional_points_before_grid_indices", "MultiPointFieldRequest{ " + threePoints + "AdditionalPoints 1 5 5 5; } ",
+    {"AdditionalPointsBeforeGridIndices", "MultiPointFieldRequest{ " + threePoints + "AdditionalPoints 1 5 5 5; } ",
      multiPoint(noBoxes + "AdditionalPoints 1 5 5 5; ")},
-    {"removed_points_once_and_only_in_boxes",
+    {"RemovedPointsCountOnceAndOnlyInBoxes",
      "MultiPointFieldRequest{ PointsToRemoveFromBoxes 4 0 0 1 9 9 9 0 0 0 0 0 1; GridBoxes 1 0 0 0 0 0 2; } ",
      multiPoint("GridBoxes 1 0 0 0 0 0 2; PointsToRemoveFromBoxes 2 0 0 0 0 0 1; AdditionalPoints 0; ")},
-    {"lists_in_pieces_and_over_lines",
+    {"ListsInPiecesAndOverLines",
      "MultiPointFieldRequest{ AdditionalPoints 1 1 2 3; AdditionalPoints 1; 4 5; 6; AdditionalPoints 0; } ",
      multiPoint(noBoxes + "AdditionalPoints 2 1 2 3 4 5 6; ")},
-    {"huge_count_as_far_as_the_line_goes", "MultiPointFieldRequest{ GridBoxes 2000000000 1 1 1 2 2 2 3 3 3 4; } ",
+    {"HugeCountEndsWithTheLine", "MultiPointFieldRequest{ GridBoxes 2000000000 1 1 1 2 2 2 3 3 3 4; } ",
      multiPoint("GridBoxes 1 1 1 1 2 2 2; PointsToRemoveFromBoxes 0; AdditionalPoints 0; ")},
-    {"count_beyond_integers_as_none", "MultiPointFieldRequest{ AdditionalPoints 3000000000 1 1 1; Snapped; } ",
+    {"CountBeyondIntegersIsTakenAsZero", "MultiPointFieldRequest{ AdditionalPoints 3000000000 1 1 1; Snapped; } ",
      multiPoint(noBoxes + "AdditionalPoints 0; ", "Snapped; ")},
-    {"unknown_words_and_blocks_of_points",
+    {"UnknownWordsAndBlocksOfPoints",
      "MultiPointFieldRequest{ foo Snapped; foo{ Snapped; } SteadyJ SteadyTotalE; Snapped 0; MinTimestep 7; } ",
      multiPoint(noBoxes + "AdditionalPoints 0; ", "SteadyTotalE; SteadyJ; Snapped; ", 7)},
-    {"points_with_unknown_lines",
+    {"PointsWithUnknownLines",
      "MultiFieldIndexedPoint{ foo XIndex 1; foo{ YIndex 1; } XPosition 2; Definition{ foo J; J{ } File  my file ; "
      "TotalB; } ZIndex 3; } MultiFieldInterpolatedPoint{ ZPosition 1e-3; XIndex 1; } ",
      "MultiFieldIndexedPoint{ Definition{ File my file; MinTimestep -1; MaxTimestep -1; DeltaTimestep -1; TotalB; } "
      "XIndex 0; YIndex 0; ZIndex 3; } MultiFieldInterpolatedPoint{ " + definition +
      "XPosition 0; YPosition 0; ZPosition 0.0010000000474974513; } "},
-    {"planes_up_to_another_word", "RawSARPlanes{ Plane XZ 4; Plane zx 5; Planes YZ 6; } MultiFieldIndexedPoint{ } ",
+    {"PlanesEndAtAnotherWord", "RawSARPlanes{ Plane XZ 4; Plane zx 5; Planes YZ 6; } MultiFieldIndexedPoint{ } ",
      "RawSARPlanes{ Plane XY 4; Plane XY 5; } "},
-    {"planes_up_to_a_block", "RawSARPlanes{ Plane YZ 4; foo{ } Plane ZX 1; } ", "RawSARPlanes{ Plane YZ 4; } "},
-    {"far_zone_requests_among_others", "FarZoneRequests{ foo SteadyState; foo{ Transient{ } } Transient{ Angle 1 2; } } ",
+    {"PlanesEndAtABlock", "RawSARPlanes{ Plane YZ 4; foo{ } Plane ZX 1; } ", "RawSARPlanes{ Plane YZ 4; } "},
+    {"FarZoneRequestsAmongOthers", "FarZoneRequests{ foo SteadyState; foo{ Transient{ } } Transient{ Angle 1 2; } } ",
      "FarZoneRequests{ Transient{ OutputFileName ; Angle 1 2; } } "},
-    {"averaging_defaults_and_drops_lines",
+    {"AveragingDefaultsAndDropsLines",
      "SARAveraging{ foo average_one_gram; automatic_subregion_cutoff_in_db 3; materials_to_use -1; } ",
      "SARAveraging{ " + noAveraging + "} "},
-    {"averaging_takes_inner_blocks_as_lines", "SARAveraging{ foo{ average_one_gram; } } ",
+    {"AveragingTakesInnerBlocksAsLines", "SARAveraging{ foo{ average_one_gram; } } ",
      "SARAveraging{ average_one_gram; " + noAveraging + "} "},
-    {"averaging_materials_have_eight_bits", "SARAveraging{ materials_to_use 3 1 256 511; outputAveragedFileName  a b ; } ",
+    {"AveragingMaterialsHaveEightBits", "SARAveraging{ materials_to_use 3 1 256 511; outputAveragedFileName  a b ; } ",
      "SARAveraging{ lower_bound  0 0 0; upper_bound  0 0 0; materials_to_use 3 1 0 255; outputAveragedFileName a b; } "},
-    {"averaging_slices_by_their_normal", "SARAveraging{ save_one_gram_x_slices; save_ten_gram_z_slices; } ",
+    {"AveragingSlicesByTheirNormal", "SARAveraging{ save_one_gram_x_slices; save_ten_gram_z_slices; } ",
      "SARAveraging{ lower_bound  0 0 0; upper_bound  0 0 0; save_ten_gram_z_slices; save_one_gram_x_slices; "
      "outputAveragedFileName project; } "},
-    {"temperature_rise_defaults", "TemperatureRiseRequest{ } ", temperatureRise(noParameters, "XY")},
-    {"temperature_rise_lenient_names",
+    {"TemperatureRiseDefaults", "TemperatureRiseRequest{ } ", temperatureRise(noParameters, "XY")},
+    {"TemperatureRiseLenientNames",
      "TemperatureRiseRequest{ plane_type XZ; steady_state_type foo; foo{ plane_type YZ; } foo plane_type YZ; "
      "begin_<PhysicalParameters> Body; density 9; end_<PhysicalParameters>; "
      "begin_<PhysicalParameters> Immersive; density 9; end_<PhysicalParameters>; initial_temperature_filename ; } ",
      temperatureRise(QString(noParameters).replace("density 0", "density 9"), "ZX")},
-    {"hac_words_one_by_one", frequencies + "HACRequest{ foo Origin 1 2 3 4 U 5 6 7; V{ 1 2 3; } end_<V>; W 8 x; } ",
+    {"HACWordsAreReadOneByOne", frequencies + "HACRequest{ foo Origin 1 2 3 4 U 5 6 7; V{ 1 2 3; } end_<V>; W 8 x; } ",
      frequencies + "HACRequest{ Origin 1 2 3; U 5 6 7; V 0 0 0; W 8 0 0; } "},
-    {"hac_without_frequencies_is_lost", hac, ""},
-    {"unknown_blocks_and_lines", "RawSARPlanes{ } foo{ MultiFieldIndexedPoint{ } } foo; MultiFieldIndexedPoint{ } ",
+    {"HACWithoutFrequenciesIsLost", hac, ""},
+    {"UnknownBlocksAndLines", "RawSARPlanes{ } foo{ MultiFieldIndexedPoint{ } } foo; MultiFieldIndexedPoint{ } ",
      "MultiFieldIndexedPoint{ " + definition + origin + "} "},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(rows, RequestsRead, testing::ValuesIn(rows), rowName<Row>);
+INSTANTIATE_TEST_SUITE_P(, RequestReading, testing::ValuesIn(rows), rowName<Row>);
 
-TEST(RequestResults, boxes_that_overlap_beyond_reason_leave_their_request_out) {
+TEST(RequestResults, RequestsWithTooManyOverlappingBoxesAreDropped) {
     const QString boxes = "GridBoxes 1100" + QString(" 0 0 0 9 9 39").repeated(1100) + "; ";
     QString removed = "PointsToRemoveFromBoxes 1100";
     for (int i = 0; i < 1100; ++i) removed += QString(" %1 %2 %3").arg(i / 400).arg(i / 40 % 10).arg(i % 40);
@@ -279,8 +232,8 @@ TEST(RequestResults, boxes_that_overlap_beyond_reason_leave_their_request_out) {
     EXPECT_EQ(project.getSteadyStateFrequencies().size(), 1U);
 }
 
-/// Compares the lines with which each request is written and the first one is not, each behind the label of its block.
-/// What is written is read back equal. The texts are separated by bars.
+/// Compares the lines that are written for each request but not for the first one, each with the label of its block.
+/// Each request must be read back equal, unless it writes no such line. `lines` are separated by bars.
 template <class Request, class Put, class Get>
 void expectLines(const std::vector<Request>& requests, const QString& lines, Put put, Get get) {
     const auto labelledLines = [&](const Request& request) {
@@ -317,7 +270,7 @@ const QString boundLines =
     "lower_bound  1 0 0|lower_bound  0 2 0|lower_bound  0 0 3|upper_bound  4 0 0|upper_bound  0 5 0|upper_bound  0 0 "
     "6|";
 
-TEST(RequestMembers, of_averaging_requests) {
+TEST(RequestMembers, AveragingRequestsCompareAndWriteEachMember) {
     const std::tuple noAverages(false, false, false), averages(true, true, true);
     const std::tuple rest(false, 0.0F, std::vector<std::uint8_t>()), changed(true, 7.0F, std::vector<std::uint8_t>{8});
     expectLines(
@@ -337,7 +290,7 @@ const auto noTemperatureRise = std::tuple_cat(
     std::tuple(false, false, false, 0.0F, 0.0F, 0, 0, TemperatureRiseRequest::XY), noBounds,
     std::tuple(false, 0.0F, noTissue, noTissue, 0.0F, noTissue, noTissue, QString(), QString(), false, 0.0F, 0.0F));
 
-TEST(RequestMembers, of_temperature_rise_requests) {
+TEST(RequestMembers, TemperatureRiseRequestsCompareAndWriteEachMember) {
     const auto changed = std::tuple_cat(
         std::tuple(true, true, true, 1.0F, 2.0F, 3, 3, TemperatureRiseRequest::ZX),
         bounds,
@@ -357,7 +310,7 @@ TEST(RequestMembers, of_temperature_rise_requests) {
 const QString definitionLines =
     "ScatteredE|TotalE|ScatteredH|TotalH|ScatteredB|TotalB|J|MinTimestep 1|MaxTimestep 2|DeltaTimestep 3|File a b";
 
-TEST(RequestMembers, of_near_zone_points) {
+TEST(RequestMembers, NearZonePointsCompareAndWriteEachMember) {
     const auto blank = std::tuple_cat(noFlags, std::tuple(false, -1, -1, -1, QString()));
     const auto changed = std::tuple_cat(allFlags, std::tuple(true, 1, 2, 3, QString("a b")));
     expectLines(
@@ -376,7 +329,7 @@ TEST(RequestMembers, of_near_zone_points) {
     EXPECT_NE(static_cast<const NearZoneMultiFieldPoint&>(indexed), NearZoneMultiFieldInterpolatedPoint());
 }
 
-TEST(RequestMembers, of_multi_point_requests) {
+TEST(RequestMembers, MultiPointRequestsCompareAndWriteEachMember) {
     using R = MultiPointFieldRequest;
     const std::pair<bool R::*, const char*> flags[] = {{&R::collectTransientTotalE, "TransientTotalE"},
                                                        {&R::collectTransientTotalH, "TransientTotalH"},
@@ -396,6 +349,15 @@ TEST(RequestMembers, of_multi_point_requests) {
         requests.emplace_back().*flag = true;
         lines << line;
     }
+    for (int R::*const step : {&R::minTimestep, &R::maxTimestep, &R::deltaTimestep}) requests.emplace_back().*step = 7;
+    requests.emplace_back().outputFile = "Größe";
+    requests.emplace_back().gridIndexBoxes = GridIndexBoxes(
+        {{{0, 1, 2}, {3, 4, 5}}, {{8, 8, 8}, {8, 8, 9}}}, {{0, 1, 3}, {8, 8, 9}, {99, 9, 9}}, {{9, 8, 7}});
+    lines << "MinTimestep 7"
+          << "MaxTimestep 7"
+          << "DeltaTimestep 7"
+          << "File Größe"
+          << "GridBoxes 2 0 1 2 3 4 5 8 8 8 8 8 9; PointsToRemoveFromBoxes 2 0 1 3 8 8 9; AdditionalPoints 1 9 8 7";
     expectLines(
         requests,
         lines.join('|'),
@@ -403,7 +365,7 @@ TEST(RequestMembers, of_multi_point_requests) {
         [](const auto& project) { return project.GetMultiPointFieldRequests().at(0); });
 }
 
-TEST(NearZonePoints, are_cells_with_a_type) {
+TEST(NearZonePoint, HasACellAndAType) {
     NearZonePoint point, typed;
     point.Point({1, 2, 3});
     typed.Point({1, 2, 3});
@@ -413,7 +375,7 @@ TEST(NearZonePoints, are_cells_with_a_type) {
     EXPECT_EQ(typed.Type() * 1000 + typed.X() * 100 + typed.Y() * 10 + typed.Z(), 4123);
 }
 
-TEST(TemperatureRise, names_files_and_leaves_out_what_has_no_name) {
+TEST(TemperatureRise, NamesFilesAndOmitsUnnamedValues) {
     for (const auto& [plane, prefix] : {std::pair(0, ".xy"), {1, ".yz"}, {2, ".zx"}, {5, ".zx"}}) {
         Project project;
         auto arguments = noTemperatureRise;

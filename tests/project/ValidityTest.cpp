@@ -29,24 +29,10 @@ const QString badSamples = "error: The user defined waveform is incorrectly spec
 const QString fewSamples = "error: There are not enough points specified in the user defined waveform.";
 // clang-format on
 
-// Runs a check on lists that hold something already; errors come first.
-template <class Check>
-QStringList findings(Check check) {
-    QStringList errors("error: "), warnings("warning: "), found;
-    check(errors, warnings);
-    for (const QString& text : errors.mid(1)) found << errors.first() + text;
-    for (const QString& text : warnings.mid(1)) found << warnings.first() + text;
-    return found;
-}
-
-QStringList findingsOf(const ProjectFile& project) {
-    return findings([&](auto& errors, auto& warnings) { project.checkValidity(errors, warnings); });
-}
-
-TEST(Validity, absorbing_layers_are_checked_for_fem_only) {
+TEST(Validity, AbsorbingLayersAreCheckedOnlyForFEM) {
     const auto check = [](Engine engine, B::BoundaryType lowerX, B::BoundaryType others, int layers) {
         const B conditions(lowerX, others, others, others, others, others, layers);
-        return findings([&](auto& errors, auto& warnings) { conditions.checkValidity(errors, warnings, engine); });
+        return findingsOf(conditions, engine);
     };
     EXPECT_EQ(check(Engine::FDTD, B::Liao, B::CPML, 0), QStringList());
     EXPECT_EQ(check(Engine::FEM, B::Liao, B::CPML, 0), (QStringList{noLayers, twoAbsorbers, fewLayers}));
@@ -56,14 +42,13 @@ TEST(Validity, absorbing_layers_are_checked_for_fem_only) {
     EXPECT_EQ(check(Engine::FEM, B::Liao, B::PEC, 0), QStringList()) << "no CPML side";
 }
 
-TEST(Validity, waveforms_are_checked_for_fdtd_only) {
+TEST(Validity, WaveformsAreCheckedOnlyForFDTD) {
     const auto check = [](const W& waveform, bool convergence = false, Engine engine = Engine::FDTD) {
         TerminationCriteria criteria(0, 2, 0);
         if (convergence) criteria.addConvergence(-40, 5, 5, true, TerminationCriteria::Medium);
-        return findings(
-            [&](auto& errors, auto& warnings) { waveform.checkValidity(errors, warnings, criteria, engine); });
+        return findingsOf(waveform, criteria, engine);
     };
-    QLocale::setDefault(QLocale::German);  // messages have a point in any locale
+    QLocale::setDefault(QLocale::German);  // messages use a decimal point in any locale
     EXPECT_EQ(check(W(W::Gaussian, 31.5F, 0, {}, {})), QStringList(shortPulse.arg("31.5")));
     EXPECT_EQ(check(W(W::Gaussian, 32, 0, {}, {}), true), QStringList());
     EXPECT_EQ(check(W(W::GaussianDerivative, 3.1415927F, 0, {}, {})), QStringList(shortPulse.arg("3.14159")));
@@ -79,17 +64,17 @@ TEST(Validity, waveforms_are_checked_for_fdtd_only) {
     QLocale::setDefault(QLocale::c());
 }
 
-TEST(Validity, termination_criteria_are_checked_for_fem_only) {
+TEST(Validity, TerminationCriteriaAreCheckedOnlyForFEM) {
     const auto check = [](unsigned maximum, Engine engine) {
-        return findings(
-            [&](auto&, auto& warnings) { TerminationCriteria(0, maximum, 0).checkValidity(warnings, engine); });
+        QStringList warnings("earlier");
+        TerminationCriteria(0, maximum, 0).checkValidity(warnings, engine);
+        return warnings.mid(1);
     };
-    EXPECT_EQ(check(0, Engine::FEM),
-              QStringList("warning: The maximum number of timesteps should be greater than zero."));
+    EXPECT_EQ(check(0, Engine::FEM), QStringList("The maximum number of timesteps should be greater than zero."));
     EXPECT_EQ(check(1, Engine::FEM) + check(0, Engine::FDTD), QStringList());
 }
 
-TEST(Validity, td_afs_criteria_are_checked_for_s_parameters_and_fdtd) {
+TEST(Validity, TdAfsCriteriaAreCheckedForSParametersAndFDTD) {
     using C = TdAfsTerminationCriteria;
     using Texts = std::vector<std::string>;
     const auto check = [](float start, float stop, int points, int passes, C::ConvergenceType type, Engine engine) {
@@ -111,7 +96,7 @@ TEST(Validity, td_afs_criteria_are_checked_for_s_parameters_and_fdtd) {
     EXPECT_EQ(check(0, 0, 0, 0, C::SParameters, Engine::FEM), Texts());
 }
 
-TEST(Validity, project_checks_its_parts_in_order) {
+TEST(Validity, ProjectChecksItsPartsInOrder) {
     OwningProject project;
     EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noExcitation, noTermination}));
     project.setTdAfsTerminationCriteria(new TdAfsTerminationCriteria);
@@ -127,6 +112,55 @@ TEST(Validity, project_checks_its_parts_in_order) {
     EXPECT_EQ(findingsOf(project), (QStringList{noLayers, twoAbsorbers, fewLayers}));
     project.setEngine(Engine::FDTD);
     EXPECT_EQ(findingsOf(project), (QStringList{badSamples, shortRise.arg("30")}));
+}
+
+TEST(Validity, ComponentsAndStaticVoltagesAreExcitations) {
+    const auto managerOf = [](float resistance, bool sParameters) {
+        const CircuitComponent base("f", 0, 0, 0, CircuitComponent::X, true);
+        const auto series = CircuitComponent::Series;
+        return new ComponentManager({new Feed(base,
+                                              CircuitComponent::SeriesVoltage,
+                                              0,
+                                              1,
+                                              0,
+                                              resistance,
+                                              0,
+                                              0,
+                                              0,
+                                              series,
+                                              CircuitComponent::Positive)},
+                                    sParameters,
+                                    0);
+    };
+    const auto setManager = [](v6ProjectFile& project, ComponentManager* manager) {
+        if (const auto* old = project.getComponentManager()) {
+            for (const CircuitComponent* component : old->getComponents()) delete component;
+            delete old;
+        }
+        project.setComponentManager(manager);
+    };
+    OwningProject project;
+    auto* voltages = new StaticVoltageList(0, 1, 1, {});
+    project.setStaticVoltageList(voltages);
+    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noExcitation, noTermination})) << "without a voltage";
+    voltages->addPoint({});
+    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noTermination}));
+    project.setEngine(Engine::FEM);
+    EXPECT_EQ(findingsOf(project),
+              (QStringList{noBoundaries, "error: The voltage conductor threshhold must be greater than zero."}));
+    project.setEngine(Engine::FDTD);
+    setManager(project, new ComponentManager({}, true, 0));
+    EXPECT_EQ(findingsOf(project),
+              (QStringList{noBoundaries,
+                           "error: S-Parameters are being computed, but there are no circuit components "
+                           "specified.",
+                           noTermination}));
+    setManager(project, managerOf(-1, true));
+    EXPECT_EQ(
+        findingsOf(project),
+        (QStringList{noBoundaries, noWaveform, noTermination, "warning: Feed resistance should not be negative."}));
+    setManager(project, managerOf(50, false));
+    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noTermination})) << "without an active port";
 }
 
 }  // namespace

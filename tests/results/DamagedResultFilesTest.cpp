@@ -1,5 +1,5 @@
-// A sample of each kind of result file, cut off at each length, and with each byte of its header changed to every
-// other: what must be refused is, and of the records those are read that are there.
+// A sample of each kind of result file is truncated at each length, and each byte of its header is changed to every
+// other value. Invalid headers must be refused, and complete records must be read.
 
 #include <gtest/gtest.h>
 
@@ -80,7 +80,7 @@ int readInfo(const QString& path) {
     return reader.beginResultReading(path.chopped(9)) ? 0 : refused;
 }
 
-// Of a set whose other files are sound.
+// Reads a file of a result set whose other files are valid.
 template <class Read>
 int readFromSet(const QString& path, Read read) {
     const QString base = path.section('/', 0, -2) + "/b";
@@ -119,15 +119,15 @@ int readComponent(const QString& path) {
 }
 
 const Sample samples[] = {
-    {"farZoneBoxFields", "f", QByteArray("!tavrixfdtdL\x08\0\0\0", 16), 32, 12, 15, readBoxFields},
-    {"sarStatistics", "f", "", 48, 0, -1, readStatistics},
-    {"dissipatedPower", "f", "\1\2", 24, 0, 1, readDissipatedPower},
-    {"nearZonePoint", "f", QByteArray("Rnzp\0xxxxyyyyzzzz\0\2", 19), 16, 5, 16, readNearZonePoint},
-    {"sarPlane", "f", QByteArray("!tavrixfdtdL\x0D\0\0\0\2\0\0\0\5\0\0\0\2\0\0\0", 28), 12, 20, 26, readSarPlane},
-    {"pointInfo", "b_info.bin", pointInfo, 0, 8, 12, readInfo},
-    {"pointGeometry", "b_geom.bin", "", 12, 0, -1, readPoints},
-    {"pointTimes", "b_timesteps.bin", "", 4, 0, -1, readTimes},
-    {"pointComponent", "b_transient_Jy_ts0.bin", "", 4, 0, -1, readComponent},
+    {"FarZoneBoxFields", "f", QByteArray("!tavrixfdtdL\x08\0\0\0", 16), 32, 12, 15, readBoxFields},
+    {"SarStatistics", "f", "", 48, 0, -1, readStatistics},
+    {"DissipatedPower", "f", "\1\2", 24, 0, 1, readDissipatedPower},
+    {"NearZonePoint", "f", QByteArray("Rnzp\0xxxxyyyyzzzz\0\2", 19), 16, 5, 16, readNearZonePoint},
+    {"SarPlane", "f", QByteArray("!tavrixfdtdL\x0D\0\0\0\2\0\0\0\5\0\0\0\2\0\0\0", 28), 12, 20, 26, readSarPlane},
+    {"PointInfo", "b_info.bin", pointInfo, 0, 8, 12, readInfo},
+    {"PointGeometry", "b_geom.bin", "", 12, 0, -1, readPoints},
+    {"PointTimes", "b_timesteps.bin", "", 4, 0, -1, readTimes},
+    {"PointComponent", "b_transient_Jy_ts0.bin", "", 4, 0, -1, readComponent},
 };
 
 class DamagedResultFile : public testing::TestWithParam<Sample> {
@@ -141,7 +141,7 @@ protected:
     ResultFolder m_folder;
 };
 
-TEST_P(DamagedResultFile, cutOffAtEachLength) {
+TEST_P(DamagedResultFile, GivesCompleteRecordsAtEachLength) {
     const int headerSize = GetParam().header.size();
     const int recordSize = GetParam().recordSize;
     const QByteArray whole = GetParam().header + QByteArray(2 * recordSize, '\1');
@@ -151,7 +151,7 @@ TEST_P(DamagedResultFile, cutOffAtEachLength) {
     }
 }
 
-TEST_P(DamagedResultFile, eachByteOfTheHeaderChanged) {
+TEST_P(DamagedResultFile, RefusesOrReadsEachChangedHeader) {
     constexpr int allBits = 0xFF;
     const QByteArray whole = GetParam().header + QByteArray(2 * GetParam().recordSize, '\1');
     for (int i = 0; i < GetParam().header.size(); ++i) {
@@ -168,7 +168,7 @@ TEST_P(DamagedResultFile, eachByteOfTheHeaderChanged) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, DamagedResultFile, testing::ValuesIn(samples), rowName<Sample>);
+INSTANTIATE_TEST_SUITE_P(, DamagedResultFile, testing::ValuesIn(samples), rowName<Sample>);
 
 }  // namespace
 }  // namespace quarn::test

@@ -21,7 +21,7 @@ FarZoneBox boxWith(const Types& t, std::uint32_t x, std::uint32_t y, std::uint32
     return {BoundaryConditions(t[0], t[1], t[2], t[3], t[4], t[5], 8), grid};
 }
 
-// A face that stands on an axis: the type of which side is PEC, the indices of that axis, the coordinate of the centre.
+// A face on a PEC side: the types of the sides, the node indices of the faces and the coordinate of the centre.
 struct ImageRow {
     FarZoneBox::Face face;
     std::size_t side;
@@ -33,7 +33,7 @@ void PrintTo(const ImageRow& row, std::ostream* out) { *out << "face " << row.fa
 
 class FarZoneBoxAtImage : public testing::TestWithParam<ImageRow> {};
 
-TEST_P(FarZoneBoxAtImage, stands_on_the_plane_and_refers_to_it) {
+TEST_P(FarZoneBoxAtImage, LiesOnThePlaneAndRefersToIt) {
     Types types{Open, Open, Open, Open, Open, Open};
     if (GetParam().face != FarZoneBox::NoFace) types[GetParam().side] = PEC;
     const FarZoneBox box = boxWith(types, 11, 12, 13);
@@ -62,7 +62,7 @@ const ImageRow images[] = {
     {FarZoneBox::ZLower, 4, {4, 6, 4, 7, 0, 8}, {1.5, 5.5, 3}},
     {FarZoneBox::ZUpper, 5, {4, 6, 4, 7, 4, 12}, {1.5, 5.5, 13}},
 };
-INSTANTIATE_TEST_SUITE_P(rows, FarZoneBoxAtImage, testing::ValuesIn(images));
+INSTANTIATE_TEST_SUITE_P(, FarZoneBoxAtImage, testing::ValuesIn(images));
 
 struct Refusal {
     const char* name;
@@ -73,9 +73,9 @@ struct Refusal {
 
 void PrintTo(const Refusal& row, std::ostream* out) { *out << row.name; }
 
-class FarZoneBoxIn : public testing::TestWithParam<Refusal> {};
+class FarZoneBoxValidity : public testing::TestWithParam<Refusal> {};
 
-TEST_P(FarZoneBoxIn, grid_that_does_not_suit) {
+TEST_P(FarZoneBoxValidity, DependsOnGridAndBoundaries) {
     const FarZoneBox box = boxWith(GetParam().types, GetParam().cellsInX, 20, 20);
     EXPECT_EQ(box.isValid(), GetParam().valid);
     if (GetParam().valid) return;
@@ -84,20 +84,20 @@ TEST_P(FarZoneBoxIn, grid_that_does_not_suit) {
 }
 
 const Refusal refusals[] = {
-    {"two_PEC", {PEC, Open, PEC, Open, Open, Open}, 20},
-    {"a_magnetic_conductor", {Open, Open, Open, Open, Open, BoundaryConditions::PMC}, 20},
-    {"a_periodic_side", {Open, BoundaryConditions::Periodic, Open, Open, Open, Open}, 20},
-    {"no_cells_before_PEC", {Open, PEC, Open, Open, Open, Open}, 0},
-    {"four_cells_before_PEC", {Open, PEC, Open, Open, Open, Open}, 4},
-    {"five_cells_before_PEC", {Open, PEC, Open, Open, Open, Open}, 5, true},
-    {"four_cells_behind_PEC", {PEC, Open, Open, Open, Open, Open}, 4},
-    {"five_cells_behind_PEC", {PEC, Open, Open, Open, Open, Open}, 5, true},
-    {"eight_cells_of_absorbers", {Open, Open, Open, Open, Open, Open}, 8},
-    {"nine_cells_of_absorbers", {Open, Open, Open, Open, Open, Open}, 9, true},
+    {"TwoPEC", {PEC, Open, PEC, Open, Open, Open}, 20},
+    {"MagneticConductor", {Open, Open, Open, Open, Open, BoundaryConditions::PMC}, 20},
+    {"PeriodicSide", {Open, BoundaryConditions::Periodic, Open, Open, Open, Open}, 20},
+    {"NoCellsBeforePEC", {Open, PEC, Open, Open, Open, Open}, 0},
+    {"FourCellsBeforePEC", {Open, PEC, Open, Open, Open, Open}, 4},
+    {"FiveCellsBeforePEC", {Open, PEC, Open, Open, Open, Open}, 5, true},
+    {"FourCellsBehindPEC", {PEC, Open, Open, Open, Open, Open}, 4},
+    {"FiveCellsBehindPEC", {PEC, Open, Open, Open, Open, Open}, 5, true},
+    {"EightCellsOfAbsorbers", {Open, Open, Open, Open, Open, Open}, 8},
+    {"NineCellsOfAbsorbers", {Open, Open, Open, Open, Open, Open}, 9, true},
 };
-INSTANTIATE_TEST_SUITE_P(rows, FarZoneBoxIn, testing::ValuesIn(refusals), rowName<Refusal>);
+INSTANTIATE_TEST_SUITE_P(, FarZoneBoxValidity, testing::ValuesIn(refusals), rowName<Refusal>);
 
-TEST(FarZoneBox, hides_directions_behind_the_plane_by_more_than_a_thousandth_of_a_degree) {
+TEST(FarZoneBox, HidesDirectionsMoreThanAThousandthOfADegreeBehindThePlane) {
     constexpr auto degree = static_cast<float>(constants::radiansPerDegree);
     const auto hides = [](std::size_t side, float theta, float phi) {
         Types types{Open, Open, Open, Open, Open, Open};

@@ -20,7 +20,7 @@ inline BoundaryConditions openBoundaries() {
     return {open, open, open, open, open, open, 8};
 }
 
-/// A PEC plane at the side, open boundaries elsewhere; none for FarZoneBox::NoFace.
+/// A PEC plane at the side, or no plane for FarZoneBox::NoFace, and open boundaries elsewhere.
 inline BoundaryConditions boundariesWithPlaneAt(FarZoneBox::Face face) {
     constexpr BoundingBoxSide sides[] = {BoundingBoxSide::LowerX,
                                          BoundingBoxSide::LowerY,

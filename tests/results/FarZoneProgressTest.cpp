@@ -17,10 +17,10 @@ constexpr double millisecond = 1e6;
 
 Clock::time_point theTime;
 Clock::time_point theSameTime() { return theTime; }
-/// Makes a report of every look at the clock.
+/// A clock that makes every check produce a report.
 Clock::time_point aMinuteLater() { return theTime += std::chrono::minutes(1); }
 
-TEST(FarZoneProgress, reports_a_share_of_the_known_work_once_fifty_milliseconds_have_passed) {
+TEST(FarZoneProgress, ReportsAShareOfTheKnownWorkOnceFiftyMillisecondsHavePassed) {
     std::vector<std::size_t> reports;
     const auto listen = [&](std::size_t done, std::size_t total) {
         EXPECT_EQ(total, 100U);
@@ -45,7 +45,7 @@ TEST(FarZoneProgress, reports_a_share_of_the_known_work_once_fifty_milliseconds_
 // The fast method prepares tables of 170 ms and 120 MB for this box.
 const std::array<std::vector<double>, 3> longBox = {std::vector(6000, 0.1), {0.1}, {0.1}};
 
-TEST(FarZoneProgress, is_told_of_all_work_in_pieces_of_less_than_a_hundred_milliseconds) {
+TEST(FarZoneProgress, ReceivesAllWorkInPiecesBelowAHundredMilliseconds) {
     const reference::SampledBox box(longBox, {-300, 0, 0}, 2.0 * pi);
     const auto surface = box.as<farzone::Surface>();
     const std::vector<farzone::Direction> directions(500, {1.0, 0.5});
@@ -68,7 +68,7 @@ TEST(FarZoneProgress, is_told_of_all_work_in_pieces_of_less_than_a_hundred_milli
     }
 }
 
-TEST(FarZoneProgress, stops_preparations_and_directions_at_any_report_and_keeps_the_records) {
+TEST(FarZoneProgress, StopsPreparationsAndDirectionsAtAnyReportAndKeepsTheRecords) {
     Grid grid;
     const Grid::Runs runs{{0, 0.1F}};
     ASSERT_TRUE(grid.initialize(6009, 10, 10, 0, 0, 0, runs, runs, runs, true));

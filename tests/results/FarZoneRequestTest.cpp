@@ -14,7 +14,7 @@ using testing::ElementsAre;
 
 constexpr auto pi = static_cast<float>(constants::pi);
 
-TEST(FarZoneRequest, derives_names_by_cutting_three_characters) {
+TEST(FarZoneRequest, DerivesNamesByCuttingThreeCharacters) {
     const auto names = [](const char* name) {
         const FarZoneRequest request({}, name);
         return std::pair(request.getUANOutputFileName(), request.getCircularPolarizedUANOutputFileName());
@@ -26,7 +26,7 @@ TEST(FarZoneRequest, derives_names_by_cutting_three_characters) {
     EXPECT_EQ(names("four"), std::pair(QString("f.uan"), QString("f.cpuan")));
 }
 
-TEST(FarZoneRequest, writes_theta_before_phi_and_gives_them_by_index) {
+TEST(FarZoneRequest, WritesThetaBeforePhiAndGivesThemByIndex) {
     const FarZoneRequest request({{0.5F, 0.1F}, {-1e-5F, 2}}, QStringLiteral("far field.fz"));
     QString text;
     QTextStream out(&text, QIODevice::WriteOnly);
@@ -48,9 +48,9 @@ struct Reading {
 
 void PrintTo(const Reading& row, std::ostream* out) { *out << row.name; }
 
-class FarZoneRequestReads : public testing::TestWithParam<Reading> {};
+class FarZoneRequestReading : public testing::TestWithParam<Reading> {};
 
-TEST_P(FarZoneRequestReads, what_its_lines_say) {
+TEST_P(FarZoneRequestReading, GivesTheAnglesAndTheFileName) {
     onBothStreams(expanded(QStringLiteral("Transient{%1}").arg(GetParam().lines)), [](QTextStream& in) {
         DelimManager delim(in, QString());
         QString name, value, description;
@@ -62,15 +62,15 @@ TEST_P(FarZoneRequestReads, what_its_lines_say) {
 }
 
 const Reading readings[] = {
-    {"nothing", "", {}, ""},
-    {"lines_in_any_order", "Angle 1 2;OutputFileName  a b.fz ;Angle 3e-1 -4;", {{1, 2}, {0.3F, -4}}, "a b.fz"},
-    {"unknown_words_one_by_one", "Colour Angle 1 2;Angle 5 6 7;angle 8 9;", {{1, 2}, {5, 6}}, ""},
-    {"inner_blocks_as_words", "Angle 1 2;Angle{OutputFileName x;}Angle 3 4;", {{1, 2}, {3, 4}}, "x"},
-    {"up_to_a_broken_angle", "Angle 1 2;Angle 3 x;Angle 5 6;", {{1, 2}, {3, 0}}, ""},
+    {"NoLines", "", {}, ""},
+    {"LinesInAnyOrder", "Angle 1 2;OutputFileName  a b.fz ;Angle 3e-1 -4;", {{1, 2}, {0.3F, -4}}, "a b.fz"},
+    {"UnknownWordsOneByOne", "Colour Angle 1 2;Angle 5 6 7;angle 8 9;", {{1, 2}, {5, 6}}, ""},
+    {"InnerBlocksAsWords", "Angle 1 2;Angle{OutputFileName x;}Angle 3 4;", {{1, 2}, {3, 4}}, "x"},
+    {"EndsAtAnUnreadableAngle", "Angle 1 2;Angle 3 x;Angle 5 6;", {{1, 2}, {3, 0}}, ""},
 };
-INSTANTIATE_TEST_SUITE_P(rows, FarZoneRequestReads, testing::ValuesIn(readings), rowName<Reading>);
+INSTANTIATE_TEST_SUITE_P(, FarZoneRequestReading, testing::ValuesIn(readings), rowName<Reading>);
 
-TEST(FarZoneRotation, turns_the_axes_and_not_the_vectors) {
+TEST(FarZoneRotation, TurnsTheAxesAndNotTheVectors) {
     FarZoneRotation rotation;
     rotation.set(0, 0, 5, pi / 2);
     EXPECT_FALSE(rotation.isIdentity);
@@ -82,7 +82,7 @@ TEST(FarZoneRotation, turns_the_axes_and_not_the_vectors) {
     EXPECT_THAT(rotation.matrix, ElementsAre(row(0, 1, 0), row(0, 0, 1), row(1, 0, 0)));
 }
 
-TEST(FarZoneRotation, is_the_identity_without_an_axis_and_for_full_turns) {
+TEST(FarZoneRotation, IsTheIdentityWithoutAnAxisAndForFullTurns) {
     for (const auto& [x, angle] : {std::pair(0.0, 1.0F), {1.0, 0.0F}, {1.0, 6.2831855F}, {1.0, -12.566371F}}) {
         FarZoneRotation rotation;
         rotation.set(1, 0, 0, 1);

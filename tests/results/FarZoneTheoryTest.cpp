@@ -1,5 +1,5 @@
-// Far fields of sources that are known in closed form, from their near fields on the box: pattern, absolute level and
-// phase. Only the size of the cells keeps the two apart.
+// Compares far fields computed from the near fields of sources on the box with the closed form: pattern, absolute level
+// and phase. They differ only by the discretization.
 
 #include <gmock/gmock.h>
 
@@ -27,7 +27,8 @@ Grid evenGrid(float size, float length) {
     return grid;
 }
 
-// Fine in the middle and coarse outside, more so towards higher coordinates: the box's centre is not midway.
+// Fine cells in the middle and coarser ones outside, more so towards higher coordinates, so that the centre of the box
+// is not in its middle.
 Grid gradedGrid(float size, float length) {
     const auto cells = static_cast<std::int32_t>(std::lround(length / size));
     const Grid::Runs runs{{0, 1.5F * size}, {cells / 4, size}, {cells / 2, 2 * size}};
@@ -37,7 +38,7 @@ Grid gradedGrid(float size, float length) {
     return grid;
 }
 
-// From the middle of the grid.
+// The position relative to the middle of the grid.
 Vector at(const ExactRun& run, double x, double y, double z) {
     double low[3], high[3];
     run.grid().getUserBoundingBox(low[0], high[0], low[1], high[1], low[2], high[2]);
@@ -81,7 +82,7 @@ struct SourceRow {
 
 void PrintTo(const SourceRow& row, std::ostream* out) { *out << row.name; }
 
-class FarFieldOf : public testing::TestWithParam<SourceRow> {
+class FarFieldOfSource : public testing::TestWithParam<SourceRow> {
 protected:
     double deviationForCells(float size) const {
         const ExactRun run(GetParam().grid(size, 1.6F), openBoundaries());
@@ -89,12 +90,12 @@ protected:
     }
 };
 
-// What the middle of a cell has more than the mean over the cell, for a wave along the face: 1 - sin(a) / a of half the
-// phase across it.
+// The excess of the field in the middle of a cell over its mean, for a wave along the face: 1 - sin(a) / a, where a is
+// half the phase across the cell.
 double boundForCells(double size) { return std::pow(waveNumber * size, 2) / 24.0; }
 
-// Half the size leaves a quarter of the deviation.
-TEST_P(FarFieldOf, meets_the_closed_form_the_better_the_finer_the_cells) {
+// Halving the cell size divides the deviation by four.
+TEST_P(FarFieldOfSource, ConvergesToTheClosedFormWithFinerCells) {
     const double largestRatio = GetParam().grid == gradedGrid ? 2.0 : 1.0;
     const double coarse = deviationForCells(0.05F);
     EXPECT_LT(coarse, boundForCells(largestRatio * 0.05));
@@ -131,28 +132,28 @@ std::unique_ptr<reference::Source> obliqueWire(const ExactRun& run) {
 }
 
 const SourceRow sourceRows[] = {
-    {"an_electric_dipole_along_x", evenGrid, centred<ElectricDipole, 0>},
-    {"an_electric_dipole_along_y", evenGrid, centred<ElectricDipole, 1>},
-    {"an_electric_dipole_along_z", evenGrid, centred<ElectricDipole, 2>},
-    {"a_small_loop_around_x", evenGrid, centred<MagneticDipole, 0>},
-    {"a_small_loop_around_z", evenGrid, centred<MagneticDipole, 2>},
-    {"an_electric_dipole_off_centre", evenGrid, offCentre},
-    {"an_electric_dipole_off_centre_on_graded_cells", gradedGrid, offCentre},
-    {"a_half_wave_dipole", evenGrid, halfWave},
-    {"an_oblique_wire", evenGrid, obliqueWire},
-    {"a_phased_array", evenGrid, phasedArray},
-    {"a_phased_array_on_graded_cells", gradedGrid, phasedArray},
+    {"AnElectricDipoleAlongX", evenGrid, centred<ElectricDipole, 0>},
+    {"AnElectricDipoleAlongY", evenGrid, centred<ElectricDipole, 1>},
+    {"AnElectricDipoleAlongZ", evenGrid, centred<ElectricDipole, 2>},
+    {"ASmallLoopAroundX", evenGrid, centred<MagneticDipole, 0>},
+    {"ASmallLoopAroundZ", evenGrid, centred<MagneticDipole, 2>},
+    {"AnElectricDipoleOffCentre", evenGrid, offCentre},
+    {"AnElectricDipoleOffCentreOnGradedCells", gradedGrid, offCentre},
+    {"AHalfWaveDipole", evenGrid, halfWave},
+    {"AnObliqueWire", evenGrid, obliqueWire},
+    {"APhasedArray", evenGrid, phasedArray},
+    {"APhasedArrayOnGradedCells", gradedGrid, phasedArray},
 };
-INSTANTIATE_TEST_SUITE_P(, FarFieldOf, testing::ValuesIn(sourceRows), rowName<SourceRow>);
+INSTANTIATE_TEST_SUITE_P(, FarFieldOfSource, testing::ValuesIn(sourceRows), rowName<SourceRow>);
 
-// Image theory: the plane mirrors an electric dipole with its part along the plane reversed, a magnetic one with its
-// part across the plane reversed.
+// Image theory: the image of an electric dipole has its component along the plane reversed, that of a magnetic dipole
+// its component across the plane.
 class FarFieldOverPlane : public testing::TestWithParam<FarZoneBox::Face> {
 protected:
     std::size_t axis = GetParam() % 3;
     double upwards = GetParam() < FarZoneBox::XUpper ? 1.0 : -1.0;
 
-    /// Where the plane stands comes from the run; the source is at a height above it.
+    /// The run determines the position of the plane; the source is at a height above it.
     template <class Dipole>
     void addOverPlane(Sources& sources, const ExactRun& run, const ComplexVector& moment) const {
         const double acrossSign = std::is_same_v<Dipole, ElectricDipole> ? 1.0 : -1.0;
@@ -181,7 +182,7 @@ protected:
     }
 };
 
-TEST_P(FarFieldOverPlane, follows_image_theory_and_is_zero_below) {
+TEST_P(FarFieldOverPlane, FollowsImageTheoryAndIsZeroBelow) {
     const double bound = boundForCells(0.05);
     EXPECT_LT(deviationOf<ElectricDipole>(along(axis)), bound) << "across the plane";
     EXPECT_LT(deviationOf<ElectricDipole>(along((axis + 1) % 3)), bound) << "along the plane";
@@ -194,7 +195,7 @@ INSTANTIATE_TEST_SUITE_P(, FarFieldOverPlane,
                          testing::Values(FarZoneBox::XLower, FarZoneBox::YLower, FarZoneBox::ZLower, FarZoneBox::XUpper,
                                          FarZoneBox::YUpper, FarZoneBox::ZUpper));
 
-TEST(FarField, carries_the_power_that_flows_through_the_box) {
+TEST(FarField, CarriesThePowerThatFlowsThroughTheBox) {
     const ExactRun run(evenGrid(0.05F, 1.6F), openBoundaries());
     const auto source = phasedArray(run);
     const FieldsOnSSFarZoneBox fields = run.fieldsOf(*source, frequency);

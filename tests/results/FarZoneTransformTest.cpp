@@ -1,4 +1,4 @@
-// The two ways of summing over the faces of a box against the sum over single cells.
+// Compares the two methods of summing over the faces of a box with the sum over single cells.
 
 #include "results/FarZoneTransform.h"
 
@@ -51,15 +51,15 @@ struct Shape {
 void PrintTo(const Shape& shape, std::ostream* out) { *out << shape.name; }
 
 const Shape shapes[] = {
-    {"even_cells", {even(30, 0.05), even(24, 0.05), even(20, 0.05)}, {-0.75, -0.6, -0.5}},
-    {"graded_cells_off_centre", {graded(40, 0.01, 0.1), graded(31, 0.1, 0.02), even(20, 0.07)}, {-0.3, -2, 0.1}},
-    {"a_very_small_box", {even(9, 1e-6), graded(8, 1e-6, 3e-6), even(10, 1e-6)}, {-4e-6, -6e-6, -5e-6}},
-    {"a_large_box", {even(100, 0.1), graded(90, 0.02, 0.2), even(80, 0.1)}, {-5, -4.5, -4}},
-    {"cells_larger_than_a_wavelength", {even(8, 1.7), graded(7, 0.4, 2.3), even(9, 1.2)}, {-7, -5, -5}},
-    {"one_cell", {even(1, 0.8), even(1, 1.3), even(1, 0.2)}, {-0.4, -0.6, -0.1}},
-    {"a_plate", {even(40, 0.1), even(50, 0.1), even(1, 0.01)}, {-2, -2.5, 0}},
-    {"cells_of_no_size", {even(12, 0.0), even(12, 0.1), even(12, 0.1)}, {0, -0.6, -0.6}},
-    {"no_cells_along_one_axis", {even(14, 0.1), Sizes(), even(16, 0.1)}, {-0.7, 0, -0.8}},
+    {"EvenCells", {even(30, 0.05), even(24, 0.05), even(20, 0.05)}, {-0.75, -0.6, -0.5}},
+    {"GradedCellsOffCentre", {graded(40, 0.01, 0.1), graded(31, 0.1, 0.02), even(20, 0.07)}, {-0.3, -2, 0.1}},
+    {"AVerySmallBox", {even(9, 1e-6), graded(8, 1e-6, 3e-6), even(10, 1e-6)}, {-4e-6, -6e-6, -5e-6}},
+    {"ALargeBox", {even(100, 0.1), graded(90, 0.02, 0.2), even(80, 0.1)}, {-5, -4.5, -4}},
+    {"CellsLargerThanAWavelength", {even(8, 1.7), graded(7, 0.4, 2.3), even(9, 1.2)}, {-7, -5, -5}},
+    {"OneCell", {even(1, 0.8), even(1, 1.3), even(1, 0.2)}, {-0.4, -0.6, -0.1}},
+    {"APlate", {even(40, 0.1), even(50, 0.1), even(1, 0.01)}, {-2, -2.5, 0}},
+    {"CellsOfNoSize", {even(12, 0.0), even(12, 0.1), even(12, 0.1)}, {0, -0.6, -0.6}},
+    {"NoCellsAlongOneAxis", {even(14, 0.1), Sizes(), even(16, 0.1)}, {-0.7, 0, -0.8}},
 };
 
 std::vector<Direction> randomDirections(std::size_t count) {
@@ -92,9 +92,9 @@ protected:
     }
 };
 
-TEST_P(FarZoneSums, are_exact_when_summed_directly) { EXPECT_LT(deviation(farzone::DirectSum(surface, twoPi)), 1e-12); }
+TEST_P(FarZoneSums, AreExactWhenSummedDirectly) { EXPECT_LT(deviation(farzone::DirectSum(surface, twoPi)), 1e-12); }
 
-TEST_P(FarZoneSums, are_within_the_error_bound_when_sampled) {
+TEST_P(FarZoneSums, AreWithinTheErrorBoundWhenSampled) {
     EXPECT_LT(deviation(farzone::Spectrum(surface, twoPi)), 2e-9);
 }
 
@@ -108,8 +108,8 @@ std::vector<FarField> fieldsBy(Method method, const Surface& surface, const std:
     return fields;
 }
 
-// The plane stands off the centre, so that the image's path counts; fields are of the order of 1000 V.
-TEST(FarZoneTransform, gives_the_same_image_by_both_methods) {
+// The plane lies off the centre, so that the path of the image matters; fields are of the order of 1000 V.
+TEST(FarZoneTransform, GivesTheSameImageByBothMethods) {
     const SampledBox box(shapes[1].sizes, shapes[1].corner, twoPi);
     const std::vector<Direction> directions = randomDirections(100);
     for (std::size_t axis = 0; axis < farzone::numAxes; ++axis) {
@@ -126,7 +126,7 @@ TEST(FarZoneTransform, gives_the_same_image_by_both_methods) {
     }
 }
 
-TEST(FarZoneTransform, keeps_what_is_not_a_number_to_its_direction) {
+TEST(FarZoneTransform, NaNDirectionsDoNotAffectOthers) {
     const SampledBox box(shapes[0].sizes, shapes[0].corner, twoPi);
     const Surface surface = box.as<Surface>();
     const double nan = std::numeric_limits<double>::quiet_NaN();
@@ -152,28 +152,28 @@ void PrintTo(const Choice& choice, std::ostream* out) { *out << choice.name; }
 
 class FarZoneMethod : public testing::TestWithParam<Choice> {};
 
-TEST_P(FarZoneMethod, is_the_faster_one) {
+TEST_P(FarZoneMethod, IsTheFasterOne) {
     const SampledBox box({even(60, 0.05), even(60, 0.05), even(60, 0.05)}, {-1.5, -1.5, -1.5}, twoPi);
     EXPECT_EQ(farzone::fasterMethod(box.as<Surface>(), GetParam().waveNumber, GetParam().directions),
               GetParam().expected);
 }
 
 const Choice choices[] = {
-    {"none", twoPi, 0, Method::Direct},
-    {"one_direction", twoPi, 1, Method::Direct},
-    {"a_few_directions", twoPi, 10, Method::Direct},
-    {"a_cut", twoPi, 360, Method::Sampled},
-    {"a_sphere", twoPi, 65160, Method::Sampled},
-    {"a_sphere_at_frequency_zero", 0, 65160, Method::Direct},
-    {"a_sphere_at_a_negative_frequency", -twoPi, 65160, Method::Direct},
-    {"a_sphere_at_a_frequency_that_is_none", std::numeric_limits<double>::quiet_NaN(), 65160, Method::Direct},
-    {"a_sphere_at_an_infinite_frequency", std::numeric_limits<double>::infinity(), 65160, Method::Direct},
-    {"a_fine_sphere_at_a_frequency_that_needs_too_many_samples", 1000 * twoPi, 1U << 30, Method::Direct},
+    {"NoDirections", twoPi, 0, Method::Direct},
+    {"OneDirection", twoPi, 1, Method::Direct},
+    {"AFewDirections", twoPi, 10, Method::Direct},
+    {"ACut", twoPi, 360, Method::Sampled},
+    {"ASphere", twoPi, 65160, Method::Sampled},
+    {"ASphereAtFrequencyZero", 0, 65160, Method::Direct},
+    {"ASphereAtANegativeFrequency", -twoPi, 65160, Method::Direct},
+    {"ASphereAtANaNFrequency", std::numeric_limits<double>::quiet_NaN(), 65160, Method::Direct},
+    {"ASphereAtAnInfiniteFrequency", std::numeric_limits<double>::infinity(), 65160, Method::Direct},
+    {"AFineSphereAtAFrequencyThatNeedsTooManySamples", 1000 * twoPi, 1U << 30, Method::Direct},
 };
 INSTANTIATE_TEST_SUITE_P(, FarZoneMethod, testing::ValuesIn(choices), rowName<Choice>);
 
-// A place or a size that is no number makes fields that are none, by whatever way.
-TEST(FarZoneTransform, does_not_sample_cells_that_are_nowhere) {
+// A NaN position or size gives NaN fields with either method.
+TEST(FarZoneTransform, DoesNotSampleCellsWithoutAFinitePlace) {
     const SampledBox box(shapes[0].sizes, shapes[0].corner, twoPi);
     Surface surface = box.as<Surface>();
     surface.axes[1].middles[3] = std::numeric_limits<double>::quiet_NaN();

@@ -1,5 +1,5 @@
-// Writers of every format on a disk that is full and in folders that are not there, closed, or do not let a file be
-// replaced: each says that it failed, and those that choose how to write leave an earlier file as it was.
+// Writers of every format on a full disk and in folders that are missing, closed or do not allow a file to be replaced:
+// each reports the failure, and those that use a FileReplacement leave an earlier file unchanged.
 
 #include <gtest/gtest.h>
 
@@ -55,7 +55,7 @@ bool writesSarPlane(const QString& path) {
     return writer.endResultWriting() && isWritten;
 }
 
-// Made before anything stands in the way, where everybody can read it.
+// Created before any fault is active, and readable by everybody.
 const QString& sarPart() {
     static const ResultFolder folder;
     static const QString path = folder.path("part");
@@ -100,18 +100,18 @@ struct Writer {
 void PrintTo(const Writer& writer, std::ostream* out) { *out << writer.name; }
 
 const Writer writers[] = {
-    {"project", writesProject},
-    {"geometry", writesGeometry},
-    {"sar_plane", writesSarPlane},
-    {"records", writesRecords},
-    {"near_zone_point", writesNearZonePoint},
-    {"multi_point_set", writesMultiPointSet},
+    {"Project", writesProject},
+    {"Geometry", writesGeometry},
+    {"SarPlane", writesSarPlane},
+    {"Records", writesRecords},
+    {"NearZonePoint", writesNearZonePoint},
+    {"MultiPointSet", writesMultiPointSet},
 };
 
-// Those that choose how to write.
+// Writers that use a FileReplacement.
 const Writer replacingWriters[] = {
-    {"vias", writesVias},
-    {"sar_combination", combinesSarPlanes},
+    {"Vias", writesVias},
+    {"SarCombination", combinesSarPlanes},
 };
 
 class FailingWriter : public testing::TestWithParam<Writer> {
@@ -150,23 +150,23 @@ protected:
 
 class ReplacingWriter : public FailingWriter {};
 
-TEST_P(FailingWriter, with_nothing_in_its_way_writes) { EXPECT_TRUE(writes("out")); }
+TEST_P(FailingWriter, WritesWithoutAFault) { EXPECT_TRUE(writes("out")); }
 
-TEST_P(FailingWriter, without_a_folder_reports_it) { EXPECT_FALSE(writes("no/such/folder/out")); }
+TEST_P(FailingWriter, ReportsAMissingFolder) { EXPECT_FALSE(writes("no/such/folder/out")); }
 
-TEST_P(FailingWriter, on_a_full_disk_reports_it) {
+TEST_P(FailingWriter, ReportsAFullDisk) {
     EXPECT_FALSE(writesWith<FullDisk>("out"));
     for (const char* file : {"device", "device_info.bin"}) QFile::link("/dev/full", m_folder.path(file));
     EXPECT_FALSE(writes("device"));
 }
 
-TEST_P(FailingWriter, in_a_closed_folder_reports_it) {
+TEST_P(FailingWriter, ReportsAClosedFolder) {
     putEarlier("closed", 0555);
     EXPECT_FALSE(writesWith<WithoutPrivileges>("closed/new"));
     setPermissions("closed", 0755);
 }
 
-TEST_P(ReplacingWriter, keeps_an_earlier_file_that_it_has_no_room_or_no_permission_to_replace) {
+TEST_P(ReplacingWriter, KeepsAnEarlierFileWithoutSpaceOrPermission) {
     putEarlier("open", 0777);
     EXPECT_FALSE(writesWith<FullDisk>("open/out"));
     setPermissions("open/out", 0640);
@@ -176,12 +176,12 @@ TEST_P(ReplacingWriter, keeps_an_earlier_file_that_it_has_no_room_or_no_permissi
     QFile::link(m_folder.path("elsewhere"), m_folder.path("open/out.new0"));
     m_folder.put("open/out.new1", "somebody's");
     EXPECT_TRUE(writes("open/out"));
-    EXPECT_FALSE(m_folder.has("elsewhere")) << "nor is anything written through what is planted";
+    EXPECT_FALSE(m_folder.has("elsewhere")) << "a symbolic link at the temporary name must not be followed";
     EXPECT_EQ(m_folder.bytes("open/out.new1"), "somebody's");
     EXPECT_EQ(QFile::permissions(m_folder.path("open/out")) & 0xFFF, 0x640);
 }
 
-TEST_P(ReplacingWriter, writes_into_a_file_that_cannot_be_replaced) {
+TEST_P(ReplacingWriter, WritesIntoAFileThatCannotBeReplaced) {
     putEarlier("linked", 0755);
     putEarlier("closed", 0555);
     putEarlier("everybody", 01777);  // only its owner can rename over a file here
@@ -201,7 +201,7 @@ TEST_P(ReplacingWriter, writes_into_a_file_that_cannot_be_replaced) {
               "2 outoutoutorigin out");
 }
 
-TEST_P(ReplacingWriter, takes_names_as_long_as_can_be_and_follows_links_to_their_end) {
+TEST_P(ReplacingWriter, AcceptsTheLongestNamesAndFollowsLinks) {
     const QByteArray longest(NAME_MAX, 'n');
     const QByteArray longPath = longest.left(259 - m_folder.path("x").size());
     ASSERT_TRUE(QFile::link("loop", m_folder.path("loop")) && QFile::link(longPath + 'n', m_folder.path("link")));
@@ -218,7 +218,7 @@ INSTANTIATE_TEST_SUITE_P(, FailingWriter, testing::ValuesIn(writers), rowName<Wr
 INSTANTIATE_TEST_SUITE_P(Replacing, FailingWriter, testing::ValuesIn(replacingWriters), rowName<Writer>);
 INSTANTIATE_TEST_SUITE_P(, ReplacingWriter, testing::ValuesIn(replacingWriters), rowName<Writer>);
 
-TEST(WriterOfASet, whose_folder_vanishes_reports_it_at_the_next_file) {
+TEST(MultiPointSetWriter, ReportsAVanishedFolderAtTheNextFile) {
     const ResultFolder folder;
     MultiPointResultWriter writer(true, false, false, false, false, false, false, false, false, false, false);
     ASSERT_TRUE(writer.beginResultWriting(folder.path("set"), GridIndexBoxes(std::vector<ivec3>{{1, 2, 3}})));
@@ -227,13 +227,13 @@ TEST(WriterOfASet, whose_folder_vanishes_reports_it_at_the_next_file) {
     EXPECT_FALSE(writer.beginTransientScatteredE());
 }
 
-TEST(WriterOfASet, reports_it_when_the_disk_fills_up) {
+TEST(MultiPointSetWriter, ReportsAFullDisk) {
     const ResultFolder folder;
     MultiPointResultWriter writer(false, true, false, false, false, false, false, false, true, false, false);
     ASSERT_TRUE(writer.beginResultWriting(folder.path("set"), GridIndexBoxes(std::vector<ivec3>{{1, 2, 3}})));
     std::vector<bool> done;
     {
-        const FullDisk disk;  // with room for two times and two frequencies
+        const FullDisk disk;  // large enough for two times and two frequencies
         done = {writer.beginTimestep(1), writer.beginTimestep(2), writer.beginTransientTotalE()};
         for (int i = 0; i < 3; ++i) writer.writeTransient(1, 2, 3);
         done.push_back(writer.endTransient());
@@ -246,23 +246,23 @@ TEST(WriterOfASet, reports_it_when_the_disk_fills_up) {
         writer.endTimestep();
     }
     EXPECT_TRUE(writer.beginResultWriting(folder.path("next"), GridIndexBoxes(std::vector<ivec3>{{1, 2, 3}})))
-        << "what the set before lost is no failure of this one";
-    EXPECT_TRUE(writer.beginTimestep(1) && writer.beginTransientTotalE()) << "nor of its first group";
+        << "data lost from the previous set must not fail this one";
+    EXPECT_TRUE(writer.beginTimestep(1) && writer.beginTransientTotalE()) << "or its first group";
     SarResultWriter plane;
     ASSERT_TRUE(plane.beginResultWriting(folder.path("lost"), SARPlane::XY, 0, 1));
-    EXPECT_TRUE((FullDisk(), plane.beginResultWriting(folder.path("plane"), SARPlane::XY, 0, 1))) << "nor of a plane";
+    EXPECT_TRUE((FullDisk(), plane.beginResultWriting(folder.path("plane"), SARPlane::XY, 0, 1))) << "or a plane";
     EXPECT_EQ(done, (std::vector<bool>{true, true, true, false, false, true, true, false, true, false, true}));
 }
 
-// Into a file with two links the content has to be copied.
-TEST(FileReplacement, copies_only_what_there_is_room_for) {
+// A file with two hard links is not replaced: the content is copied into it.
+TEST(FileReplacement, CopiesOnlyWhatFitsOnTheDisk) {
     const ResultFolder folder;
     const QString target = folder.put("out", "earlier");
     ASSERT_TRUE(folder.linkHard("out", "link") && QFile::setPermissions(target, QFile::Permissions(0x600)));
     for (const QByteArray& content : {QByteArray(200000, 'n'), QByteArray("new")}) {
         FileReplacement replacement(target);
         folder.put("out.new0", content);
-        EXPECT_EQ(QFile::permissions(replacement.path()) & 0xFF, 0) << "as of the earlier file";
+        EXPECT_EQ(QFile::permissions(replacement.path()) & 0xFF, 0) << "the permissions of the earlier file";
         const auto takePlace = [&](rlim_t room) { return FullDisk(room), replacement.takePlace(); };
         EXPECT_EQ(takePlace(100000), content == "new");
         EXPECT_EQ(folder.bytes("link"), content == "new" ? content : "earlier");

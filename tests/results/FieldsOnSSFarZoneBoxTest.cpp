@@ -24,7 +24,7 @@ Grid smallGrid() {
     return grid;
 }
 
-/// Each number of the file is its own index among the numbers.
+/// Each number of the file is its own index.
 QByteArray boxFile(int records) {
     QByteArray bytes("!tavrixfdtdL\x08\0\0\0", headerSize);
     for (int i = 0; i < 8 * records; ++i) {
@@ -45,7 +45,7 @@ struct Loaded {
     explicit Loaded(const QByteArray& bytes) : path(folder.put("box", bytes)), fields(grid, path, box, problem) {}
 };
 
-TEST(FieldsOnSSFarZoneBox, takes_the_faces_and_their_cells_in_order_and_ignores_what_follows) {
+TEST(FieldsOnSSFarZoneBox, ReadsFacesAndCellsInOrderAndIgnoresTheRest) {
     const Loaded loaded(boxFile(numRecords) + "more");
     const FieldsOnSSFarZoneBox& f = loaded.fields;
     EXPECT_EQ(loaded.problem, QString());
@@ -71,8 +71,9 @@ TEST(FieldsOnSSFarZoneBox, takes_the_faces_and_their_cells_in_order_and_ignores_
     EXPECT_EQ(record, numRecords);
 }
 
-// Nodes along x stand at 2, 2.5, 3, 3.5, 4, 5, ... 10 from the lower to the upper face; the centre is half of node 18.
-TEST(FieldsOnSSFarZoneBox, measures_cells_and_faces_from_the_centre_of_the_box) {
+// The nodes along x are at 2, 2.5, 3, 3.5, 4, 5, ... 10 from the lower to the upper face; the centre is half of node
+// 18.
+TEST(FieldsOnSSFarZoneBox, MeasuresCellsAndFacesFromTheCentreOfTheBox) {
     const Loaded loaded(boxFile(numRecords));
     const FieldsOnSSFarZoneBox& f = loaded.fields;
     EXPECT_EQ(std::make_tuple(f.getNumberInX(), f.getNumberInY(), f.getNumberInZ()), std::make_tuple(10U, 8U, 6U));
@@ -101,9 +102,9 @@ struct BadFile {
 
 void PrintTo(const BadFile& row, std::ostream* out) { *out << row.name; }
 
-class BadBoxFile : public testing::TestWithParam<BadFile> {};
+class InvalidBoxFile : public testing::TestWithParam<BadFile> {};
 
-TEST_P(BadBoxFile, is_named_in_the_message) {
+TEST_P(InvalidBoxFile, IsNamedInTheMessage) {
     const Loaded loaded(GetParam().bytes);
     EXPECT_EQ(loaded.problem, GetParam().message + loaded.path);
     EXPECT_FALSE(loaded.fields.isComplete());
@@ -122,18 +123,18 @@ QByteArray withByte(int offset, char byte) {
 constexpr const char* unsupported = "Unsupported file format for far zone box data in ";
 constexpr const char* tooShort = "Unexpected end of far zone box data in ";
 const BadFile badFiles[] = {
-    {"without_content", "", unsupported, 0},
-    {"with_another_magic", withByte(0, '?'), unsupported, 0},
-    {"of_another_type", withByte(12, 13), unsupported, 0},
-    {"of_version_1", withByte(14, 1), unsupported, 0},
-    {"with_a_header_only", boxFile(0), tooShort, 0},
-    {"that_ends_within_the_first_face", boxFile(7), tooShort, 7},
-    {"that_lacks_a_record", boxFile(numRecords - 1), tooShort, 48},
-    {"that_lacks_a_byte", boxFile(numRecords).chopped(1), tooShort, 48},
+    {"EmptyFile", "", unsupported, 0},
+    {"OtherMagic", withByte(0, '?'), unsupported, 0},
+    {"OtherType", withByte(12, 13), unsupported, 0},
+    {"Version1", withByte(14, 1), unsupported, 0},
+    {"HeaderOnly", boxFile(0), tooShort, 0},
+    {"TruncatedInTheFirstFace", boxFile(7), tooShort, 7},
+    {"OneRecordShort", boxFile(numRecords - 1), tooShort, 48},
+    {"OneByteShort", boxFile(numRecords).chopped(1), tooShort, 48},
 };
-INSTANTIATE_TEST_SUITE_P(, BadBoxFile, testing::ValuesIn(badFiles), rowName<BadFile>);
+INSTANTIATE_TEST_SUITE_P(, InvalidBoxFile, testing::ValuesIn(badFiles), rowName<BadFile>);
 
-TEST(FieldsOnSSFarZoneBox, says_when_there_is_no_file) {
+TEST(FieldsOnSSFarZoneBox, ReportsAMissingFile) {
     const Grid grid = smallGrid();
     QString problem;
     const FieldsOnSSFarZoneBox fields(grid, "no/such/file", {openBoundaries(), grid}, problem);
@@ -141,7 +142,7 @@ TEST(FieldsOnSSFarZoneBox, says_when_there_is_no_file) {
     EXPECT_EQ(fields.getXDistanceToX(), 5.0);
 }
 
-TEST(FieldsOnSSFarZoneBox, says_when_the_box_does_not_lie_in_the_grid) {
+TEST(FieldsOnSSFarZoneBox, ReportsABoxOutsideTheGrid) {
     const ResultFolder folder;
     const QString path = folder.put("box", boxFile(numRecords));
     const FarZoneBox box(openBoundaries(), smallGrid());
@@ -156,7 +157,7 @@ TEST(FieldsOnSSFarZoneBox, says_when_the_box_does_not_lie_in_the_grid) {
 }
 
 // A face of 2^40 cells.
-TEST(FieldsOnSSFarZoneBox, says_when_memory_cannot_be_had) {
+TEST(FieldsOnSSFarZoneBox, ReportsInsufficientMemory) {
     Grid grid;
     ASSERT_TRUE(grid.initialize(12, 1U << 20, 1U << 20, 0, 0, 0, {{0, 1}}, {{0, 1}}, {{0, 1}}, true));
     const ResultFolder folder;
@@ -183,7 +184,7 @@ void expectEmpty(const FieldsOnSSFarZoneBox& fields) {
     EXPECT_FALSE(PostProcessSSFarZoneFields(&fields, 1e8F, 0, 0).computeFields({{1, 2}}, records));
 }
 
-TEST(FieldsOnSSFarZoneBox, is_copied_whole_and_moved_whole_leaving_nothing) {
+TEST(FieldsOnSSFarZoneBox, CopiesCompletelyAndMovesLeavingNothing) {
     auto loaded = std::make_unique<Loaded>(boxFile(numRecords));
     const FieldsOnSSFarZoneBox copy = loaded->fields;
     FieldsOnSSFarZoneBox moved = std::move(loaded->fields);
@@ -198,7 +199,7 @@ TEST(FieldsOnSSFarZoneBox, is_copied_whole_and_moved_whole_leaving_nothing) {
     for (const auto& fields : {copy, assigned, moved}) expectWhole(fields);
 }
 
-TEST(FieldsOnSSFarZoneBox, has_image_fields_where_the_plane_is_that_of_the_grid) {
+TEST(FieldsOnSSFarZoneBox, HasImageFieldsWhenThePlaneMatchesTheGrid) {
     Grid grid, other;
     ASSERT_TRUE(grid.initialize(11, 11, 11, 0, 0, 0, {{0, 1}}, {{0, 1}}, {{0, 1}}, true));
     ASSERT_TRUE(other.initialize(11, 11, 11, 0, 0, 0.25F, {{0, 1}}, {{0, 1}}, {{0, 1}}, true));

@@ -1,4 +1,4 @@
-// Files that become shorter while they are read, and readers for whose results there is no memory.
+// Files that are truncated while they are read, and readers without enough memory for their results.
 
 #include <gtest/gtest.h>
 
@@ -16,8 +16,8 @@ namespace {
 
 std::size_t largestAllocation = SIZE_MAX;
 
-/// As long as it lives there is no memory for anything large.
-class LittleMemory {
+/// Makes large allocations fail as long as it lives.
+class LowMemory {
 public:
     LittleMemory() { largestAllocation = 1 << 16; }
     ~LittleMemory() { largestAllocation = SIZE_MAX; }
@@ -45,7 +45,9 @@ struct Reading {
     const char* name;
     QByteArray header;
     int recordSize;
-    int (*read)(const QString& path, const std::function<void()>& cut);  // the records there are once one is read
+    int (*read)(
+        const QString& path,
+        const std::function<void()>& cut);  // returns the number of records read when the file is cut after the first
 };
 
 void PrintTo(const Reading& row, std::ostream* out) { *out << row.name; }
@@ -73,13 +75,13 @@ int readNearZonePoint(const QString& path, const std::function<void()>& cut) {
 }
 
 const Reading readings[] = {
-    {"block_of_records", "", 24, readBlock},
-    {"near_zone_point", QByteArray("Rnzp\0xxxxyyyyzzzz\0\2", 19), 16, readNearZonePoint},
+    {"BlockOfRecords", "", 24, readBlock},
+    {"NearZonePoint", QByteArray("Rnzp\0xxxxyyyyzzzz\0\2", 19), 16, readNearZonePoint},
 };
 
-class CutWhileRead : public testing::TestWithParam<Reading> {};
+class FileTruncatedWhileRead : public testing::TestWithParam<Reading> {};
 
-TEST_P(CutWhileRead, gives_the_whole_records_that_are_left) {
+TEST_P(FileTruncatedWhileRead, GivesTheCompleteRecordsThatAreLeft) {
     const auto& [name, header, recordSize, read] = GetParam();
     const ResultFolder folder;
     const QString path = folder.put("file", header + QByteArray(numRecords * recordSize, '\1'));
@@ -87,9 +89,9 @@ TEST_P(CutWhileRead, gives_the_whole_records_that_are_left) {
     EXPECT_EQ(read(path, [&] { EXPECT_TRUE(QFile::resize(path, left)); }), numLeft);
 }
 
-INSTANTIATE_TEST_SUITE_P(, CutWhileRead, testing::ValuesIn(readings), rowName<Reading>);
+INSTANTIATE_TEST_SUITE_P(, FileTruncatedWhileRead, testing::ValuesIn(readings), rowName<Reading>);
 
-TEST(LittleMemory, makes_block_readers_fail_with_nothing) {
+TEST(LowMemory, MakesBlockReadersFailWithEmptyLists) {
     const ResultFolder folder;
     folder.put("b_info.bin", QByteArray("Rmpt\0\0\0\0\2\x10\x27\0\0", 13));  // 10 000 points
     folder.put("b_geom.bin", QByteArray(120000, '\1'));
@@ -104,17 +106,17 @@ TEST(LittleMemory, makes_block_readers_fail_with_nothing) {
     std::vector<FarZoneSSFieldFile::Record> block(1);
     bool anySucceeded = false;
     {
-        const LittleMemory littleMemory;
+        const LowMemory littleMemory;
         anySucceeded = set.readGeometry(points) || set.readTimesteps(times) ||
                        set.readTransientBlock(MultiPointResultReader::Y, values) ||
                        FarZoneSSFieldFile::readRecords(records, 5000, block);
     }
     EXPECT_FALSE(anySucceeded);
     EXPECT_EQ(points.size() + times.size() + values.size() + block.size(), 0u);
-    EXPECT_TRUE(set.readGeometry(points)) << "with memory again";
+    EXPECT_TRUE(set.readGeometry(points)) << "with enough memory again";
 }
 
-TEST(LittleMemory, makes_the_fields_of_a_box_incomplete) {
+TEST(LowMemory, MakesTheFieldsOfABoxIncomplete) {
     constexpr auto open = BoundaryConditions::CPML;
     const ResultFolder folder;
     const Grid::Runs runs{{0, 0.01F}};
@@ -124,7 +126,7 @@ TEST(LittleMemory, makes_the_fields_of_a_box_incomplete) {
     QString problem;
     bool isComplete = true;
     {
-        const LittleMemory littleMemory;
+        const LowMemory littleMemory;
         isComplete = FieldsOnSSFarZoneBox(grid, folder.path("none"), box, problem).isComplete();
     }
     EXPECT_FALSE(isComplete);

@@ -16,13 +16,13 @@ using Writer = MultiPointResultWriter;
 using Reader = MultiPointResultReader;
 using Floats = std::vector<float>;
 
-// 1, 2, 3 ... as they stand in files, and -1.
+// The bytes of the floats 1, 2, 3 ... in files, and of -1.
 constexpr const char* floats[] = {"0000803f", "00000040", "00004040", "00008040", "0000a040", "0000c040"};
 const QByteArray minusOne = "000080bf";
 
 const GridIndexBoxes twoPoints(std::vector<ivec3>{{4, 5, 6}, {1, -2, 3}});
 
-// For a single group, by its place among the arguments.
+// A writer for a single group, given by its position among the arguments.
 std::unique_ptr<Writer> writerOf(int group) {
     const auto is = [&](int index) { return index == group; };
     return std::make_unique<Writer>(is(0), is(1), is(2), is(3), is(4), is(5), is(6), is(7), is(8), is(9), is(10));
@@ -33,7 +33,7 @@ struct GroupRow {
     bool (Reader::*beginReading)();
     std::vector<bool (Reader::*)()> beginReadingOne;  // in the order of the suffixes below
     bool (MultiPointResult::*collects)() const;
-    const char* bits;      // as they stand in the info file
+    const char* bits;      // the bytes in the info file
     const char* fileName;  // %1 is for the suffix
 
     bool isSteady() const { return beginReadingOne.size() == 6; }
@@ -78,7 +78,7 @@ const std::vector<GroupRow> groupRows{
 #undef QUARN_STEADY
 
 struct MultiPoint : testing::Test {
-    // The components of the next point, or none.
+    // The components of the next point; empty when there is none.
     Floats next(const GroupRow& group) {
         float x = 0, y = 0, z = 0;
         std::complex<float> cx, cy, cz;
@@ -93,7 +93,7 @@ struct MultiPoint : testing::Test {
     Floats list;
 };
 
-TEST_F(MultiPoint, eachGroupHasItsBitAndItsFiles) {
+TEST_F(MultiPoint, EachGroupHasItsBitAndItsFiles) {
     for (std::size_t row = 0; row < groupRows.size(); ++row) {
         const GroupRow& group = groupRows[row];
         SCOPED_TRACE(group.fileName);
@@ -141,12 +141,13 @@ TEST_F(MultiPoint, eachGroupHasItsBitAndItsFiles) {
     }
 }
 
-TEST_F(MultiPoint, geometryIsInTheOrderOfTheIndexBoxes) {
+TEST_F(MultiPoint, GeometryIsInTheOrderOfTheIndexBoxes) {
     const auto writer = writerOf(0);
     ASSERT_TRUE(writer->beginResultWriting(base, twoPoints));
     EXPECT_EQ(folder.bytes("b_geom.bin").toHex(' '),
               "01 00 00 00 fe ff ff ff 03 00 00 00 04 00 00 00 05 00 00 00 06 00 00 00");
-    EXPECT_FALSE(writer->writeGeometry(GridIndexBoxes(std::vector<ivec3>{{1, 1, 1}}))) << "one point is not two";
+    EXPECT_FALSE(writer->writeGeometry(GridIndexBoxes(std::vector<ivec3>{{1, 1, 1}})))
+        << "the number of points differs";
     std::vector<ivec3> points{{9, 9, 9}};
     EXPECT_TRUE(reader.beginResultReading(base) && reader.readGeometry(points));
     EXPECT_EQ(points, (std::vector<ivec3>{{1, -2, 3}, {4, 5, 6}}));
@@ -156,13 +157,13 @@ TEST_F(MultiPoint, geometryIsInTheOrderOfTheIndexBoxes) {
     EXPECT_EQ(points.size(), 1U);
 }
 
-TEST_F(MultiPoint, timestepsAreListedAtOnceAndReplacedByARestart) {
+TEST_F(MultiPoint, TimestepsAreListedImmediatelyAndReplacedByARestart) {
     const auto writer = writerOf(1);
     ASSERT_TRUE(writer->beginResultWriting(base, twoPoints) && reader.beginResultReading(base));
     list = {7};
-    EXPECT_TRUE(reader.readTimesteps(list) && list.empty()) << "none yet";
+    EXPECT_TRUE(reader.readTimesteps(list) && list.empty()) << "no time steps yet";
     EXPECT_TRUE(writer->restartTimestep(1) && reader.readTimesteps(list));
-    EXPECT_EQ(list, Floats{1}) << "nothing to go back to";
+    EXPECT_EQ(list, Floats{1}) << "a restart before the first time step begins it";
     EXPECT_TRUE(writer->beginTimestep(2) && writer->beginTransientTotalE() && writer->writeTransient(1, 1, 1));
     EXPECT_TRUE(writer->restartTimestep(3) && writer->beginTransientTotalE() && writer->writeTransient(4, 5, 6));
     EXPECT_TRUE(writer->endTransient());
@@ -173,10 +174,10 @@ TEST_F(MultiPoint, timestepsAreListedAtOnceAndReplacedByARestart) {
     EXPECT_EQ(folder.names().filter("transient_Ex"), QStringList{"b_transient_Ex_total_ts1.bin"});
     EXPECT_EQ(folder.bytes("b_transient_Ex_total_ts1.bin").toHex(), floats[3]);
     EXPECT_TRUE(writer->endResultWriting());
-    EXPECT_FALSE(writer->beginTimestep(4) || writer->beginFrequency(1)) << "all is closed";
+    EXPECT_FALSE(writer->beginTimestep(4) || writer->beginFrequency(1)) << "all files are closed";
 }
 
-TEST_F(MultiPoint, frequenciesAtAnIndexAreDoubles) {
+TEST_F(MultiPoint, FrequenciesAtAnIndexAreDoubles) {
     const auto writer = writerOf(10);
     ASSERT_TRUE(writer->beginResultWriting(base, twoPoints));
     EXPECT_TRUE(writer->beginFrequencyAtIndex({1, -2}, 3) && writer->beginSteadyJ() && writer->endFrequency());
@@ -185,15 +186,15 @@ TEST_F(MultiPoint, frequenciesAtAnIndexAreDoubles) {
               "00000000000000c0");
     EXPECT_TRUE(folder.has("b_steady_Jzi_freq3.bin"));
     EXPECT_TRUE(reader.beginResultReading(base) && reader.readFrequencies(list));
-    EXPECT_EQ(list, (Floats{0, 1.875F, 0, -2})) << "read as floats, as the format has it";
+    EXPECT_EQ(list, (Floats{0, 1.875F, 0, -2})) << "the format reads them as floats";
 }
 
-TEST_F(MultiPoint, nothingMovesUnlessAllFilesOfAGroupAreOpen) {
+TEST_F(MultiPoint, NothingIsReadOrWrittenUnlessAllFilesOfAGroupAreOpen) {
     Writer writer(false, true, false, false, false, false, false, true, false, false, false);
     EXPECT_FALSE(writer.writeTransient(1, 2, 3) || writer.writeSteady({1, 2}, {3, 4}, {5, 6}) || writer.endSteady());
     ASSERT_TRUE(writer.beginResultWriting(base, twoPoints) && writer.beginTimestep(0) && writer.beginFrequency(1));
     ASSERT_TRUE(writer.beginTransientTotalE() && writer.writeTransient(1, 2, 3));
-    EXPECT_FALSE(writer.writeSteady({9, 9}, {9, 9}, {9, 9})) << "three files are not six";
+    EXPECT_FALSE(writer.writeSteady({9, 9}, {9, 9}, {9, 9})) << "only three of the six files are open";
     ASSERT_TRUE(writer.endTransient() && writer.beginSteadyTotalE() && writer.endSteady());
     EXPECT_FALSE(writer.beginSteadyJ());
 
@@ -203,7 +204,7 @@ TEST_F(MultiPoint, nothingMovesUnlessAllFilesOfAGroupAreOpen) {
     EXPECT_FALSE(reader.skipTransient(0) || reader.readTransientBlock(Reader::X, list));
     ASSERT_TRUE(reader.beginTransientTotalEx() && reader.beginTransientTotalEz());
     EXPECT_FALSE(reader.readTransient(x, y, z) || reader.readSteady(cx, cy, cz));
-    EXPECT_TRUE(reader.readTransientX(x)) << "nothing was read before";
+    EXPECT_TRUE(reader.readTransientX(x)) << "the failed reads must not have consumed x";
     EXPECT_EQ(std::tie(x, y, z), std::make_tuple(1.0F, 7.0F, 7.0F));
     EXPECT_TRUE(reader.beginTransientTotalEy());
     EXPECT_FALSE(reader.readTransient(x, y, z));
@@ -211,7 +212,7 @@ TEST_F(MultiPoint, nothingMovesUnlessAllFilesOfAGroupAreOpen) {
     EXPECT_FALSE((reader.beginTimestep(1) && reader.beginTransientTotalE()) || reader.beginSteadyTotalH());
 }
 
-TEST_F(MultiPoint, blocksHoldWhatIsThere) {
+TEST_F(MultiPoint, BlocksHoldTheValuesPresent) {
     const auto writer = writerOf(7);
     ASSERT_TRUE(writer->beginResultWriting(base, twoPoints) && writer->beginFrequency(1) &&
                 writer->beginSteadyTotalE());
@@ -224,10 +225,10 @@ TEST_F(MultiPoint, blocksHoldWhatIsThere) {
     EXPECT_TRUE(reader.readSteadyBlock(Reader::Xr, list, 1000000000000));
     EXPECT_EQ(list, Floats{4});
     EXPECT_TRUE(reader.readSteadyBlock(Reader::Xi, list));
-    EXPECT_EQ(list, (Floats{-1, -2, -3})) << "the fourth is not there as a whole";
+    EXPECT_EQ(list, (Floats{-1, -2, -3})) << "the fourth is incomplete";
     EXPECT_TRUE(reader.readSteadyBlock(Reader::Xi, list) && list.empty());
     folder.put("b_steady_Exi_total_freq0.bin", folder.bytes("b_steady_Exi_total_freq0.bin") + '\xC0');
-    EXPECT_TRUE(reader.readSteadyBlock(Reader::Xi, list) && list == Floats{-4}) << "now it is";
+    EXPECT_TRUE(reader.readSteadyBlock(Reader::Xi, list) && list == Floats{-4}) << "the fourth is complete now";
     EXPECT_TRUE(reader.beginSteadyTotalE() && reader.skipSteady(3) && reader.skipSteady(-1));
     float value = 0;
     EXPECT_TRUE(reader.readSteadyXi(value) && value == -3);
@@ -236,8 +237,8 @@ TEST_F(MultiPoint, blocksHoldWhatIsThere) {
     EXPECT_FALSE(reader.readSteadyXr(value));
 }
 
-// The engine has written all components but one, each in turn, which ends within its second value.
-TEST_F(MultiPoint, aReadThatFailsIsRepeatedOnceTheEngineHasGoneOn) {
+// The engine has written all components except for one, each in turn, which ends within its second value.
+TEST_F(MultiPoint, FailedReadSucceedsOnceTheEngineHasWrittenMore) {
     folder.put("b_info.bin", QByteArray::fromHex("526d707400 00000041 03000000"));
     ASSERT_TRUE(reader.beginResultReading(base) && reader.beginTimestep(0) && reader.beginFrequency(0));
     const QByteArray values = QByteArray::fromHex(QByteArray(floats[0]) + floats[1] + floats[2]);
@@ -258,19 +259,20 @@ TEST_F(MultiPoint, aReadThatFailsIsRepeatedOnceTheEngineHasGoneOn) {
     }
 }
 
-TEST_F(MultiPoint, refusedInfoFiles) {
+TEST_F(MultiPoint, RefusesInvalidInfoFiles) {
     const auto begins = [&](const char* hex) {
         folder.put("b_info.bin", QByteArray::fromHex(hex));
         return reader.beginResultReading(base);
     };
-    EXPECT_FALSE(reader.beginResultReading(base)) << "there is none";
+    EXPECT_FALSE(reader.beginResultReading(base)) << "the file is missing";
     EXPECT_TRUE(begins("526d707400 0000e0ff 02000000"));
     EXPECT_FALSE(begins("526d707400 01000040 03000000")) << "bit 0 is no group";
-    EXPECT_TRUE(reader.collectTransientTotalE() && !reader.collectTransientScatteredE()) << "decoded all the same";
-    EXPECT_FALSE(begins("526d707400 00001000 03000000")) << "nor is bit 20";
+    EXPECT_TRUE(reader.collectTransientTotalE() && !reader.collectTransientScatteredE())
+        << "the known groups are decoded";
+    EXPECT_FALSE(begins("526d707400 00001000 03000000")) << "bit 20 is no group";
     EXPECT_EQ(reader.getNumberOfPoints(), 2);
     EXPECT_FALSE(begins("526d707401 00000040 02000000"));
-    EXPECT_FALSE(reader.readTimesteps(list)) << "nothing is known of version 1";
+    EXPECT_FALSE(reader.readTimesteps(list)) << "version 1 is not supported";
     EXPECT_TRUE(MultiPointResult::supportsSerializationVersion(0) &&
                 !MultiPointResult::supportsSerializationVersion(1));
     Writer writer;
@@ -279,7 +281,7 @@ TEST_F(MultiPoint, refusedInfoFiles) {
     EXPECT_EQ(folder.names(), QStringList{"b_info.bin"});
 }
 
-TEST_F(MultiPoint, deletingTakesOneIndexMoreThanIsListed) {
+TEST_F(MultiPoint, DeletingRemovesOneIndexMoreThanListed) {
     Writer writer(false, true, false, false, false, false, false, false, false, false, true);
     ASSERT_TRUE(writer.beginResultWriting(base, twoPoints) && writer.beginFrequency(1) && writer.beginTimestep(1) &&
                 writer.beginTimestep(2) && writer.endResultWriting());
@@ -292,18 +294,18 @@ TEST_F(MultiPoint, deletingTakesOneIndexMoreThanIsListed) {
     EXPECT_FALSE(MultiPointResultDeleter().deleteResult(folder.path("broken")));
     EXPECT_TRUE(MultiPointResultDeleter().deleteResult(base));
     EXPECT_EQ(folder.names(), kept + QStringList{"broken_info.bin"});
-    EXPECT_FALSE(MultiPointResultDeleter().deleteResult(base)) << "it is gone";
+    EXPECT_FALSE(MultiPointResultDeleter().deleteResult(base)) << "the result no longer exists";
 
     ASSERT_TRUE(writer.beginResultWriting(base, twoPoints) && writer.endResultWriting());
     for (const char* name : {"b_transient_Ex_total_ts000.bin", "b_transient_Ex_total_ts-1.bin"}) folder.put(name, "");
     folder.put("b_transient_Ex_total_ts250000000.bin", "");
     ASSERT_TRUE(QFile::resize(folder.path("b_timesteps.bin"), 1LL << 30)) << "a file with a hole";
-    EXPECT_TRUE(MultiPointResultDeleter().deleteResult(base)) << "at once, though the list has 2^28 entries";
+    EXPECT_TRUE(MultiPointResultDeleter().deleteResult(base)) << "without trying all 2^28 entries of the list";
     EXPECT_FALSE(folder.has("b_transient_Ex_total_ts250000000.bin"));
     EXPECT_TRUE(folder.has("b_transient_Ex_total_ts000.bin") && folder.has("b_transient_Ex_total_ts-1.bin"));
 }
 
-TEST_F(MultiPoint, deletingFromAFolderThatCannotBeListedTriesNames) {
+TEST_F(MultiPoint, DeletingFromAFolderThatCannotBeListedTriesNames) {
     const QByteArray path = folder.path("").toLocal8Bit();
     for (const int numTimes : {2, 1 << 28}) {
         const auto writer = writerOf(1);

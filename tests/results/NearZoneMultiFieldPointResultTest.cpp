@@ -27,7 +27,7 @@ QByteArray hexOf(const Stream& stream) {
     return bytes.toHex();
 }
 
-// With each number different from all others.
+// Each number differs from all others.
 const Record record{1, {2, 3, 4}, {5, 6, 7}, {8, 9, 10}, {11, 12, 13}, {14, 15, 16}, {17, 18, 19}, {20, 21, 22}};
 
 struct Group {
@@ -51,7 +51,7 @@ Header headerOf(const Group& group) {
     return {1, 2, 4, is(0), is(1), is(2), is(3), is(4), is(5), is(6)};
 }
 
-TEST(NearZoneMultiFieldPointResult, eachGroupHasItsBitAndItsPlace) {
+TEST(NearZoneMultiFieldPointResult, EachGroupHasItsBitAndItsPlace) {
     for (const Group& group : groups) {
         SCOPED_TRACE(group.flagWord);
         const Stream stream = streamOf();
@@ -73,12 +73,12 @@ TEST(NearZoneMultiFieldPointResult, eachGroupHasItsBitAndItsPlace) {
         Record expected;
         expected.time = 1;
         expected.*group.components = record.*group.components;
-        EXPECT_EQ(read, expected) << "groups that are not there stay as they were";
+        EXPECT_EQ(read, expected) << "groups that are not in the file are unchanged";
         EXPECT_FALSE(reader.readRecord(stream.get(), read));
     }
 }
 
-TEST(NearZoneMultiFieldPointResult, allGroupsAndNone) {
+TEST(NearZoneMultiFieldPointResult, RecordsMayHaveAllGroupsOrNone) {
     for (const bool all : {false, true}) {
         const Stream stream = streamOf();
         Result result;
@@ -92,13 +92,13 @@ TEST(NearZoneMultiFieldPointResult, allGroupsAndNone) {
     }
 }
 
-TEST(NearZoneMultiFieldPointResult, refusedHeaders) {
+TEST(NearZoneMultiFieldPointResult, RefusesInvalidHeaders) {
     const QByteArray position(12, '\0');
     Result result;
     Header header;
     Stream stream = streamOf("Rnzq" + QByteArray(40, '\0'));
     EXPECT_FALSE(result.readAndGetHeader(stream.get(), header));
-    EXPECT_EQ(std::ftell(stream.get()), 4) << "refused right after the letter";
+    EXPECT_EQ(std::ftell(stream.get()), 4) << "refused at the first wrong character";
     stream = streamOf(QByteArray("Rnzp\0", 5) + position + QByteArray("\x01\x42", 2));
     EXPECT_FALSE(result.readAndGetHeader(stream.get(), header)) << "bit 0 is no group";
     EXPECT_TRUE(header.collectTotalE() && header.collectJ() && !header.collectScatteredE());
@@ -109,9 +109,9 @@ TEST(NearZoneMultiFieldPointResult, refusedHeaders) {
     EXPECT_FALSE(result.readAndGetHeader(stream.get(), header));
     EXPECT_EQ(header.getVersion(), 5);
     Record read;
-    EXPECT_TRUE(result.readRecord(stream.get(), read)) << "by the header of before";
+    EXPECT_TRUE(result.readRecord(stream.get(), read)) << "with the previous header";
     EXPECT_TRUE(result.setAndWriteHeader(header, streamOf().get()));
-    EXPECT_FALSE(result.readRecord(stream.get(), read)) << "nothing is known of version 5";
+    EXPECT_FALSE(result.readRecord(stream.get(), read)) << "version 5 is not supported";
 }
 
 }  // namespace

@@ -33,14 +33,14 @@ protected:
 
 bool isNaN(const std::complex<float>& value) { return std::isnan(value.real()) && std::isnan(value.imag()); }
 
-TEST_F(FarZone, keeps_its_settings) {
+TEST_F(FarZone, KeepsItsSettings) {
     const PostProcessSSFarZoneFields processor(&fields, 1.5F, 7, 0xffffffffU);
     EXPECT_EQ(processor.getFrequency(), 1.5F);
     EXPECT_EQ(processor.getFirstSetting(), 7U);
     EXPECT_EQ(processor.getSecondSetting(), 0xffffffffU);
 }
 
-TEST_F(FarZone, appends_records_with_the_angles_as_they_are) {
+TEST_F(FarZone, AppendsRecordsWithUnchangedAngles) {
     Records records(1);
     const PostProcessSSFarZoneFields processor(&fields, frequency, 0, 0);
     ASSERT_TRUE(processor.computeFields({{0.5F, -7.0F}, {0.5F, -7.0F}, {-0.1F, 100.0F}}, records));
@@ -53,8 +53,9 @@ TEST_F(FarZone, appends_records_with_the_angles_as_they_are) {
     EXPECT_EQ(records[3].phi, 100.0F);
 }
 
-// At the pole the components turn with the azimuth; a polar angle below 0 is the other side with reversed components.
-TEST_F(FarZone, takes_poles_and_angles_beyond_their_range) {
+// At the pole the components rotate with the azimuth; a negative polar angle is the opposite azimuth with reversed
+// components.
+TEST_F(FarZone, AcceptsPolesAndAnglesBeyondTheirRange) {
     const auto quarter = static_cast<float>(pi / 2);
     const Records r = compute({{0, 0}, {0, quarter}, {-0.5F, 0.25F}, {0.5F, static_cast<float>(0.25 + pi)}});
     EXPECT_LT(std::abs(r[0].eTheta + r[1].ePhi), 1e-5F * std::abs(r[0].eTheta));
@@ -63,8 +64,8 @@ TEST_F(FarZone, takes_poles_and_angles_beyond_their_range) {
     EXPECT_LT(std::abs(r[2].ePhi + r[3].ePhi), 1e-5F * std::abs(r[2].ePhi));
 }
 
-// The same direction among so many others is computed in another way.
-TEST_F(FarZone, does_not_depend_on_the_other_directions) {
+// A direction among many others is computed with the other method.
+TEST_F(FarZone, DoesNotDependOnTheOtherDirections) {
     const auto all = sphere(3);
     const Records together = compute(all);
     float peak = 0.0F;
@@ -76,7 +77,7 @@ TEST_F(FarZone, does_not_depend_on_the_other_directions) {
     }
 }
 
-TEST_F(FarZone, gives_no_number_for_an_angle_that_is_none) {
+TEST_F(FarZone, GivesNaNForInvalidAngles) {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     auto angles = sphere(3);
     const Records before = compute(angles);
@@ -92,26 +93,26 @@ TEST_F(FarZone, gives_no_number_for_an_angle_that_is_none) {
     }
 }
 
-TEST_F(FarZone, is_zero_at_frequency_zero) {
+TEST_F(FarZone, IsZeroAtFrequencyZero) {
     for (const auto& record : compute(sphere(60), 0.0F)) {
         EXPECT_EQ(record.eTheta, std::complex<float>());
         EXPECT_EQ(record.ePhi, std::complex<float>());
     }
 }
 
-TEST_F(FarZone, does_nothing_without_directions) {
+TEST_F(FarZone, DoesNothingWithoutDirections) {
     Records records(2);
     const PostProcessSSFarZoneFields processor(&fields, frequency, 0, 0);
     EXPECT_TRUE(processor.computeFields({}, records, [](std::size_t, std::size_t) { return false; }));
     EXPECT_EQ(records.size(), 2U);
 }
 
-TEST_F(FarZone, needs_fields) {
+TEST_F(FarZone, NeedsFields) {
     Records records;
     EXPECT_FALSE(PostProcessSSFarZoneFields(nullptr, frequency, 0, 0).computeFields({{0, 0}}, records));
 }
 
-TEST(FarZoneOfNothing, is_zero) {
+TEST(FarZoneWithoutCells, IsZero) {
     const Grid grid = gridOf(8);
     const FarZoneBox box(openBoundaries(), grid);
     ASSERT_FALSE(box.isValid());
@@ -130,7 +131,7 @@ struct Report {
     std::size_t total;
 };
 
-TEST_F(FarZone, reports_from_none_to_all_directions_now_and_then) {
+TEST_F(FarZone, ReportsProgressFromNoneToAllDirections) {
     std::vector<Report> reports;
     Records records;
     const auto angles = sphere(1);
@@ -146,7 +147,7 @@ TEST_F(FarZone, reports_from_none_to_all_directions_now_and_then) {
     for (const Report& report : reports) EXPECT_EQ(report.total, angles.size());
 }
 
-TEST_F(FarZone, leaves_the_records_when_it_is_stopped) {
+TEST_F(FarZone, LeavesTheRecordsUnchangedWhenStopped) {
     for (const int calls : {1, 2}) {
         Records records(3);
         int left = calls;

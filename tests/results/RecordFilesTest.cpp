@@ -1,4 +1,4 @@
-// Records and headers: their bytes, one by one and in blocks.
+// Records and headers: their bytes, read one by one and in blocks.
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ namespace {
 // The numbers 1, 2, 3 ... as floats in a file, each after two bytes of zero.
 const QList<QByteArray> floats = QByteArray("803f 0040 4040 8040 a040 c040 e040 0041 1041 2041 3041 4041").split(' ');
 
-// A record whose numbers, "f" or "i" each, count up from 1.
+// The bytes of a record whose numbers, "f" or "i" each, count up from 1.
 QByteArray countingUp(const QByteArray& types) {
     QByteArray hex;
     for (int i = 0; i < types.size(); ++i) {
@@ -20,7 +20,7 @@ QByteArray countingUp(const QByteArray& types) {
     return QByteArray::fromHex(hex);
 }
 
-// A file of this record and an empty one, and a broken third.
+// Writes and reads a file with this record, an empty one and an incomplete third one.
 template <class Codec>
 void checkCodec(const QByteArray& types, const typename Codec::Record& record) {
     SCOPED_TRACE(types.toStdString() + ", " + typeid(Codec).name());
@@ -49,7 +49,7 @@ void checkCodec(const QByteArray& types, const typename Codec::Record& record) {
     EXPECT_EQ(all, std::vector<Record>{{}});
 }
 
-TEST(RecordCodec, bytesOfEachKind) {
+TEST(RecordCodec, EachKindHasItsBytes) {
     checkCodec<SystemRadiatedPower>("f", {1});
     checkCodec<SystemEigenMode>("ff", {{1, 2}});
     checkCodec<CircuitComponentVCTransient>("fff", CircuitComponentVCTransientRecord{1, 2, 3});
@@ -64,7 +64,7 @@ TEST(RecordCodec, bytesOfEachKind) {
     checkCodec<AveragedSarStatistics>("fiiiffiiiiii", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
 }
 
-TEST(RecordCodec, recordThatEndsEarlyKeepsWhatWasThereAndIsReadOnceItIsWhole) {
+TEST(RecordCodec, TruncatedRecordIsReadOnceItIsComplete) {
     const ResultFolder folder;
     DataFileReader reader;
     ASSERT_TRUE(reader.open(folder.put("file", countingUp("ffff").left(15))));
@@ -76,7 +76,7 @@ TEST(RecordCodec, recordThatEndsEarlyKeepsWhatWasThereAndIsReadOnceItIsWhole) {
     EXPECT_EQ(record, (IncidentPlaneWaveFieldsInstantaneous::Record{1, 2, 3, 4}));
 }
 
-TEST(FileHeader, bytes) {
+TEST(FileHeader, HasItsBytes) {
     const ResultFolder folder;
     DataFileWriter writer;
     ASSERT_TRUE(writer.open(folder.path("file"), "wb"));
@@ -86,13 +86,13 @@ TEST(FileHeader, bytes) {
     ASSERT_TRUE(reader.open(folder.path("file")));
     FileHeader header;
     EXPECT_EQ(header, FileHeader(0, 0));
-    EXPECT_TRUE(header.read(reader) && header == FileHeader(8, 65535)) << "no sign is extended";
-    EXPECT_TRUE(header.read(reader) && header == FileHeader(13, 1)) << "and only 16 bits are there";
+    EXPECT_TRUE(header.read(reader) && header == FileHeader(8, 65535)) << "the numbers are unsigned";
+    EXPECT_TRUE(header.read(reader) && header == FileHeader(13, 1)) << "only 16 bits are written";
     EXPECT_FALSE(header.read(reader));
     EXPECT_EQ(header, FileHeader(13, 1));
 }
 
-TEST(SystemDissipatedPower, headerSaysHowManyValuesARecordHas) {
+TEST(SystemDissipatedPower, HeaderDeterminesTheNumberOfValues) {
     const ResultFolder folder;
     SystemDissipatedPower file;
     DataFileWriter writer;
@@ -111,7 +111,7 @@ TEST(SystemDissipatedPower, headerSaysHowManyValuesARecordHas) {
     EXPECT_TRUE(again.readHeader(reader) && again.readRecord(reader, record));
     EXPECT_EQ(record, (SystemDissipatedPower::Record{1, 2, 3, {4}, {5, 6}}));
     EXPECT_FALSE(again.readHeader(reader));
-    EXPECT_EQ(again.getHeader().numMagnetic, 2) << "a header that is not there changes nothing";
+    EXPECT_EQ(again.getHeader().numMagnetic, 2) << "a missing header changes nothing";
 
     SystemDissipatedPower largest;
     ASSERT_TRUE(reader.open(folder.put("file", QByteArray("\xFF\xFF") + QByteArray(12 + 4 * 510, '\0'))));

@@ -12,7 +12,7 @@
 
 namespace quarn::test {
 
-/// A folder of its own for the files of one test.
+/// A temporary folder for the files of one test.
 class ResultFolder {
 public:
     QString path(const QString& name) const { return m_folder.filePath(name); }
@@ -29,7 +29,7 @@ public:
         return file.readAll();
     }
 
-    /// Returns the path.
+    /// Writes a file and returns its path.
     QString put(const QString& name, const QByteArray& bytes) const {
         QFile file(path(name));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << name.toStdString();

@@ -17,7 +17,7 @@ const QByteArray record = QByteArray::fromHex("01000000 02000000 00004040");
 
 QByteArray start(const char* hex) { return header + QByteArray::fromHex(hex); }
 
-// Of the plane z = 9, with a number of records that may not be that of the records.
+// A file of the plane z = 9. The number of records in its header may differ from that of `records`.
 QByteArray plane(char numRecords, const QByteArray& records) {
     return start("0200000009000000") + numRecords + QByteArray(3, '\0') + records;
 }
@@ -44,7 +44,7 @@ struct SarFile : testing::Test {
     QString error, warning;
 };
 
-TEST_F(SarFile, bytesOfEachPlane) {
+TEST_F(SarFile, EachPlaneHasItsBytes) {
     struct Row {
         SARPlane::Plane plane;
         const char* code;
@@ -68,14 +68,14 @@ TEST_F(SarFile, bytesOfEachPlane) {
         ASSERT_TRUE(reader.beginResultReading(folder.path("f")));
         EXPECT_EQ(reader.getPlane(), row.plane);
         EXPECT_EQ(reader.getPlaneIndex(), -9);
-        EXPECT_EQ(reader.getNumberOfRecords(), 2) << "appending does not count";
+        EXPECT_EQ(reader.getNumberOfRecords(), 2) << "appending does not change the number";
         EXPECT_EQ(reader.getNumberOfRecordsLeft(), 3);
         EXPECT_EQ(read("f").front(), row.read);
         EXPECT_EQ(read("f").size(), 3U);
     }
 }
 
-TEST_F(SarFile, refusedFilesAndPlanes) {
+TEST_F(SarFile, RefusesInvalidFilesAndPlanes) {
     const QByteArray good = plane(1, record);
     EXPECT_EQ(read(QFileInfo(folder.put("f", good)).fileName()).size(), 1U);
     const auto begins = [&](int offset, char byte) {
@@ -96,7 +96,7 @@ TEST_F(SarFile, refusedFilesAndPlanes) {
     EXPECT_FALSE(folder.has("new"));
 }
 
-TEST_F(SarFile, combiningTakesAsManyRecordsAsAFileSays) {
+TEST_F(SarFile, CombiningTakesTheStatedNumberOfRecords) {
     const QByteArray other = QByteArray::fromHex("07000000 08000000 000080bf");
     folder.put("a", plane(2, record + other + other));
     folder.put("b", plane(0, record));
@@ -105,15 +105,15 @@ TEST_F(SarFile, combiningTakesAsManyRecordsAsAFileSays) {
     EXPECT_TRUE(combine({"a", "missing", "b", "c"}, output));
     EXPECT_EQ(folder.bytes("out").toHex(), plane(3, record + other + record).toHex());
     EXPECT_EQ(error + warning, QString());
-    EXPECT_EQ(folder.names(), (QStringList{"a", "b", "c", "out"})) << "nothing else is left, nor missing";
-    EXPECT_TRUE(combine({"a", "c"}, folder.path("a"))) << "the output is one of them";
+    EXPECT_EQ(folder.names(), (QStringList{"a", "b", "c", "out"})) << "no file is added or removed";
+    EXPECT_TRUE(combine({"a", "c"}, folder.path("a"))) << "the output is one of the parts";
     EXPECT_EQ(folder.bytes("a").toHex(), plane(3, record + other + record).toHex());
     ASSERT_TRUE(QFile::link(folder.path("c"), folder.path("link")));
     EXPECT_TRUE(combine({"c", "c"}, folder.path("link")));
-    EXPECT_EQ(folder.bytes("c").toHex(), plane(2, record + record).toHex()) << "a link stays one";
+    EXPECT_EQ(folder.bytes("c").toHex(), plane(2, record + record).toHex()) << "the link is followed";
 }
 
-TEST_F(SarFile, failedCombinationsKeepWhatIsJoinedOrChangeNothing) {
+TEST_F(SarFile, FailedCombinationsKeepJoinedRecordsOrChangeNothing) {
     const QString a = folder.put("%2a", plane(1, record));
     const QString output = folder.put("out", "earlier");
     const QString incompatible = "Incompatible plane data found when combining output file '%1' into '%2'.";
@@ -128,11 +128,11 @@ TEST_F(SarFile, failedCombinationsKeepWhatIsJoinedOrChangeNothing) {
         QByteArray output = "earlier";
     };
     const Row rows[] = {
-        {"another plane", start("010000000900000000000000"), incompatible, "unavailable"},
-        {"another index", start("020000000800000000000000"), incompatible, "unavailable"},
-        {"an empty file", "", unopened, "unavailable"},
-        {"a short file", plane(2, record + record).chopped(1), corrupt, "incomplete", plane(3, record + record)},
-        {"too large a number", tooMany + record, corrupt, "incomplete", tooMany + record + record},
+        {"AnotherPlane", start("010000000900000000000000"), incompatible, "unavailable"},
+        {"AnotherIndex", start("020000000800000000000000"), incompatible, "unavailable"},
+        {"AnEmptyFile", "", unopened, "unavailable"},
+        {"AShortFile", plane(2, record + record).chopped(1), corrupt, "incomplete", plane(3, record + record)},
+        {"TooLargeANumber", tooMany + record, corrupt, "incomplete", tooMany + record + record},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -144,14 +144,14 @@ TEST_F(SarFile, failedCombinationsKeepWhatIsJoinedOrChangeNothing) {
         folder.put("out", "earlier");
         ASSERT_TRUE(QFile::link(b, folder.path("symlink")) && folder.linkHard("b%1", "link"));
         for (const char* same : {"b%1", "./b%1", "symlink", "link"}) {
-            EXPECT_FALSE(combine({"%2a", "b%1"}, folder.path(same))) << "the output is one of them";
+            EXPECT_FALSE(combine({"%2a", "b%1"}, folder.path(same))) << "the output is one of the parts";
             EXPECT_EQ(folder.bytes("b%1"), row.second);
         }
         EXPECT_EQ(folder.names(), (QStringList{"%2a", "b%1", "link", "out", "symlink"}));
         EXPECT_TRUE(QFile::remove(folder.path("link")) && QFile::remove(folder.path("symlink")));
     }
     ASSERT_EQ(mkfifo(folder.path("pipe").toLocal8Bit(), 0600), 0);
-    EXPECT_FALSE(combine({"%2a", "pipe"}, output)) << "and nobody is waited for";
+    EXPECT_FALSE(combine({"%2a", "pipe"}, output)) << "without waiting for a writer";
     EXPECT_EQ(error, unopened.arg(folder.path("pipe"), output));
     const QString creation = "Failed to create SAR output file '%1'.";
     for (const QString& nowhere : {folder.path("no/out"), folder.path(".")}) {
@@ -164,7 +164,7 @@ TEST_F(SarFile, failedCombinationsKeepWhatIsJoinedOrChangeNothing) {
     EXPECT_EQ(folder.bytes("%2a"), plane(1, record));
 }
 
-TEST_F(SarFile, combiningReportsHowManyRecordsAreJoinedUntilItIsStopped) {
+TEST_F(SarFile, CombiningReportsJoinedRecordsUntilStopped) {
     const QString a = folder.put("a", start("0200000009000000a0860100") + record.repeated(100000));
     const QString output = folder.put("out", "earlier");
     for (const bool continues : {false, true}) {
@@ -181,7 +181,7 @@ TEST_F(SarFile, combiningReportsHowManyRecordsAreJoinedUntilItIsStopped) {
               "Combining into SAR output file '" + output + "' was stopped.SAR data will be unavailable on disk.");
 }
 
-TEST_F(SarFile, aDiskThatFillsUpLeavesTheWholeRecordsThatFit) {
+TEST_F(SarFile, FullDiskLeavesTheCompleteRecordsThatFit) {
     folder.put("a", plane(9, record.repeated(9)));
     const QString output = folder.put("out", "earlier");
     for (const rlim_t room : {28 + 2 * 12 + 5, 28, 27}) {
@@ -192,7 +192,7 @@ TEST_F(SarFile, aDiskThatFillsUpLeavesTheWholeRecordsThatFit) {
 }
 
 #ifdef Q_OS_LINUX
-TEST_F(SarFile, fullDiskIsSeenBeforeCombiningSucceeds) {
+TEST_F(SarFile, FullDiskMakesCombiningFail) {
     folder.put("a", plane(1, record));
     EXPECT_FALSE(combine({"a"}, "/dev/full"));
     EXPECT_EQ(error, "Failed to write data to SAR output file '/dev/full'.");
@@ -200,10 +200,10 @@ TEST_F(SarFile, fullDiskIsSeenBeforeCombiningSucceeds) {
     EXPECT_FALSE(QFileInfo("/dev/full").isFile()) << "a device is not replaced";
 }
 
-// Of a file with holes, which takes no room.
-TEST_F(SarFile, numbersOfRecordsMayNotAddUpToMoreThanAnInteger) {
+// Uses a sparse file, which takes no space on the disk.
+TEST_F(SarFile, RefusesATotalBeyondTheRangeOfInt) {
     folder.put("a", start("0200000009000000ffffff7f"));
-    if (!QFile::resize(folder.path("a"), 28 + 12LL * 0x7FFFFFFF)) GTEST_SKIP() << "no holes in files here";
+    if (!QFile::resize(folder.path("a"), 28 + 12LL * 0x7FFFFFFF)) GTEST_SKIP() << "no sparse files here";
     EXPECT_FALSE(combine({"a", "a"}, folder.path("out")));
     EXPECT_EQ(error, QString("Failed to create SAR output file '%1'.").arg(folder.path("out")));
     EXPECT_EQ(folder.names(), QStringList{"a"});
