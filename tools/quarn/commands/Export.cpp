@@ -1,0 +1,315 @@
+#include <algorithm>
+#include <optional>
+
+#include "CommandLine.h"
+#include "Console.h"
+#include "Subcommands.h"
+#include "files/CsvWriter.h"
+#include "files/InputFile.h"
+#include "files/MultiPointSet.h"
+#include "files/NearZoneFile.h"
+#include "files/PatternFile.h"
+#include "files/RecordKinds.h"
+#include "files/ResultFile.h"
+#include "quarn/quarn.h"
+
+namespace quarn::tool {
+
+namespace {
+
+const QStringList timeColumn{QStringLiteral("time_s")};
+const QStringList frequencyColumn{QStringLiteral("frequency_hz")};
+const QStringList cellColumns{QStringLiteral("i"), QStringLiteral("j"), QStringLiteral("k")};
+
+QString whatToDoWith(FileKind kind) {
+    switch (kind) {
+        case FileKind::MeshlessVias:
+        case FileKind::Geometry:
+        case FileKind::Project:
+            return QStringLiteral("'quarn show' tells what it holds");
+        case FileKind::Unknown:
+            return QStringLiteral("say with --as KIND what records it holds");
+        case FileKind::OtherResult:
+            return QStringLiteral("it cannot be exported");
+        default:
+            return QStringLiteral("leave --as out");
+    }
+}
+
+FileProblem notExported(const InputFile& file, FileKind kind) {
+    return {file.name(), QStringLiteral("is %1; ").arg(description(kind)) + whatToDoWith(kind)};
+}
+
+int statusOfIncomplete(const InputFile& file, std::size_t bytes) {
+    if (bytes == 0) return ExitFine;
+    complain(QStringLiteral("%1: cut short: %2").arg(file.name(), incompleteRecordText(bytes)));
+    return ExitFindings;
+}
+
+int exportRecords(const RecordKind& kind, const InputFile& file) {
+    CsvWriter csv;
+    return statusOfIncomplete(file, kind.exportRows(kind, file, csv));
+}
+
+/// What says what it is cannot be read as something else.
+int exportRecordsAs(const RecordKind& kind, const InputFile& file) {
+    const FileKind found = kindOf(file.beginning());
+    if (found == FileKind::Unknown || found == kind.fileKind) return exportRecords(kind, file);
+    throw notExported(file, found);
+}
+
+int exportNearZonePoint(const InputFile& input) {
+    NearZoneFile file(input);
+    QStringList columns = timeColumn;
+    for (const NearZoneGroup& group : file.groups()) {
+        columns << vectorColumns(QString::fromLatin1(group.name), QString::fromUtf8(group.unit), Components::Real);
+    }
+    CsvWriter csv;
+    csv.addHeader(columns);
+    for (NearZoneFile::Record record; file.next(record);) {
+        csv.add(record.time);
+        for (const NearZoneGroup& group : file.groups()) {
+            for (const float value : record.*group.components) csv.add(value);
+        }
+        csv.endRow();
+    }
+    return statusOfIncomplete(input, file.incompleteBytes());
+}
+
+int exportSarPlane(const InputFile& file) {
+    SarResultReader reader;
+    open(reader, file);
+    CsvWriter csv;
+    csv.addHeader(cellColumns + QStringList(QStringLiteral("sar_w_per_kg")));
+    std::int64_t records = 0;
+    for (SarResult::Record record; reader.readRecord(record); ++records) {
+        csv.add(record.i);
+        csv.add(record.j);
+        csv.add(record.k);
+        csv.add(record.value);
+        csv.endRow();
+    }
+    if (records >= reader.getNumberOfRecords()) return ExitFine;
+    complain(file.name() +
+             QStringLiteral(": cut short: %1 of %2 records").arg(records).arg(reader.getNumberOfRecords()));
+    return ExitFindings;
+}
+
+/// Why samples of a cut are missing from the table.
+QStringList lossesOf(const PatternCut& cut) {
+    const int announced = cut.plane.GetNumberOfPoints();
+    const auto samples = [](int count) { return counted(static_cast<std::size_t>(count), QStringLiteral("sample")); };
+    QStringList losses;
+    if (cut.refusal) {
+        losses << QStringLiteral("refused at line %1, %2").arg(cut.refusal->line).arg(cut.refusal->reason);
+    } else if (cut.missingSamples > 0) {
+        losses << QStringLiteral("cut short: %1 of %2 samples").arg(announced - cut.missingSamples).arg(announced);
+    } else if (cut.leftOutLines > 0) {
+        losses << samples(cut.leftOutLines) +
+                      QStringLiteral(" left out behind the %1 that NUPOIN announces").arg(announced);
+    }
+    if (cut.coincidingSamples > 0) {
+        losses << samples(cut.coincidingSamples) +
+                      QStringLiteral(" left out: a sample at the same angle with another gain came before");
+    }
+    return losses;
+}
+
+int exportPattern(const QString& name, const QByteArray& content) {
+    CsvWriter csv;
+    csv.addHeader({QStringLiteral("cut"),
+                   QStringLiteral("angle_deg"),
+                   QStringLiteral("gain_power_ratio"),
+                   QStringLiteral("second")});
+    std::int32_t number = 0;
+    int status = ExitFine;
+    for (const PatternCut& cut : readPatternFile(name, content)) {
+        ++number;
+        for (const QString& loss : lossesOf(cut)) {
+            complain(name + QStringLiteral(":%1: cut %2: ").arg(cut.line).arg(number) + loss);
+            status = ExitFindings;
+        }
+        for (const auto& [angle, values] : cut.plane.GetSamples()) {
+            csv.add(number);
+            csv.add(angle);
+            csv.add(values.first);
+            csv.add(values.second);
+            csv.endRow();
+        }
+    }
+    return status;
+}
+
+/// Writes one group of a multi-point result: a row for each point of each time step or frequency.
+class GroupExport {
+public:
+    GroupExport(MultiPointSet& set, const SetGroup& group)
+        : m_set(set), m_group(group), m_values(static_cast<std::size_t>(group.columns().size())) {
+        if (m_set.reader.readGeometry(m_points)) return;
+        throw unreadable(m_set.reader.getGeometryFileName());
+    }
+
+    void addHeader() {
+        m_csv.addHeader((m_group.isSteady() ? frequencyColumn : timeColumn) + cellColumns + m_group.columns());
+    }
+
+    /// Returns how many points there are of which all components are known; none when files are missing.
+    std::optional<std::size_t> addRows(int index) {
+        constexpr std::size_t piece = 1 << 14;
+        const auto& list = m_group.isSteady() ? m_set.frequencies : m_set.times;
+        m_group.choose(m_set.reader, index);
+        if (!begin(index)) return std::nullopt;
+        std::size_t point = 0;
+        while (const std::size_t count = read(std::min(piece, m_points.size() - point))) {
+            for (std::size_t i = 0; i < count; ++i, ++point) {
+                addRow(list[static_cast<std::size_t>(index)], m_points[point], i);
+            }
+        }
+        m_set.reader.endTimestep();
+        return point;
+    }
+
+private:
+    bool begin(int index) {
+        for (std::size_t c = 0; c < m_values.size(); ++c) {
+            if (!m_group.begin(m_set.reader, index, static_cast<int>(c))) return false;
+        }
+        return true;
+    }
+
+    std::size_t read(std::size_t count) {
+        for (std::size_t c = 0; c < m_values.size(); ++c) {
+            if (!m_group.read(m_set.reader, static_cast<int>(c), m_values[c], count)) return 0;
+            count = std::min(count, m_values[c].size());
+        }
+        return count;
+    }
+
+    void addRow(float listed, const ivec3& point, std::size_t i) {
+        m_csv.add(listed);
+        m_csv.add(point.x);
+        m_csv.add(point.y);
+        m_csv.add(point.z);
+        for (const auto& values : m_values) m_csv.add(values[i]);
+        m_csv.endRow();
+    }
+
+    MultiPointSet& m_set;
+    const SetGroup& m_group;
+    CsvWriter m_csv;
+    std::vector<ivec3> m_points;
+    std::vector<std::vector<float>> m_values;  ///< by component
+};
+
+/// What the user chose of a multi-point result; null where nothing.
+struct Choice {
+    QString group;
+    QString index;
+
+    bool hasAny() const { return !group.isNull() || !index.isNull(); }
+};
+
+const SetGroup& chosenGroup(const MultiPointSet& set, const Choice& choice, const QString& name) {
+    QStringList names;
+    for (const SetGroup& group : set.groups) {
+        if (group.name() == choice.group || (choice.group.isNull() && set.groups.size() == 1)) return group;
+        names << group.name();
+    }
+    if (names.empty()) throw FileProblem(name, QStringLiteral("holds no group of fields"));
+    throw WrongUsage(QStringLiteral("Choose a group with --group: %1.").arg(names.join(QStringLiteral(", "))));
+}
+
+int chosenIndex(const QString& text, int indices) {
+    bool isNumber = false;
+    const int index = text.toInt(&isNumber);
+    if (isNumber && index >= 0 && index < indices) return index;
+    throw WrongUsage(indices == 0
+                         ? QStringLiteral("--index %1 is beyond the end: nothing is recorded yet.").arg(text)
+                         : QStringLiteral("--index needs a number from 0 to %2, not '%1'.").arg(text).arg(indices - 1));
+}
+
+int exportMultiPoint(const InputFile& file, const Choice& choice) {
+    MultiPointSet set(file);
+    const SetGroup& group = chosenGroup(set, choice, file.name());
+    int first = 0;
+    int end = set.indicesOf(group);
+    if (!choice.index.isNull()) {
+        first = chosenIndex(choice.index, end);
+        end = first + 1;
+    }
+    GroupExport rows(set, group);
+    rows.addHeader();
+    int status = ExitFine;
+    for (int index = first; index < end; ++index) {
+        const auto points = rows.addRows(index);
+        const int expected = set.reader.getNumberOfPoints();
+        if (points && *points >= static_cast<std::size_t>(expected)) continue;
+        complain(file.name() + QStringLiteral(": cut short: %1 of %2 points at index %3")
+                                   .arg(points.value_or(0))
+                                   .arg(expected)
+                                   .arg(index));
+        status = ExitFindings;
+    }
+    return status;
+}
+
+int exportByContent(const InputFile& file, const Choice& choice) {
+    const FileKind kind = kindOf(file.beginning());
+    if (kind == FileKind::MultiPoint) return exportMultiPoint(file, choice);
+    if (choice.hasAny()) {
+        throw WrongUsage(QStringLiteral("--group and --index are for multi-point results, but '%1' is %2.")
+                             .arg(file.name(), description(kind)));
+    }
+    if (kind == FileKind::NearZonePoint) return exportNearZonePoint(file);
+    if (kind == FileKind::SarPlane) return exportSarPlane(file);
+    if (const RecordKind* records = recordKindOf(kind)) return exportRecords(*records, file);
+    if (kind == FileKind::AntennaPattern) return exportPattern(file.name(), readFile(file.path()));
+    throw notExported(file, kind);
+}
+
+QString helpText() {
+    return QStringLiteral(
+               "Writes what a result file holds as comma-separated values (CSV) to standard output. RESULT is a\n"
+               "near-zone point, a SAR plane, the far-zone box, an antenna pattern, the BASE_info.bin of a\n"
+               "multi-point result, or with --as a file of records. A pipe is read to its end, and so is standard\n"
+               "input, which '-' stands for.\n\n"
+               "Columns end in their unit: s, hz, v, a, w, t, kg, deg, v_per_m, a_per_m, a_per_m2, w_per_kg; _re and\n"
+               "_im are the parts of a complex number; i, j and k number cells. They are, of\n"
+               "  a near-zone point\n      time_s, then such as total_e_x_v_per_m for each field and axis\n"
+               "  a multi-point result\n      time_s,i,j,k, then such as total_e_x_v_per_m for each axis; or\n"
+               "      frequency_hz,i,j,k, then such as total_e_x_re_v_per_m, total_e_x_im_v_per_m\n"
+               "  a SAR plane\n      i,j,k,sar_w_per_kg\n"
+               "  an antenna pattern\n      cut,angle_deg,gain_power_ratio,second (what a line has behind the gain)\n"
+               "and of the kinds of records for --as%1\n"
+               "The components e_theta and e_phi of far-zone records are in volts: the field times the distance.\n\n"
+               "Exit status: 0 fine, 1 the file is cut short or not read in all parts, 2 it cannot be used.")
+        .arg(recordKindsText());
+}
+
+}  // namespace
+
+int runExport(const QStringList& arguments) {
+    const QString as = QStringLiteral("as");
+    const QString group = QStringLiteral("group");
+    const QString index = QStringLiteral("index");
+    CommandLine commandLine(QStringLiteral("export"), helpText());
+    commandLine.addOption(
+        as, QStringLiteral("What the records are, for files that do not say it."), QStringLiteral("KIND"));
+    commandLine.addOption(
+        group, QStringLiteral("The group of a multi-point result, such as transient-total-E."), QStringLiteral("NAME"));
+    commandLine.addOption(index,
+                          QStringLiteral("Only this time step or frequency of a multi-point result, counted from 0."),
+                          QStringLiteral("N"));
+    commandLine.addFile(QStringLiteral("RESULT"), QStringLiteral("The file to export."));
+    if (!commandLine.parse(arguments)) return ExitFine;
+
+    const QString name = commandLine.files().constFirst();
+    const Choice choice{commandLine.value(group), commandLine.value(index)};
+    if (!commandLine.isSet(as)) return exportByContent(InputFile(name), choice);
+    if (choice.hasAny()) {
+        throw WrongUsage(QStringLiteral("--group and --index are for multi-point results, not for records (--as)."));
+    }
+    return exportRecordsAs(recordKindNamed(commandLine.value(as)), InputFile(name));
+}
+
+}  // namespace quarn::tool

@@ -1,0 +1,102 @@
+#include "files/MultiPointSet.h"
+
+#include "Console.h"
+#include "files/CsvWriter.h"
+#include "files/ResultFile.h"
+
+namespace quarn::tool {
+
+namespace {
+
+using Result = MultiPointResult;
+
+const SetGroup allGroups[] = {
+    {"transient-scattered-E", "V/m", Result::TransientScatteredE},
+    {"transient-total-E", "V/m", Result::TransientTotalE},
+    {"transient-scattered-H", "A/m", Result::TransientScatteredH},
+    {"transient-total-H", "A/m", Result::TransientTotalH},
+    {"transient-scattered-B", "T", Result::TransientScatteredB},
+    {"transient-total-B", "T", Result::TransientTotalB},
+    {"transient-J", "A/m²", Result::TransientJ},
+    {"steady-total-E", "V/m", Result::SteadyTotalE},
+    {"steady-total-H", "A/m", Result::SteadyTotalH},
+    {"steady-total-B", "T", Result::SteadyTotalB},
+    {"steady-J", "A/m²", Result::SteadyJ},
+};
+
+constexpr Result::Component transientComponents[] = {Result::X, Result::Y, Result::Z};
+constexpr Result::Part steadyComponents[] = {Result::Xr, Result::Xi, Result::Yr, Result::Yi, Result::Zr, Result::Zi};
+
+// The engine makes both lists before anything else, but only one that groups need is missed.
+void readLists(MultiPointSet& set) {
+    const bool hasTimes = set.reader.readTimesteps(set.times);
+    const bool hasFrequencies = set.reader.readFrequencies(set.frequencies);
+    for (const SetGroup& group : set.groups) {
+        if (group.isSteady() ? hasFrequencies : hasTimes) continue;
+        throw unreadable(group.isSteady() ? set.reader.getFrequenciesFileName() : set.reader.getTimestepsFileName());
+    }
+}
+
+}  // namespace
+
+bool SetGroup::isIn(const MultiPointResult& result) const {
+    return m_isSteady ? result.collects(static_cast<Result::SteadyGroup>(m_group))
+                      : result.collects(static_cast<Result::TransientGroup>(m_group));
+}
+
+QStringList SetGroup::columns() const {
+    return vectorColumns(name().section(u'-', 1), unit(), m_isSteady ? Components::Complex : Components::Real);
+}
+
+void SetGroup::choose(MultiPointResultReader& reader, int index) const {
+    m_isSteady ? reader.beginFrequency(index) : reader.beginTimestep(index);
+}
+
+bool SetGroup::begin(MultiPointResultReader& reader, int index, int component) const {
+    checkPathLength(fileName(reader, index, component));
+    return m_isSteady
+               ? reader.beginSteady(static_cast<Result::SteadyGroup>(m_group), steadyComponents[component])
+               : reader.beginTransient(static_cast<Result::TransientGroup>(m_group), transientComponents[component]);
+}
+
+bool SetGroup::read(MultiPointResultReader& reader, int component, std::vector<float>& values,
+                    std::size_t count) const {
+    return m_isSteady ? reader.readSteadyBlock(steadyComponents[component], values, count)
+                      : reader.readTransientBlock(transientComponents[component], values, count);
+}
+
+QString SetGroup::fileName(const MultiPointResult& result, int index, int component) const {
+    return m_isSteady ? result.getComponentFileName(
+                            static_cast<Result::SteadyGroup>(m_group), steadyComponents[component], index)
+                      : result.getComponentFileName(
+                            static_cast<Result::TransientGroup>(m_group), transientComponents[component], index);
+}
+
+MultiPointSet::MultiPointSet(const InputFile& infoFile) {
+    const QString ending = QStringLiteral("_info.bin");
+    const auto problem = [&](const QString& text) { return FileProblem(infoFile.name(), text); };
+    if (!infoFile.path().endsWith(ending)) {
+        throw problem(
+            QStringLiteral("is the info file of a multi-point result; give it by its own name, "
+                           "BASE_info.bin, beside the other files of the result"));
+    }
+    checkPathLength(infoFile.path());
+    if (!reader.beginResultReading(infoFile.path().chopped(ending.size()))) {
+        throw problem(
+            QStringLiteral("is the info file of a multi-point result, but cut short, damaged or not of "
+                           "version 0"));
+    }
+    for (const SetGroup& group : allGroups) {
+        if (group.isIn(reader)) groups.push_back(group);
+    }
+    if (reader.getNumberOfPoints() < 0) {
+        throw problem(QStringLiteral("is damaged: it says that there are %1 points").arg(reader.getNumberOfPoints()));
+    }
+    readLists(*this);
+}
+
+int MultiPointSet::indicesOf(const SetGroup& group) const {
+    return static_cast<int>(group.isSteady() ? frequencies.size() : times.size());
+}
+
+}  // namespace quarn::tool

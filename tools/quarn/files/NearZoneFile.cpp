@@ -1,0 +1,44 @@
+#include "files/NearZoneFile.h"
+
+#include "Console.h"
+#include "files/ResultFile.h"
+#include "quarn/BinaryFile.h"
+
+namespace quarn::tool {
+
+namespace {
+
+using Header = NearZoneMultiFieldPointResult::Header;
+using Record = NearZoneMultiFieldPointResult::Record;
+
+constexpr std::int64_t headerSize = 19;
+
+constexpr NearZoneGroup allGroups[] = {
+    {"scattered E", "V/m", &Header::collectScatteredE, &Record::scatteredE},
+    {"total E", "V/m", &Header::collectTotalE, &Record::totalE},
+    {"scattered H", "A/m", &Header::collectScatteredH, &Record::scatteredH},
+    {"total H", "A/m", &Header::collectTotalH, &Record::totalH},
+    {"scattered B", "T", &Header::collectScatteredB, &Record::scatteredB},
+    {"total B", "T", &Header::collectTotalB, &Record::totalB},
+    {"J", "A/m²", &Header::collectJ, &Record::j},
+};
+
+}  // namespace
+
+NearZoneFile::NearZoneFile(const InputFile& file) {
+    Header header;
+    checkPathLength(file.path());
+    m_file.reset(openFile(file.path(), QStringLiteral("rb")));
+    if (!m_file) throw FileProblem(file.name(), QStringLiteral("cannot be opened"));
+    if (!m_result.readAndGetHeader(m_file.get(), header)) {
+        throw FileProblem(
+            file.name(), QStringLiteral("is a near-zone point whose header is cut short, damaged or not of version 0"));
+    }
+    for (const NearZoneGroup& group : allGroups) {
+        if ((header.*group.isCollected)()) m_groups.push_back(group);
+    }
+    const std::size_t recordSize = sizeof(float) * (1 + 3 * m_groups.size());
+    m_incompleteBytes = static_cast<std::size_t>(sizeOf(file) - headerSize) % recordSize;
+}
+
+}  // namespace quarn::tool
