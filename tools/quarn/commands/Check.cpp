@@ -2,9 +2,8 @@
 #include <QJsonDocument>
 #include <optional>
 
-#include "CommandLine.h"
 #include "Console.h"
-#include "Subcommands.h"
+#include "commands/Commands.h"
 #include "files/InputFile.h"
 #include "files/ProjectOnDisk.h"
 #include "findings/Findings.h"
@@ -54,7 +53,7 @@ int checkAsText(const QStringList& paths, const Examiner& examiner) {
 int checkAsJson(const QStringList& paths, const Examiner& examiner) {
     QJsonArray files;
     const int status = forEachFile(paths, [&](const QString& path) {
-        QJsonObject file{{QStringLiteral("file"), path}};
+        QJsonObject file{{text("file"), path}};
         try {
             const Findings findings = examiner.findingsIn(path);
             const QJsonObject members = findings.toJson();
@@ -64,7 +63,7 @@ int checkAsJson(const QStringList& paths, const Examiner& examiner) {
             files << file;
             return statusOf(findings);
         } catch (const FileProblem& problem) {
-            file.insert(QStringLiteral("unusable"), QString::fromUtf8(problem.what()));
+            file.insert(text("unusable"), QString::fromUtf8(problem.what()));
             files << file;
             throw;
         }
@@ -75,29 +74,36 @@ int checkAsJson(const QStringList& paths, const Examiner& examiner) {
 
 }  // namespace
 
-int runCheck(const QStringList& arguments) {
-    const QString json = QStringLiteral("json");
-    const QString geometry = QStringLiteral("geometry");
-    CommandLine commandLine(
-        QStringLiteral("check"),
-        QStringLiteral("Loads project files and prints what is wrong or doubtful with the runs that they describe.\n"
-                       "Names too, with its number, each line that loading and saving the file does not keep: unknown\n"
-                       "keys and blocks, misspelt ones among them, are ignored by the reader without a word. Lines\n"
-                       "that only move within their block or write a number differently are kept.\n"
-                       "Geometry files are checked likewise.\n"
-                       "Exit status: 0 no findings, 1 findings (warnings count), 2 a file cannot be used."));
-    commandLine.addOption(json, QStringLiteral("Prints one JSON document: an array of files."));
-    commandLine.addOption(geometry,
-                          QStringLiteral("Checks this geometry file too, and the projects against its grid."),
-                          QStringLiteral("FILE"));
-    commandLine.addFiles(QStringLiteral("PROJECT"), QStringLiteral("The project or geometry files to check."));
-    if (!commandLine.parse(arguments)) return ExitFine;
-
-    QStringList paths = commandLine.files();
-    const QString geometryPath = commandLine.value(geometry);
-    if (!geometryPath.isNull()) paths << geometryPath;
-    const Examiner examiner(geometryPath);
-    return commandLine.isSet(json) ? checkAsJson(paths, examiner) : checkAsText(paths, examiner);
+void addCheck(CLI::App& quarn, int& status) {
+    struct Options {
+        QStringList paths;
+        QString geometry;
+        bool json = false;
+    };
+    const auto options = std::make_shared<Options>();
+    CLI::App& command =
+        addCommand(quarn,
+                   "check",
+                   "Checks project and geometry files and names each line that would be lost",
+                   text("Loads project files and prints what is wrong or doubtful with the runs that they describe.\n"
+                        "It also prints, with its number, each line that loading and saving the file does not keep:\n"
+                        "the reader ignores unknown keys and blocks, misspelt ones among them, without a message.\n"
+                        "Lines that only move within their block or write a number differently are kept.\n"
+                        "Geometry files are checked in the same way.\n"
+                        "Exit status: 0 no findings, 1 findings (warnings count), 2 a file cannot be used."));
+    addFlag(command, "--json", options->json, "Prints one JSON document: an array of files.");
+    addOption(command,
+              "--geometry",
+              "FILE",
+              options->geometry,
+              "Checks this geometry file too, and the projects against its grid.");
+    addArguments(command, "PROJECT", options->paths, "The project or geometry files to check.");
+    command.callback([options, &status] {
+        QStringList paths = options->paths;
+        if (!options->geometry.isNull()) paths << options->geometry;
+        const Examiner examiner(options->geometry);
+        status = options->json ? checkAsJson(paths, examiner) : checkAsText(paths, examiner);
+    });
 }
 
 }  // namespace quarn::tool

@@ -1,9 +1,8 @@
 #include <QDir>
 
-#include "CommandLine.h"
 #include "Console.h"
 #include "DipoleDemo.h"
-#include "Subcommands.h"
+#include "commands/Commands.h"
 #include "files/InputFile.h"
 #include "files/OutputFile.h"
 #include "files/ProjectOnDisk.h"
@@ -17,7 +16,7 @@ namespace {
 
 constexpr float ismBand = 2.45e9F;
 constexpr float xBand = 10e9F;
-const QPair<QString, double> millimetres{QStringLiteral("mm"), 1e-3};
+const QPair<QString, double> millimetres{text("mm"), 1e-3};
 
 Waveform* modulatedGaussian(float frequency) {
     constexpr float pulseWidth = 512;
@@ -49,11 +48,11 @@ void describePlaneWave(ProjectFile& project) {
     project.setBoundaryConditions(new BoundaryConditions(open, open, open, open, open, open, 8));
     project.setAmbientConditions(new AmbientConditions(
         298.15F, AmbientConditions::HeatTransfer, airConvection, AmbientConditions::HeatTransfer, airConvection));
-    project.setPlaneWave(new TFSFPlaneWave(
-        90, 180, 1, PlaneWave::Theta, QStringLiteral("plane-wave.inc"), true, true, true, true, true, true));
+    project.setPlaneWave(
+        new TFSFPlaneWave(90, 180, 1, PlaneWave::Theta, text("plane-wave.inc"), true, true, true, true, true, true));
     project.getWaveforms().push_back(modulatedGaussian(ismBand));
     endWhenConverged(project, 20000, ismBand);
-    project.getSteadyStateFrequencies().push_back({ismBand, QStringLiteral("2.45GHz")});
+    project.getSteadyStateFrequencies().push_back({ismBand, text("2.45GHz")});
 }
 
 /// One cell of an endless array in x and y, lit from 30 degrees off its normal.
@@ -66,7 +65,7 @@ void describePeriodicCell(ProjectFile& project) {
     boundaries->addPeriodicScanAngleParameters(phi, theta, xBand);
     project.setDisplayUnits(millimetres);
     project.setBoundaryConditions(boundaries);
-    project.setPlaneWave(new PlaneWave(theta, phi, 1, PlaneWave::Phi, QStringLiteral("periodic-cell.inc")));
+    project.setPlaneWave(new PlaneWave(theta, phi, 1, PlaneWave::Phi, text("periodic-cell.inc")));
     project.getWaveforms().push_back(new Waveform(Waveform::Sinusoid, 0, xBand, {}, {}));
     project.setUseUsersCFL(true);
     project.setCFL(0.9F);
@@ -102,35 +101,39 @@ bool show(const Example& example, const QDir& folder) {
     const Findings findings = examine(loaded);
 
     Sheet sheet(QString::fromLatin1(example.description));
-    sheet.add(QStringLiteral("File"), path);
-    sheet.add(QStringLiteral("Size"), counted(static_cast<std::size_t>(saved.size()), QStringLiteral("byte")));
-    sheet.add(QStringLiteral("Check"), findings.summary());
-    sheet.add(QStringLiteral("Read back"), QLatin1String(identical ? "identical" : "different"));
+    sheet.add("File", path);
+    sheet.add("Size", counted(static_cast<std::size_t>(saved.size()), "byte"));
+    sheet.add("Check", findings.summary());
+    sheet.add("Read back", QLatin1String(identical ? "identical" : "different"));
     sheet.print();
     if (!findings.none()) findings.print(path);
     out() << '\n';
     return identical && findings.none();
 }
 
+ExitStatus showExamples(const QDir& folder) {
+    if (!folder.mkpath(text("."))) throw FileProblem(folder.path(), "cannot make the folder");
+    bool isAllRight = true;
+    for (const Example& example : examples) isAllRight = show(example, folder) && isAllRight;
+    isAllRight = showDipole(folder.filePath(text(dipoleFile)), folder) && isAllRight;
+    out() << "\nSee one with: quarn show " << folder.filePath(text(examples[0].fileName)) << '\n';
+    return isAllRight ? ExitFine : ExitFindings;
+}
+
 }  // namespace
 
-int runDemo(const QStringList& arguments) {
-    CommandLine commandLine(
-        QStringLiteral("demo"),
-        QStringLiteral("Describes example runs through the library, checks and saves them, reads the files back and\n"
-                       "compares. For one, a half-wave dipole, it goes on to the far field: it puts the exact fields\n"
-                       "of the dipole where an engine would, transforms them and compares with the closed form.\n"
-                       "Exit status 1 when something differs or is found."));
-    commandLine.addFile(QStringLiteral("DIR"), QStringLiteral("The folder for the files; made if there is none."));
-    if (!commandLine.parse(arguments)) return ExitFine;
-
-    const QDir folder(commandLine.files().constFirst());
-    if (!folder.mkpath(QStringLiteral("."))) throw FileProblem(folder.path(), QStringLiteral("cannot make the folder"));
-    bool allRight = true;
-    for (const Example& example : examples) allRight = show(example, folder) && allRight;
-    allRight = showDipole(folder.filePath(QLatin1String(dipoleFile)), folder) && allRight;
-    out() << "\nSee one with: quarn show " << folder.filePath(QLatin1String(examples[0].fileName)) << '\n';
-    return allRight ? ExitFine : ExitFindings;
+void addDemo(CLI::App& quarn, int& status) {
+    const auto path = std::make_shared<QString>();
+    CLI::App& command = addCommand(
+        quarn,
+        "demo",
+        "Takes example runs through the whole path, one to its far field",
+        text("Describes example runs through the library, checks and saves them, reads the files back and\n"
+             "compares. One of them, a half-wave dipole, continues to the far field: its exact fields take the\n"
+             "place of an engine's results, are transformed and compared with the closed form.\n"
+             "Exit status 1 when something differs or is found."));
+    addArgument(command, "DIR", *path, "The folder for the files; created if it does not exist.");
+    command.callback([path, &status] { status = showExamples(QDir(*path)); });
 }
 
 }  // namespace quarn::tool

@@ -1,9 +1,8 @@
 #include <algorithm>
 #include <optional>
 
-#include "CommandLine.h"
 #include "Console.h"
-#include "Subcommands.h"
+#include "commands/Commands.h"
 #include "files/CsvWriter.h"
 #include "files/InputFile.h"
 #include "files/MultiPointSet.h"
@@ -17,52 +16,51 @@ namespace quarn::tool {
 
 namespace {
 
-const QStringList timeColumn{QStringLiteral("time_s")};
-const QStringList frequencyColumn{QStringLiteral("frequency_hz")};
-const QStringList cellColumns{QStringLiteral("i"), QStringLiteral("j"), QStringLiteral("k")};
-
-QString whatToDoWith(FileKind kind) {
+QString adviceFor(FileKind kind) {
     switch (kind) {
         case FileKind::MeshlessVias:
         case FileKind::Geometry:
         case FileKind::Project:
-            return QStringLiteral("'quarn show' tells what it holds");
+            return text("'quarn show' tells what it holds");
         case FileKind::Unknown:
-            return QStringLiteral("say with --as KIND what records it holds");
+            return text("say with --as KIND what records it holds");
         case FileKind::OtherResult:
-            return QStringLiteral("it cannot be exported");
+            return text("it cannot be exported");
         default:
-            return QStringLiteral("leave --as out");
+            return text("leave --as out");
     }
 }
 
 FileProblem notExported(const InputFile& file, FileKind kind) {
-    return {file.name(), QStringLiteral("is %1; ").arg(description(kind)) + whatToDoWith(kind)};
+    return {file.name(), text("is %1; %2").arg(description(kind), adviceFor(kind))};
 }
 
-int statusOfIncomplete(const InputFile& file, std::size_t bytes) {
-    if (bytes == 0) return ExitFine;
-    complain(QStringLiteral("%1: cut short: %2").arg(file.name(), incompleteRecordText(bytes)));
+ExitStatus reportCutShort(const InputFile& file, const QString& what) {
+    printError(text("%1: cut short: %2").arg(file.name(), what));
     return ExitFindings;
 }
 
-int exportRecords(const RecordKind& kind, const InputFile& file) {
-    CsvWriter csv;
-    return statusOfIncomplete(file, kind.exportRows(kind, file, csv));
+ExitStatus reportIncomplete(const InputFile& file, std::size_t bytes) {
+    return bytes == 0 ? ExitFine : reportCutShort(file, incompleteRecordText(bytes));
 }
 
-/// What says what it is cannot be read as something else.
-int exportRecordsAs(const RecordKind& kind, const InputFile& file) {
+ExitStatus exportRecords(const RecordKind& kind, const InputFile& file) {
+    CsvWriter csv;
+    return reportIncomplete(file, kind.exportRows(kind, file, csv));
+}
+
+/// A file that says what it is cannot be read as something else.
+ExitStatus exportRecordsAs(const RecordKind& kind, const InputFile& file) {
     const FileKind found = kindOf(file.beginning());
     if (found == FileKind::Unknown || found == kind.fileKind) return exportRecords(kind, file);
     throw notExported(file, found);
 }
 
-int exportNearZonePoint(const InputFile& input) {
+ExitStatus exportNearZonePoint(const InputFile& input) {
     NearZoneFile file(input);
-    QStringList columns = timeColumn;
+    QString columns = text("time_s");
     for (const NearZoneGroup& group : file.groups()) {
-        columns << vectorColumns(QString::fromLatin1(group.name), QString::fromUtf8(group.unit), Components::Real);
+        columns += u',' + vectorColumns(text(group.name), text(group.unit), Components::Real);
     }
     CsvWriter csv;
     csv.addHeader(columns);
@@ -73,68 +71,54 @@ int exportNearZonePoint(const InputFile& input) {
         }
         csv.endRow();
     }
-    return statusOfIncomplete(input, file.incompleteBytes());
+    return reportIncomplete(input, file.incompleteBytes());
 }
 
-int exportSarPlane(const InputFile& file) {
+ExitStatus exportSarPlane(const InputFile& file) {
     SarResultReader reader;
     open(reader, file);
     CsvWriter csv;
-    csv.addHeader(cellColumns + QStringList(QStringLiteral("sar_w_per_kg")));
+    csv.addHeader("i,j,k,sar_w_per_kg");
     std::int64_t records = 0;
     for (SarResult::Record record; reader.readRecord(record); ++records) {
-        csv.add(record.i);
-        csv.add(record.j);
-        csv.add(record.k);
-        csv.add(record.value);
-        csv.endRow();
+        csv.addRow(record.i, record.j, record.k, record.value);
     }
     if (records >= reader.getNumberOfRecords()) return ExitFine;
-    complain(file.name() +
-             QStringLiteral(": cut short: %1 of %2 records").arg(records).arg(reader.getNumberOfRecords()));
-    return ExitFindings;
+    return reportCutShort(file, text("%1 of %2 records").arg(records).arg(reader.getNumberOfRecords()));
 }
 
 /// Why samples of a cut are missing from the table.
 QStringList lossesOf(const PatternCut& cut) {
     const int announced = cut.plane.GetNumberOfPoints();
-    const auto samples = [](int count) { return counted(static_cast<std::size_t>(count), QStringLiteral("sample")); };
+    const auto samples = [](int count) { return counted(count, "sample"); };
     QStringList losses;
     if (cut.refusal) {
-        losses << QStringLiteral("refused at line %1, %2").arg(cut.refusal->line).arg(cut.refusal->reason);
+        losses << text("refused at line %1, %2").arg(cut.refusal->line).arg(cut.refusal->reason);
     } else if (cut.missingSamples > 0) {
-        losses << QStringLiteral("cut short: %1 of %2 samples").arg(announced - cut.missingSamples).arg(announced);
+        losses << text("cut short: %1 of %2 samples").arg(announced - cut.missingSamples).arg(announced);
     } else if (cut.leftOutLines > 0) {
-        losses << samples(cut.leftOutLines) +
-                      QStringLiteral(" left out behind the %1 that NUPOIN announces").arg(announced);
+        losses << samples(cut.leftOutLines) + text(" left out behind the %1 that NUPOIN announces").arg(announced);
     }
     if (cut.coincidingSamples > 0) {
         losses << samples(cut.coincidingSamples) +
-                      QStringLiteral(" left out: a sample at the same angle with another gain came before");
+                      text(" left out: a sample at the same angle with another gain came before");
     }
     return losses;
 }
 
-int exportPattern(const QString& name, const QByteArray& content) {
+ExitStatus exportPattern(const QString& name, const QByteArray& content) {
     CsvWriter csv;
-    csv.addHeader({QStringLiteral("cut"),
-                   QStringLiteral("angle_deg"),
-                   QStringLiteral("gain_power_ratio"),
-                   QStringLiteral("second")});
+    csv.addHeader("cut,angle_deg,gain_power_ratio,second");
     std::int32_t number = 0;
-    int status = ExitFine;
+    ExitStatus status = ExitFine;
     for (const PatternCut& cut : readPatternFile(name, content)) {
         ++number;
         for (const QString& loss : lossesOf(cut)) {
-            complain(name + QStringLiteral(":%1: cut %2: ").arg(cut.line).arg(number) + loss);
+            printError(name + text(":%1: cut %2: ").arg(cut.line).arg(number) + loss);
             status = ExitFindings;
         }
         for (const auto& [angle, values] : cut.plane.GetSamples()) {
-            csv.add(number);
-            csv.add(angle);
-            csv.add(values.first);
-            csv.add(values.second);
-            csv.endRow();
+            csv.addRow(number, angle, values.first, values.second);
         }
     }
     return status;
@@ -144,25 +128,24 @@ int exportPattern(const QString& name, const QByteArray& content) {
 class GroupExport {
 public:
     GroupExport(MultiPointSet& set, const SetGroup& group)
-        : m_set(set), m_group(group), m_values(static_cast<std::size_t>(group.columns().size())) {
+        : m_set(set), m_group(group), m_values(static_cast<std::size_t>(group.numberOfComponents())) {
         if (m_set.reader.readGeometry(m_points)) return;
         throw unreadable(m_set.reader.getGeometryFileName());
     }
 
     void addHeader() {
-        m_csv.addHeader((m_group.isSteady() ? frequencyColumn : timeColumn) + cellColumns + m_group.columns());
+        m_csv.addHeader(text(m_group.isSteady() ? "frequency_hz,i,j,k," : "time_s,i,j,k,") + m_group.columns());
     }
 
-    /// Returns how many points there are of which all components are known; none when files are missing.
+    /// Returns the number of points with all components; nothing when files are missing.
     std::optional<std::size_t> addRows(int index) {
         constexpr std::size_t piece = 1 << 14;
-        const auto& list = m_group.isSteady() ? m_set.frequencies : m_set.times;
         m_group.choose(m_set.reader, index);
         if (!begin(index)) return std::nullopt;
         std::size_t point = 0;
         while (const std::size_t count = read(std::min(piece, m_points.size() - point))) {
             for (std::size_t i = 0; i < count; ++i, ++point) {
-                addRow(list[static_cast<std::size_t>(index)], m_points[point], i);
+                addRow(m_set.listFor(m_group)[static_cast<std::size_t>(index)], m_points[point], i);
             }
         }
         m_set.reader.endTimestep();
@@ -201,7 +184,7 @@ private:
     std::vector<std::vector<float>> m_values;  ///< by component
 };
 
-/// What the user chose of a multi-point result; null where nothing.
+/// The part of a multi-point result that the user chose; null where the option is not given.
 struct Choice {
     QString group;
     QString index;
@@ -215,49 +198,45 @@ const SetGroup& chosenGroup(const MultiPointSet& set, const Choice& choice, cons
         if (group.name() == choice.group || (choice.group.isNull() && set.groups.size() == 1)) return group;
         names << group.name();
     }
-    if (names.empty()) throw FileProblem(name, QStringLiteral("holds no group of fields"));
-    throw WrongUsage(QStringLiteral("Choose a group with --group: %1.").arg(names.join(QStringLiteral(", "))));
+    if (names.empty()) throw FileProblem(name, "holds no group of fields");
+    throw WrongUsage(text("Choose a group with --group: %1.").arg(names.join(", ")));
 }
 
-int chosenIndex(const QString& text, int indices) {
+int chosenIndex(const QString& given, int indices) {
     bool isNumber = false;
-    const int index = text.toInt(&isNumber);
+    const int index = given.toInt(&isNumber);
     if (isNumber && index >= 0 && index < indices) return index;
-    throw WrongUsage(indices == 0
-                         ? QStringLiteral("--index %1 is beyond the end: nothing is recorded yet.").arg(text)
-                         : QStringLiteral("--index needs a number from 0 to %2, not '%1'.").arg(text).arg(indices - 1));
+    throw WrongUsage(indices == 0 ? text("--index %1 is beyond the end: nothing is recorded yet.").arg(given)
+                                  : text("--index needs a number from 0 to %2, not '%1'.").arg(given).arg(indices - 1));
 }
 
-int exportMultiPoint(const InputFile& file, const Choice& choice) {
+ExitStatus exportMultiPoint(const InputFile& file, const Choice& choice) {
     MultiPointSet set(file);
     const SetGroup& group = chosenGroup(set, choice, file.name());
     int first = 0;
-    int end = set.indicesOf(group);
+    int end = static_cast<int>(set.listFor(group).size());
     if (!choice.index.isNull()) {
         first = chosenIndex(choice.index, end);
         end = first + 1;
     }
     GroupExport rows(set, group);
     rows.addHeader();
-    int status = ExitFine;
+    ExitStatus status = ExitFine;
     for (int index = first; index < end; ++index) {
         const auto points = rows.addRows(index);
         const int expected = set.reader.getNumberOfPoints();
         if (points && *points >= static_cast<std::size_t>(expected)) continue;
-        complain(file.name() + QStringLiteral(": cut short: %1 of %2 points at index %3")
-                                   .arg(points.value_or(0))
-                                   .arg(expected)
-                                   .arg(index));
-        status = ExitFindings;
+        status =
+            reportCutShort(file, text("%1 of %2 points at index %3").arg(points.value_or(0)).arg(expected).arg(index));
     }
     return status;
 }
 
-int exportByContent(const InputFile& file, const Choice& choice) {
+ExitStatus exportByContent(const InputFile& file, const Choice& choice) {
     const FileKind kind = kindOf(file.beginning());
     if (kind == FileKind::MultiPoint) return exportMultiPoint(file, choice);
     if (choice.hasAny()) {
-        throw WrongUsage(QStringLiteral("--group and --index are for multi-point results, but '%1' is %2.")
+        throw WrongUsage(text("--group and --index are for multi-point results, but '%1' is %2.")
                              .arg(file.name(), description(kind)));
     }
     if (kind == FileKind::NearZonePoint) return exportNearZonePoint(file);
@@ -267,49 +246,58 @@ int exportByContent(const InputFile& file, const Choice& choice) {
     throw notExported(file, kind);
 }
 
-QString helpText() {
-    return QStringLiteral(
-               "Writes what a result file holds as comma-separated values (CSV) to standard output. RESULT is a\n"
-               "near-zone point, a SAR plane, the far-zone box, an antenna pattern, the BASE_info.bin of a\n"
-               "multi-point result, or with --as a file of records. A pipe is read to its end, and so is standard\n"
-               "input, which '-' stands for.\n\n"
-               "Columns end in their unit: s, hz, v, a, w, t, kg, deg, v_per_m, a_per_m, a_per_m2, w_per_kg; _re and\n"
-               "_im are the parts of a complex number; i, j and k number cells. They are, of\n"
-               "  a near-zone point\n      time_s, then such as total_e_x_v_per_m for each field and axis\n"
-               "  a multi-point result\n      time_s,i,j,k, then such as total_e_x_v_per_m for each axis; or\n"
-               "      frequency_hz,i,j,k, then such as total_e_x_re_v_per_m, total_e_x_im_v_per_m\n"
-               "  a SAR plane\n      i,j,k,sar_w_per_kg\n"
-               "  an antenna pattern\n      cut,angle_deg,gain_power_ratio,second (what a line has behind the gain)\n"
-               "and of the kinds of records for --as%1\n"
-               "The components e_theta and e_phi of far-zone records are in volts: the field times the distance.\n\n"
-               "Exit status: 0 fine, 1 the file is cut short or not read in all parts, 2 it cannot be used.")
-        .arg(recordKindsText());
+ExitStatus exportResult(const QString& name, const QString& records, const Choice& choice) {
+    if (records.isNull()) return exportByContent(InputFile(name), choice);
+    if (choice.hasAny()) {
+        throw WrongUsage("--group and --index are for multi-point results, not for records (--as).");
+    }
+    return exportRecordsAs(recordKindNamed(records), InputFile(name));
 }
+
+constexpr char helpText[] =
+    "Writes what a result file holds as comma-separated values (CSV) to standard output. RESULT is a\n"
+    "near-zone point, a SAR plane, the far-zone box, an antenna pattern, the BASE_info.bin of a\n"
+    "multi-point result, or with --as a file of records. A pipe is read to its end, and so is standard\n"
+    "input, which '-' stands for.\n\n"
+    "Column names end in their unit: s, hz, v, a, w, t, kg, deg, v_per_m, a_per_m, a_per_m2, w_per_kg;\n"
+    "_re and _im are the parts of a complex number; i, j and k number cells. The columns are, for\n"
+    "  a near-zone point\n      time_s, then such as total_e_x_v_per_m for each field and axis\n"
+    "  a multi-point result\n      time_s,i,j,k, then such as total_e_x_v_per_m for each axis; or\n"
+    "      frequency_hz,i,j,k, then such as total_e_x_re_v_per_m, total_e_x_im_v_per_m\n"
+    "  a SAR plane\n      i,j,k,sar_w_per_kg\n"
+    "  an antenna pattern\n      cut,angle_deg,gain_power_ratio,second (what a line has behind the gain)\n"
+    "and for the kinds of records that --as takes%1\n"
+    "The components e_theta and e_phi of far-zone records are in volts: the field times the distance.\n\n"
+    "Exit status: 0 fine, 1 the file is cut short or not read in all parts, 2 it cannot be used.";
 
 }  // namespace
 
-int runExport(const QStringList& arguments) {
-    const QString as = QStringLiteral("as");
-    const QString group = QStringLiteral("group");
-    const QString index = QStringLiteral("index");
-    CommandLine commandLine(QStringLiteral("export"), helpText());
-    commandLine.addOption(
-        as, QStringLiteral("What the records are, for files that do not say it."), QStringLiteral("KIND"));
-    commandLine.addOption(
-        group, QStringLiteral("The group of a multi-point result, such as transient-total-E."), QStringLiteral("NAME"));
-    commandLine.addOption(index,
-                          QStringLiteral("Only this time step or frequency of a multi-point result, counted from 0."),
-                          QStringLiteral("N"));
-    commandLine.addFile(QStringLiteral("RESULT"), QStringLiteral("The file to export."));
-    if (!commandLine.parse(arguments)) return ExitFine;
-
-    const QString name = commandLine.files().constFirst();
-    const Choice choice{commandLine.value(group), commandLine.value(index)};
-    if (!commandLine.isSet(as)) return exportByContent(InputFile(name), choice);
-    if (choice.hasAny()) {
-        throw WrongUsage(QStringLiteral("--group and --index are for multi-point results, not for records (--as)."));
-    }
-    return exportRecordsAs(recordKindNamed(commandLine.value(as)), InputFile(name));
+void addExport(CLI::App& quarn, int& status) {
+    struct Options {
+        QString name;
+        QString records;
+        Choice choice;
+    };
+    const auto options = std::make_shared<Options>();
+    CLI::App& command =
+        addCommand(quarn, "export", "Writes what a result file holds as CSV", text(helpText).arg(recordKindsText()));
+    addOption(command,
+              "--as",
+              "KIND",
+              options->records,
+              "The kind of the records, for files that do not tell it themselves.");
+    addOption(command,
+              "--group",
+              "NAME",
+              options->choice.group,
+              "The group of a multi-point result, such as transient-total-E.");
+    addOption(command,
+              "--index",
+              "N",
+              options->choice.index,
+              "Only this time step or frequency of a multi-point result,\ncounted from 0.");
+    addArgument(command, "RESULT", options->name, "The file to export.");
+    command.callback([options, &status] { status = exportResult(options->name, options->records, options->choice); });
 }
 
 }  // namespace quarn::tool

@@ -2,11 +2,10 @@
 #include <QFileInfo>
 #include <cmath>
 
-#include "CommandLine.h"
 #include "Console.h"
 #include "ProgressBar.h"
 #include "Quantity.h"
-#include "Subcommands.h"
+#include "commands/Commands.h"
 #include "commands/FarZonePlan.h"
 #include "files/FarZoneBoxFile.h"
 #include "files/FarZoneOutput.h"
@@ -24,16 +23,15 @@ namespace {
 
 FarZoneBox boxOf(const ProjectFile& project, const QString& path, const Grid& grid) {
     if (!project.getBoundaryConditions()) {
-        throw FileProblem(path, QStringLiteral("has no boundary conditions, and so no far-zone box"));
+        throw FileProblem(path, "has no boundary conditions, and so no far-zone box");
     }
     BoundaryConditions boundaries = *project.getBoundaryConditions();
     boundaries.cacheVariables();
     const FarZoneBox box(boundaries, grid);
     if (!box.isValid()) {
-        throw FileProblem(
-            path,
-            QStringLiteral("there is no far-zone box: it needs open boundaries, one PEC plane at most, and "
-                           "cells between the margins of the grid"));
+        throw FileProblem(path,
+                          "there is no far-zone box: it needs open boundaries, one PEC plane at most, and "
+                          "cells between the margins of the grid");
     }
     return box;
 }
@@ -45,15 +43,15 @@ public:
     FarZone(const FieldsOnSSFarZoneBox& fields, const FarZoneJob& job)
         : m_processor(&fields, job.frequency, 0, 0), m_power(powerOf(fields, m_processor)) {
         if (std::isfinite(m_power.watts) && m_power.watts > 0.0) return;
-        throw FileProblem(job.boxFile,
-                          QStringLiteral("the fields give a radiated power of %1 W; the run has probably diverged")
-                              .arg(m_power.watts));
+        throw FileProblem(
+            job.boxFile,
+            text("the fields give a radiated power of %1 W; the run has probably diverged").arg(m_power.watts));
     }
 
     const RadiatedPower& power() const { return m_power; }
 
     FarZoneRecords in(const FarZoneAngles& directions) const {
-        ProgressBar bar(QStringLiteral("Far field"));
+        ProgressBar bar(text("Far field"));
         FarZoneRecords records;
         if (m_processor.computeFields(directions, records, bar.reporter())) return records;
         throw std::runtime_error("the far field was not computed, as the fields on the box are not complete");
@@ -61,7 +59,7 @@ public:
 
 private:
     static RadiatedPower powerOf(const FieldsOnSSFarZoneBox& fields, const PostProcessSSFarZoneFields& processor) {
-        ProgressBar bar(QStringLiteral("Radiated power"));
+        ProgressBar bar(text("Radiated power"));
         return radiatedPower(fields, processor, bar.reporter());
     }
 
@@ -70,7 +68,7 @@ private:
 };
 
 PolarCurve curveOf(const FarZone& farZone, double azimuth) {
-    PolarCurve curve{QStringLiteral("phi = %1°").arg(azimuth), {}, {}};
+    PolarCurve curve{text("phi = %1°").arg(azimuth), {}, {}};
     for (const auto& record : farZone.in(polarCut(azimuth))) {
         curve.angles.push_back(toDegrees(record.theta));
         curve.values.push_back(farZone.power().directivity(record));
@@ -80,7 +78,7 @@ PolarCurve curveOf(const FarZone& farZone, double azimuth) {
 
 QString peakText(const RadiatedPower& power) {
     const auto rounded = [](double value) { return std::round(100.0 * value) / 100.0; };
-    return QStringLiteral("%1 dBi at theta %2, phi %3")
+    return text("%1 dBi at theta %2, phi %3")
         .arg(numberText(rounded(power.directivity(power.peak))),
              degrees(rounded(toDegrees(power.peak.theta))),
              degrees(rounded(toDegrees(power.peak.phi))));
@@ -88,20 +86,20 @@ QString peakText(const RadiatedPower& power) {
 
 void makeFolderOf(const QString& file) {
     const QString folder = QFileInfo(file).path();
-    if (!QDir().mkpath(folder)) throw FileProblem(folder, QStringLiteral("the folder cannot be made"));
+    if (!QDir().mkpath(folder)) throw FileProblem(folder, "the folder cannot be made");
 }
 
 /// An image of the principal cuts; null when none is wanted.
 QByteArray plotOf(const FarZoneJob& job, const FarZone& farZone, const QString& frequency) {
     if (job.plot.isEmpty()) return {};
-    const QString title = QStringLiteral("Directivity in dBi at ") + frequency;
+    const QString title = text("Directivity in dBi at ") + frequency;
     return polarPlot(*imageFormatOf(job.plot), title, {curveOf(farZone, 0.0), curveOf(farZone, 90.0)});
 }
 
 /// Everything is computed before the first file is written.
 void writeFarFields(const FarZoneJob& job, const std::vector<FarZoneAngles>& directions,
                     const FieldsOnSSFarZoneBox& fields) {
-    const QString frequency = withPrefix(job.frequency, QStringLiteral("Hz"));
+    const QString frequency = withPrefix(job.frequency, "Hz");
     const FarZone farZone(fields, job);
     const QByteArray plot = plotOf(job, farZone, frequency);
     std::vector<FarZoneRecords> patterns;
@@ -109,27 +107,26 @@ void writeFarFields(const FarZoneJob& job, const std::vector<FarZoneAngles>& dir
     for (const FarZoneAngles& angles : directions) patterns.push_back(farZone.in(angles));
 
     for (const QString& output : job.outputs()) makeFolderOf(output);
-    Sheet sheet(QStringLiteral("%1: far field at %2").arg(job.boxFile, frequency));
-    sheet.add(QStringLiteral("Radiated power"), withPrefix(farZone.power().watts, QStringLiteral("W")));
-    sheet.add(QStringLiteral("Peak directivity"), peakText(farZone.power()));
+    Sheet sheet(text("%1: far field at %2").arg(job.boxFile, frequency));
+    sheet.add("Radiated power", withPrefix(farZone.power().watts, "W"));
+    sheet.add("Peak directivity", peakText(farZone.power()));
     for (std::size_t i = 0; i < patterns.size(); ++i) {
         const auto& [recordFile, tableFile] = job.patterns[i];
         writeRecords(recordFile, patterns[i]);
         writeTable(tableFile, patterns[i], farZone.power());
-        sheet.add(QStringLiteral("Pattern"), counted(patterns[i].size(), QStringLiteral("direction")));
-        sheet.addDetail(QStringLiteral("Records"), recordFile);
-        sheet.addDetail(QStringLiteral("Table"), tableFile);
+        sheet.add("Pattern", counted(patterns[i].size(), "direction"));
+        sheet.addDetail("Records", recordFile);
+        sheet.addDetail("Table", tableFile);
     }
     if (!job.plot.isEmpty()) {
         writeFile(job.plot, plot);
-        sheet.add(QStringLiteral("Plot"), job.plot);
+        sheet.add("Plot", job.plot);
     }
     sheet.print();
 }
 
-int run(const QStringList& files, const FarZoneOptions& options) {
-    const QString& projectPath = files.at(0);
-    const QString& geometryPath = files.at(1);
+ExitStatus run(const QString& projectPath, const QString& geometryPath, const QStringList& boxFiles,
+               const FarZoneOptions& options) {
     const LoadedProject project(projectPath, readFile(projectPath));
     const LoadedGeometry geometry(geometryPath, readFile(geometryPath));
     const FarZoneBox box = boxOf(project.project, projectPath, geometry.grid);
@@ -137,7 +134,7 @@ int run(const QStringList& files, const FarZoneOptions& options) {
         return loadBoxFields(job.boxFile, box, geometry.grid, geometryPath, job.frequency);
     };
 
-    const FarZonePlan plan = planFarZone(project.project, projectPath, files.mid(2), options);
+    const FarZonePlan plan = planFarZone(project.project, projectPath, boxFiles, options);
     QStringList inputs{projectPath, geometryPath};
     for (const FarZoneJob& job : plan.jobs) inputs << job.boxFile;
     checkOutputs(plan, inputs);
@@ -154,71 +151,66 @@ int run(const QStringList& files, const FarZoneOptions& options) {
     return ExitFine;
 }
 
-double numberFrom(const CommandLine& commandLine, const QString& option, double least, double most) {
-    bool isNumber = false;
-    const double value = commandLine.value(option).toDouble(&isNumber);
-    if (isNumber && value >= least && value <= most) return value;
+void checkPlot(const QString& path) {
+    const auto format = imageFormatOf(path);
+    if (!format) throw WrongUsage("--plot needs the name of a file that ends in .svg or .png.");
+    if (canPlot(*format)) return;
     throw WrongUsage(
-        QStringLiteral("--%1 needs a number from %2 to %3.").arg(option, numberText(least), numberText(most)));
+        "--plot needs gnuplot, which is not installed or cannot draw such images; install it, or leave --plot "
+        "out.");
 }
 
-FarZoneOptions optionsFrom(const CommandLine& commandLine) {
-    FarZoneOptions options;
-    if (commandLine.isSet(QStringLiteral("frequency"))) {
-        options.frequency = numberFrom(commandLine, QStringLiteral("frequency"), 1.0, 1e15);
-    }
-    options.takesAnyFrequency = commandLine.isSet(QStringLiteral("force"));
-    if (commandLine.isSet(QStringLiteral("step"))) {
-        options.step = numberFrom(commandLine, QStringLiteral("step"), 0.1, 90.0);
-    }
-    options.folder = commandLine.value(QStringLiteral("out"));
-    if (!commandLine.isSet(QStringLiteral("plot"))) return options;
-    options.plot = commandLine.value(QStringLiteral("plot"));
-    const auto format = imageFormatOf(options.plot);
-    if (!format) throw WrongUsage(QStringLiteral("--plot needs the name of a file that ends in .svg or .png."));
-    if (!canPlot(*format)) {
-        throw WrongUsage(
-            QStringLiteral("--plot needs gnuplot, which is not installed or cannot draw such images; install it, or "
-                           "leave --plot out."));
-    }
-    return options;
-}
+constexpr char helpText[] =
+    "Transforms the steady-state fields on the far-zone box of a run into far fields, for each\n"
+    "steady-state frequency of the project, in the directions of its far-zone requests, or of a\n"
+    "sphere where it has none. Each list of directions gives a file of records (.uan) and a table\n"
+    "of comma-separated values: the angles in degrees; distance times field in volts by component,\n"
+    "real and imaginary part (e_theta_re, e_theta_im, e_phi_re, e_phi_im); directivity; axial\n"
+    "ratio. Radiated power and peak directivity go to standard output.\n\n"
+    "The names of the files hold the frequency unless it is the only one of the project. Nothing\n"
+    "is written before all box files have been checked.";
 
 }  // namespace
 
-int runFarZone(const QStringList& arguments) {
-    CommandLine commandLine(
-        QStringLiteral("farzone"),
-        QStringLiteral("Transforms the steady-state fields on the far-zone box of a run into far fields, for each\n"
-                       "steady-state frequency of the project, in the directions of its far-zone requests, or of a\n"
-                       "sphere where it has none. Each list of directions gives a file of records (.uan) and a table\n"
-                       "of comma-separated values: the angles in degrees; distance times field in volts by component,\n"
-                       "real and imaginary part (e_theta_re, e_theta_im, e_phi_re, e_phi_im); directivity; axial\n"
-                       "ratio. Radiated power and peak directivity go to standard output.\n\n"
-                       "The names of the files hold the frequency unless it is the only one of the project. Nothing\n"
-                       "is written before all box files have been checked."));
-    commandLine.addOption(QStringLiteral("frequency"),
-                          QStringLiteral("Computes this one of the project's frequencies only, in Hz."),
-                          QStringLiteral("HZ"));
-    commandLine.addOption(QStringLiteral("force"),
-                          QStringLiteral("Takes a --frequency that is not one of the project's."));
-    commandLine.addOption(QStringLiteral("step"),
-                          QStringLiteral("A sphere at this step instead of the requests."),
-                          QStringLiteral("DEGREES"));
-    commandLine.addOption(QStringLiteral("out"),
-                          QStringLiteral("The folder for the files; made if there is none."),
-                          QStringLiteral("DIR"));
-    commandLine.addOption(QStringLiteral("plot"),
-                          QStringLiteral("An image of the cuts at the azimuths 0 and 90 degrees, as SVG or PNG by the "
-                                         "ending of the name (.svg, .png). Needs gnuplot."),
-                          QStringLiteral("FILE"));
-    commandLine.addFile(QStringLiteral("PROJECT"), QStringLiteral("The project file of the run."));
-    commandLine.addFile(QStringLiteral("GEOMETRY"), QStringLiteral("Its geometry file."));
-    commandLine.addFiles(QStringLiteral("BOXFILE"),
-                         QStringLiteral("The fields on the far-zone box: a file for each frequency, in the order of "
-                                        "the project, or the folder that holds the folders of the frequencies."));
-    if (!commandLine.parse(arguments)) return ExitFine;
-    return run(commandLine.files(), optionsFrom(commandLine));
+void addFarZone(CLI::App& quarn, int& status) {
+    struct Arguments {
+        QString project;
+        QString geometry;
+        QStringList boxFiles;
+        FarZoneOptions options;
+    };
+    const auto given = std::make_shared<Arguments>();
+    FarZoneOptions& options = given->options;
+    CLI::App& command =
+        addCommand(quarn, "farzone", "Computes far fields from the fields on a far-zone box", text(helpText));
+    addOption(command,
+              "--frequency",
+              "HZ",
+              options.frequency,
+              {1.0, 1e15},
+              "Computes this one of the project's frequencies only, in Hz.");
+    addFlag(command, "--force", options.takesAnyFrequency, "Takes a --frequency that is not one of the project's.");
+    addOption(
+        command, "--step", "DEGREES", options.step, {0.1, 90.0}, "A sphere at this step instead of the requests.");
+    addOption(command, "--out", "DIR", options.folder, "The folder for the files; created if it does not exist.");
+    addOption(command,
+              "--plot",
+              "FILE",
+              options.plot,
+              "An image of the cuts at the azimuths 0 and 90 degrees, as SVG or\n"
+              "PNG by the ending of the name (.svg, .png). Needs gnuplot.");
+    addArgument(command, "PROJECT", given->project, "The project file of the run.");
+    addArgument(command, "GEOMETRY", given->geometry, "Its geometry file.");
+    addArguments(command,
+                 "BOXFILE",
+                 given->boxFiles,
+                 "The fields on the far-zone box: a file for each frequency, in the\n"
+                 "order of the project, or the folder that holds the folders of the\n"
+                 "frequencies.");
+    command.callback([given, &status] {
+        if (!given->options.plot.isNull()) checkPlot(given->options.plot);
+        status = run(given->project, given->geometry, given->boxFiles, given->options);
+    });
 }
 
 }  // namespace quarn::tool

@@ -7,7 +7,6 @@
 #include <cmath>
 #include <limits>
 
-#include "CommandLine.h"
 #include "Console.h"
 #include "files/FarZoneBoxFile.h"
 #include "files/InputFile.h"
@@ -25,7 +24,7 @@ constexpr float highestFrequency = 1e15F;
 QString textOf(const std::vector<Frequency>& frequencies) {
     QStringList texts;
     for (const Frequency& frequency : frequencies) texts << frequencyText(frequency.frequency);
-    return texts.join(QStringLiteral(", "));
+    return texts.join(", ");
 }
 
 void refuseRepeated(const std::vector<Frequency>& frequencies, const QString& projectPath) {
@@ -34,7 +33,7 @@ void refuseRepeated(const std::vector<Frequency>& frequencies, const QString& pr
             frequencies.begin(), i, [i](const Frequency& earlier) { return earlier.frequency == i->frequency; });
         if (!isRepeated) continue;
         throw FileProblem(projectPath,
-                          QStringLiteral("lists the steady-state frequency %1 twice; remove one of the two lines")
+                          text("lists the steady-state frequency %1 twice; remove one of the two lines")
                               .arg(frequencyText(i->frequency)));
     }
 }
@@ -43,7 +42,7 @@ void checkRange(const std::vector<Frequency>& frequencies, const QString& projec
     for (const auto& [frequency, folder] : frequencies) {
         if (frequency >= lowestFrequency && frequency <= highestFrequency) continue;
         throw FileProblem(projectPath,
-                          QStringLiteral("lists a steady-state frequency of %1 Hz; it must be from 1 to 1e15 Hz")
+                          text("lists a steady-state frequency of %1 Hz; it must be from 1 to 1e15 Hz")
                               .arg(static_cast<double>(frequency)));
     }
 }
@@ -59,11 +58,11 @@ const Frequency* find(const std::vector<Frequency>& frequencies, double hertz) {
     const QString given = frequencyText(static_cast<float>(hertz));
     throw FileProblem(projectPath,
                       listed.empty()
-                          ? QStringLiteral("%1 is not one of its steady-state frequencies, as it lists none; "
-                                           "add --force to compute at this frequency nevertheless")
+                          ? text("%1 is not one of its steady-state frequencies, as it lists none; "
+                                 "add --force to compute at this frequency nevertheless")
                                 .arg(given)
-                          : QStringLiteral("%1 is not one of its steady-state frequencies, which are: %2; "
-                                           "give one of them, or add --force to compute at this frequency nevertheless")
+                          : text("%1 is not one of its steady-state frequencies, which are: %2; "
+                                 "give one of them, or add --force to compute at this frequency nevertheless")
                                 .arg(given, textOf(listed)));
 }
 
@@ -79,8 +78,7 @@ Choice choose(const std::vector<Frequency>& listed, const QString& projectPath, 
     if (!options.frequency) {
         checkRange(listed, projectPath);
         if (!listed.empty()) return {listed, areSeveral};
-        throw FileProblem(projectPath,
-                          QStringLiteral("lists no steady-state frequency; give one with --frequency and --force"));
+        throw FileProblem(projectPath, "lists no steady-state frequency; give one with --frequency and --force");
     }
     if (const Frequency* found = find(listed, *options.frequency)) return {{*found}, areSeveral};
     if (!options.takesAnyFrequency) refuseFrequency(*options.frequency, listed, projectPath);
@@ -92,20 +90,20 @@ QStringList boxFilesFor(const std::vector<Frequency>& frequencies, const QString
     if (given.size() == 1 && QFileInfo(given.first()).isDir()) {
         QStringList found;
         for (const auto& [frequency, folder] : frequencies) {
-            const QString text = frequencyText(frequency);
+            const QString shown = frequencyText(frequency);
             if (folder.isEmpty()) {
                 throw FileProblem(projectPath,
-                                  QStringLiteral("names no folder for %1; give its box file in place of the folder %2")
-                                      .arg(text, given.first()));
+                                  text("names no folder for %1; give its box file in place of the folder %2")
+                                      .arg(shown, given.first()));
             }
-            found << boxFileIn(given.first(), folder, text);
+            found << boxFileIn(given.first(), folder, shown);
         }
         if (found.removeDuplicates() == 0) return found;
-        throw FileProblem(projectPath, QStringLiteral("names the same folder for two of its frequencies"));
+        throw FileProblem(projectPath, "names the same folder for two of its frequencies");
     }
     if (static_cast<std::size_t>(given.size()) == frequencies.size()) return given;
-    throw WrongUsage(QStringLiteral("The number of box files must be %1, in the order of the frequencies (%2), and not "
-                                    "%3.")
+    throw WrongUsage(text("The number of box files must be %1, in the order of the frequencies (%2), and not "
+                          "%3.")
                          .arg(frequencies.size())
                          .arg(textOf(frequencies))
                          .arg(given.size()));
@@ -124,7 +122,7 @@ Pattern patternOf(const FarZoneRequest& request, const QString& projectPath) {
     if (file != shown) {
         throw FileProblem(
             projectPath,
-            QStringLiteral("the file name \"%1\" of a far-zone request has control characters; rename it").arg(shown));
+            text("the file name \"%1\" of a far-zone request has control characters; rename it").arg(shown));
     }
     return {file, request.getAngles()};
 }
@@ -132,7 +130,7 @@ Pattern patternOf(const FarZoneRequest& request, const QString& projectPath) {
 std::vector<Pattern> patternsFor(const ProjectFile& project, const QString& projectPath,
                                  const FarZoneOptions& options) {
     constexpr double defaultStep = 5.0;
-    const QString defaultFile = QStringLiteral("farzone.uan");
+    const QString defaultFile = text("farzone.uan");
     const auto& requests = project.getSteadyStateFarZoneRequests();
     if (options.step || requests.empty()) return {{defaultFile, sphereOf(options.step.value_or(defaultStep))}};
     std::vector<Pattern> patterns;
@@ -144,8 +142,8 @@ std::vector<Pattern> patternsFor(const ProjectFile& project, const QString& proj
     }
     if (names.removeDuplicates() == 0) return patterns;
     throw FileProblem(projectPath,
-                      QStringLiteral("several far-zone requests write to files of the same name; rename them, or use "
-                                     "--step for a sphere in their place"));
+                      "several far-zone requests write to files of the same name; rename them, or use "
+                      "--step for a sphere in their place");
 }
 
 /// Puts the label at the end of the name in front of its ending.
@@ -161,7 +159,7 @@ FarZoneJob jobFor(float frequency, const QString& boxFile, const QString& label,
     const auto pathOf = [&folder](const QString& file) { return QDir::cleanPath(folder.filePath(file)); };
     FarZoneJob job{frequency, boxFile, {}, options.plot.isEmpty() ? QString() : labelled(options.plot, label)};
     for (const Pattern& pattern : patterns) {
-        const QString table = QFileInfo(pattern.file).completeBaseName() + label + QStringLiteral(".csv");
+        const QString table = QFileInfo(pattern.file).completeBaseName() + label + text(".csv");
         job.patterns.push_back({pathOf(labelled(pattern.file, label)), pathOf(table)});
     }
     return job;
@@ -174,8 +172,8 @@ void keepOutputsOfOnlyFrequency(const FarZoneJob& job, const FarZoneJob& ofOnlyF
     for (const QString& output : job.outputs()) {
         if (!kept.contains(output)) continue;
         throw FileProblem(output,
-                          QStringLiteral("is also an output of the project's only frequency; rename one of the "
-                                         "far-zone requests, or use --step"));
+                          "is also an output of the project's only frequency; rename one of the "
+                          "far-zone requests, or use --step");
     }
 }
 
@@ -185,14 +183,14 @@ void checkPlace(const QString& output) {
     const QFileInfo file(output);
     if (file.isFile() && file.isWritable()) return;
     if (file.exists()) {
-        throw FileProblem(output, QStringLiteral("is not a file that can be written; use another --out or --plot"));
+        throw FileProblem(output, "is not a file that can be written; use another --out or --plot");
     }
     QFileInfo folder(file.isSymLink() ? QFileInfo(file.symLinkTarget()).absolutePath() : file.absolutePath());
     while (!file.isSymLink() && !folder.exists() && !folder.isRoot()) folder = QFileInfo(folder.absolutePath());
     if (folder.isDir() && folder.isWritable()) return;
     throw FileProblem(output,
-                      QStringLiteral("cannot be written, as %1 is not a folder that can be written to; use another "
-                                     "--out or --plot")
+                      text("cannot be written, as %1 is not a folder that can be written to; use another "
+                           "--out or --plot")
                           .arg(folder.filePath()));
 }
 
@@ -216,7 +214,7 @@ QString frequencyText(float hertz) {
         if (value < factor) continue;
         return QString::number(value / factor, 'g', mostDigits) + u' ' + QLatin1String(unit);
     }
-    return QString::number(value, 'g', mostDigits) + QStringLiteral(" Hz");
+    return QString::number(value, 'g', mostDigits) + text(" Hz");
 }
 
 FarZonePlan planFarZone(const ProjectFile& project, const QString& projectPath, const QStringList& boxFiles,
@@ -247,13 +245,11 @@ void checkOutputs(const FarZonePlan& plan, const QStringList& inputs) {
         const auto other = std::find_if(
             others.begin(), others.end(), [&output](const QString& path) { return isSameFile(path, output); });
         if (other != others.end()) {
-            throw FileProblem(output,
-                              QStringLiteral("is the same file as %1, another output; remove the link").arg(*other));
+            throw FileProblem(output, text("is the same file as %1, another output; remove the link").arg(*other));
         }
         const bool isInput = std::any_of(
             inputs.begin(), inputs.end(), [&output](const QString& input) { return isSameFile(input, output); });
-        if (isInput)
-            throw FileProblem(output, QStringLiteral("is an input and would be overwritten; use another --out"));
+        if (isInput) throw FileProblem(output, "is an input and would be overwritten; use another --out");
     }
 }
 

@@ -1,8 +1,7 @@
 #include <QFileInfo>
 
-#include "CommandLine.h"
 #include "Console.h"
-#include "Subcommands.h"
+#include "commands/Commands.h"
 #include "files/GeometryOnDisk.h"
 #include "files/InputFile.h"
 #include "files/OutputFile.h"
@@ -38,52 +37,58 @@ CanonicalForm canonicalForm(const QString& path) {
     }
 }
 
-/// Whether both are names of one file, which writing would change. A terminal may be both standard input and output.
+// Whether writing would change the file that was read. A terminal may be both standard input and output.
 bool isSameStoredFile(const QString& in, const QString& out) {
-    const QString source = in == QLatin1String("-") ? QStringLiteral("/dev/stdin") : in;
-    const QString target = out == QLatin1String("-") ? QStringLiteral("/dev/stdout") : out;
-    return QFileInfo(source).isFile() && isSameFile(source, target);
+    const QString source = withoutDash(in, "/dev/stdin");
+    return QFileInfo(source).isFile() && isSameFile(source, withoutDash(out, "/dev/stdout"));
 }
 
-void complainAboutLoss(const QString& path, const Findings& loss) {
+void printLoss(const QString& path, const Findings& loss) {
     constexpr int most = 5;
-    for (const QString& text : loss.warnings) complain(QStringLiteral("%1: warning: %2").arg(path, text));
+    for (const QString& warning : loss.warnings) printError(text("%1: warning: %2").arg(path, warning));
     const QStringList texts = loss.lossTexts(path);
-    for (const QString& text : texts.mid(0, most)) complain(text);
-    QString summary = path + QStringLiteral(": ") + loss.summary();
-    if (texts.size() > most) summary += QStringLiteral("; 'quarn check' names all of them");
-    complain(summary);
+    for (const QString& line : texts.mid(0, most)) printError(line);
+    QString summary = path + text(": ") + loss.summary();
+    if (texts.size() > most) summary += text("; 'quarn check' names all of them");
+    printError(summary);
 }
 
-}  // namespace
-
-int runRewrite(const QStringList& arguments) {
-    const QString force = QStringLiteral("force");
-    CommandLine commandLine(
-        QStringLiteral("rewrite"),
-        QStringLiteral("Loads a project or geometry file and saves it in its canonical form: sections and lines in\n"
-                       "their order, no indentation, numbers in full. What 'quarn check' names as not kept is gone in\n"
-                       "OUT; how much that is, and the first lines of it, are told. OUT may be IN, where something\n"
-                       "would be gone only with --force. When anything fails, an earlier OUT stays as it was.\n"
-                       "Exit status: 0 all is kept, 1 written, but not all is kept, 2 nothing is written."));
-    commandLine.addOption(force, QStringLiteral("Writes into IN itself even where something of it would be gone."));
-    commandLine.addFile(QStringLiteral("IN"), QStringLiteral("The project or geometry file to load."));
-    commandLine.addFile(QStringLiteral("OUT"), QStringLiteral("The file to write; '-' is standard output."));
-    if (!commandLine.parse(arguments)) return ExitFine;
-
-    const QString in = commandLine.files().at(0);
-    const QString out = commandLine.files().at(1);
+ExitStatus rewrite(const QString& in, const QString& out, bool force) {
     const CanonicalForm form = canonicalForm(in);
     if (!form.loss.none()) {
-        complainAboutLoss(in, form.loss);
-        if (!commandLine.isSet(force) && isSameStoredFile(in, out)) {
+        printLoss(in, form.loss);
+        if (!force && isSameStoredFile(in, out)) {
             throw FileProblem(out,
-                              QStringLiteral("not written: it is the file that was read, which would lose what is not "
-                                             "kept; write to another file, or add --force"));
+                              "not written: it is the file that was read, which would lose what is not "
+                              "kept; write to another file, or add --force");
         }
     }
     writeFile(out, form.bytes);
     return form.loss.none() ? ExitFine : ExitFindings;
+}
+
+}  // namespace
+
+void addRewrite(CLI::App& quarn, int& status) {
+    struct Options {
+        QString in;
+        QString out;
+        bool force = false;
+    };
+    const auto options = std::make_shared<Options>();
+    CLI::App& command = addCommand(
+        quarn,
+        "rewrite",
+        "Loads a file and saves it in its canonical form",
+        text("Loads a project or geometry file and saves it in its canonical form: sections and lines in\n"
+             "their order, no indentation, numbers in full. OUT lacks what 'quarn check' names as not kept;\n"
+             "the number of these lines and the first of them are printed. OUT may be IN; where IN would\n"
+             "lose something, that needs --force. When anything fails, an earlier OUT stays as it was.\n"
+             "Exit status: 0 all is kept, 1 written, but not all is kept, 2 nothing is written."));
+    addFlag(command, "--force", options->force, "Writes into IN itself even where something of it is lost.");
+    addArgument(command, "IN", options->in, "The project or geometry file to load.");
+    addArgument(command, "OUT", options->out, "The file to write; '-' is standard output.");
+    command.callback([options, &status] { status = rewrite(options->in, options->out, options->force); });
 }
 
 }  // namespace quarn::tool

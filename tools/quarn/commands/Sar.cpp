@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "CommandLine.h"
 #include "Console.h"
 #include "Quantity.h"
-#include "Subcommands.h"
+#include "commands/Commands.h"
 #include "files/DeferredSignals.h"
 #include "files/InputFile.h"
 #include "quarn/FileReplacement.h"
@@ -17,139 +16,132 @@ namespace quarn::tool {
 
 namespace {
 
-const QString action = QStringLiteral("combine");
-
-// Before anything is missed that only a known action needs.
-void checkAction(const QStringList& arguments) {
-    const auto isOption = [](const QString& argument) { return argument.startsWith(u'-'); };
-    const auto given = std::find_if_not(arguments.begin(), arguments.end(), isOption);
-    if (given == arguments.end() || *given == action) return;
-    throw WrongUsage(QStringLiteral("Unknown action '%1'; the only one is '%2'.").arg(*given, action));
-}
-
-// The library reads and writes files by name.
-QString withStandardStreams(const QString& name, const QString& stream) {
-    return name == QLatin1String("-") ? stream : name;
-}
-
 bool isFile(const QString& path) { return QFileInfo(resolveLongPath(path, true)).isFile(); }
 
-// Throws a FileProblem when it cannot be told whether there is such a file.
+// Throws a FileProblem when the system does not tell whether the file exists.
 bool exists(const QString& path) {
     std::error_code failure;
     const auto status = std::filesystem::status(QFile::encodeName(resolveLongPath(path, true)).toStdString(), failure);
     if (status.type() == std::filesystem::file_type::not_found) return false;
     if (status_known(status)) return true;
-    throw FileProblem(path, QStringLiteral("cannot be opened: ") + QString::fromStdString(failure.message()));
+    throw FileProblem(path, text("cannot be opened: ") + QString::fromStdString(failure.message()));
 }
 
-// Names each part that does not exist, was given before or holds more than is joined of it. Throws a FileProblem when
-// none exists.
+// What is odd about a part, given the parts before it; null when nothing is.
+QStringList oddities(const QString& part, const QStringList& earlier) {
+    if (!exists(part)) return {text("does not exist; its records are not in the output")};
+    QStringList result;
+    SarResultReader reader;
+    if (isFile(part) && reader.beginResultReading(part) &&
+        reader.getNumberOfRecordsLeft() > reader.getNumberOfRecords())
+        result << text("holds %1 records, but its header says %2; only these are joined")
+                      .arg(reader.getNumberOfRecordsLeft())
+                      .arg(reader.getNumberOfRecords());
+    const auto isSame = [&](const QString& other) { return isSameFile(other, part); };
+    const auto same = std::find_if(earlier.begin(), earlier.end(), isSame);
+    if (same != earlier.end()) {
+        result << text(
+                      "is the same file as '%1'; its records are in the output once for each time it was given. Name "
+                      "each part once.")
+                      .arg(*same);
+    }
+    return result;
+}
+
+// Prints what is odd about the parts. Throws a FileProblem when no part exists.
 ExitStatus checkParts(const QStringList& parts, const QString& output) {
     ExitStatus status = ExitFine;
     QStringList found;
-    const auto name = [&](const QString& part, const QString& problem) {
-        complain(FileProblem(part, problem));
-        status = ExitFindings;
-    };
     for (const QString& part : parts) {
-        if (!exists(part)) {
-            name(part, QStringLiteral("does not exist; its records are not in the output"));
-            continue;
+        for (const QString& oddity : oddities(part, found)) {
+            printError(FileProblem(part, oddity));
+            status = ExitFindings;
         }
-        SarResultReader reader;
-        if (isFile(part) && reader.beginResultReading(part)) {
-            const std::int64_t held = reader.getNumberOfRecordsLeft();
-            const QString text = QStringLiteral("holds %1 records, but its header says %2; only these are joined");
-            if (held > reader.getNumberOfRecords()) name(part, text.arg(held).arg(reader.getNumberOfRecords()));
-        }
-        const auto same = [&](const QString& other) { return isSameFile(other, part); };
-        const auto earlier = std::find_if(found.begin(), found.end(), same);
-        if (earlier != found.end()) {
-            name(part,
-                 QStringLiteral("is the same file as '%1'; its records are in the output once for each time it was "
-                                "given. Name each part once.")
-                     .arg(*earlier));
-        }
-        found << part;
+        if (exists(part)) found << part;
     }
-    if (found.isEmpty()) throw FileProblem(output, QStringLiteral("not written, as none of the parts exists"));
+    if (found.isEmpty()) throw FileProblem(output, "not written, as none of the parts exists");
     return status;
 }
 
-// What the library does not say of a failure. Empty where nothing more is known.
+// What the library does not say about a failure; null when nothing more is known.
 QString cureFor(const QStringList& parts, const QString& output) {
     for (const QString& path : QStringList(output) + parts) {
         if (!isPathTooLong(path)) continue;
-        return QStringLiteral(
-                   " The path '%1' has %2 characters: to use paths of 259 and more, set the environment "
-                   "variable KIVEN_LONGPATHSUPPORT.")
+        return text(
+                   " The path '%1' has %2 characters: to use paths of 259 and more, set the environment variable "
+                   "KIVEN_LONGPATHSUPPORT.")
             .arg(path, QString::number(path.size()));
     }
     for (const QString& part : parts) {
         SarResultReader reader;
         if (!exists(part) || (isFile(part) && reader.beginResultReading(part))) continue;
-        if (!isFile(part)) {
-            return QStringLiteral(" '%1' is not a regular file: copy what it holds into one.").arg(part);
-        }
+        if (!isFile(part)) return text(" '%1' is not a regular file: copy what it holds into one.").arg(part);
         const FileKind kind = kindOf(InputFile(part).beginning());
-        return QStringLiteral(" '%1' is %2%3.")
-            .arg(part,
-                 description(kind),
-                 QLatin1String(kind == FileKind::SarPlane ? " whose header is damaged" : ", not a SAR plane"));
+        return text(kind == FileKind::SarPlane ? " '%1' is %2 whose header is damaged."
+                                               : " '%1' is %2, not a SAR plane.")
+            .arg(part, description(kind));
     }
-    if (QFileInfo(output).isDir()) return QStringLiteral(" '%1' is a folder.").arg(output);
+    if (QFileInfo(output).isDir()) return text(" '%1' is a folder.").arg(output);
     const QString reason = FileReplacement(output).errorString();
-    return reason.isEmpty() ? QString() : QStringLiteral(" '%1': %2.").arg(output, reason);
+    return reason.isEmpty() ? QString() : text(" '%1': %2.").arg(output, reason);
 }
 
-void combine(const QStringList& parts, const QString& output) {
+void join(const QStringList& parts, const QString& output) {
     const DeferredSignals deferred(output);
     QString error;
     QString warning;
-    const auto goOn = [&](std::size_t, std::size_t) { return !deferred.isPending(); };
-    if (SarResult::combineFiles(parts, output, error, warning, goOn)) return;
+    const auto report = [&](std::size_t, std::size_t) { return !deferred.isPending(); };
+    if (SarResult::combineFiles(parts, output, error, warning, report)) return;
     throw std::runtime_error((error + u' ' + warning + cureFor(parts, output)).toStdString());
 }
 
-// Nothing of a device or a pipe, which may be standard output itself.
-void printWhatWasWritten(const QString& output) {
+// Prints nothing for a device or a pipe, which may be standard output itself.
+void printPlane(const QString& path) {
     SarResultReader reader;
-    if (!isFile(output) || !reader.beginResultReading(output)) return;
-    const QString records = counted(static_cast<std::size_t>(reader.getNumberOfRecords()), QStringLiteral("record"));
-    const QString index = QString::number(reader.getPlaneIndex());
-    const QString text = QStringLiteral("%1: SAR plane %2, index %3, %4");
-    out() << printable(text.arg(output, planeName(reader.getPlane()), index, records)) << '\n';
+    if (!isFile(path) || !reader.beginResultReading(path)) return;
+    out() << printable(text("%1: SAR plane %2, index %3, %4")
+                           .arg(path, planeName(reader.getPlane()), QString::number(reader.getPlaneIndex()))
+                           .arg(counted(reader.getNumberOfRecords(), "record")))
+          << '\n';
+}
+
+// The library reads and writes files by name.
+ExitStatus combine(QStringList parts, QString output) {
+    output = withoutDash(output, "/dev/stdout");
+    for (QString& part : parts) part = withoutDash(part, "/dev/stdin");
+    checkName(output);
+    const ExitStatus status = checkParts(parts, output);
+    join(parts, output);
+    printPlane(output);
+    return status;
 }
 
 }  // namespace
 
-int runSar(const QStringList& arguments) {
-    CommandLine commandLine(
-        QStringLiteral("sar"),
-        QStringLiteral(
-            "'quarn sar combine OUT PART...' joins the files that several processes wrote of one SAR plane,\n"
-            "in their order. PARTs stay. A PART that does not exist is named and passed over; one that is\n"
-            "given twice is named, and its records are joined each time. In both cases OUT is written and\n"
-            "the exit status is 1. When a PART holds fewer records than it says or the disk is full, OUT\n"
-            "holds the records joined so far, unless it is one of the PARTs; on any other failure, or when\n"
-            "interrupted, an earlier OUT stays as it was."));
-    commandLine.addFile(action, QStringLiteral("What to do."));
-    commandLine.addFile(QStringLiteral("OUT"), QStringLiteral("The file to write."));
-    commandLine.addFiles(QStringLiteral("PART"), QStringLiteral("The files to join."));
-    checkAction(arguments);
-    if (!commandLine.parse(arguments)) return ExitFine;
-
-    const QString output = withStandardStreams(commandLine.files().at(1), QStringLiteral("/dev/stdout"));
-    QStringList parts;
-    for (const QString& part : commandLine.files().mid(2)) {
-        parts << withStandardStreams(part, QStringLiteral("/dev/stdin"));
-    }
-    checkName(output);
-    const ExitStatus status = checkParts(parts, output);
-    combine(parts, output);
-    printWhatWasWritten(output);
-    return status;
+void addSar(CLI::App& quarn, int& status) {
+    struct Options {
+        QString output;
+        QStringList parts;
+    };
+    const auto options = std::make_shared<Options>();
+    CLI::App& command = addCommand(
+        quarn,
+        "sar",
+        "Joins partial files of a SAR plane",
+        text("'quarn sar combine OUT PART...' joins the files that several processes wrote of one SAR plane,\n"
+             "in their order. The PARTs stay. A PART that does not exist is named and left out; one that is\n"
+             "given twice is named, and its records are joined each time. In both cases OUT is written and\n"
+             "the exit status is 1. When a PART holds fewer records than it says or the disk is full, OUT\n"
+             "holds the records joined so far, unless it is one of the PARTs; on any other failure, or when\n"
+             "interrupted, an earlier OUT stays as it was."));
+    const auto checkAction = [](const CLI::results_t& given) {
+        if (given.front() == "combine") return true;
+        throw WrongUsage(text("Unknown action '%1'; the only one is 'combine'.").arg(text(given.front().c_str())));
+    };
+    command.add_option("combine", checkAction, "What to do.")->required();
+    addArgument(command, "OUT", options->output, "The file to write.");
+    addArguments(command, "PART", options->parts, "The files to join.");
+    command.callback([options, &status] { status = combine(options->parts, options->output); });
 }
 
 }  // namespace quarn::tool

@@ -1,12 +1,7 @@
-#include "CommandLine.h"
 #include "Console.h"
-#include "Subcommands.h"
+#include "commands/Commands.h"
 #include "files/InputFile.h"
-#include "sheets/GeometrySheet.h"
-#include "sheets/PatternSheet.h"
-#include "sheets/ProjectSheet.h"
-#include "sheets/ResultSheet.h"
-#include "sheets/ViaSheet.h"
+#include "sheets/Sheets.h"
 
 namespace quarn::tool {
 
@@ -27,31 +22,33 @@ Sheet sheetOf(const QString& name) {
         case FileKind::AntennaPattern:
             return sheetOfPattern(name, content);
         default:
-            throw FileProblem(
-                name, QStringLiteral("is of an unknown kind; if it holds records, 'quarn export --as KIND' reads it"));
+            throw FileProblem(name, "is of an unknown kind; if it holds records, 'quarn export --as KIND' reads it");
     }
 }
 
 }  // namespace
 
-int runShow(const QStringList& arguments) {
-    CommandLine commandLine(
-        QStringLiteral("show"),
-        QStringLiteral("Says what files are and what they hold. Their content tells the kind, their names do not.\n"
-                       "Known are project and geometry files, files of meshless vias, NSMA antenna patterns, and of\n"
-                       "the engine's results near-zone points, multi-point results (give the BASE_info.bin), SAR\n"
-                       "planes and fields on the far-zone box; '-' is standard input. Files of records do not say\n"
-                       "what they are: see 'quarn export'."));
-    commandLine.addFiles(QStringLiteral("FILE"), QStringLiteral("The files to show."));
-    if (!commandLine.parse(arguments)) return ExitFine;
-
-    bool first = true;
-    return forEachFile(commandLine.files(), [&first](const QString& path) {
-        const Sheet sheet = sheetOf(path);
-        if (!first) out() << '\n';
-        first = false;
-        sheet.print();
-        return ExitFine;
+void addShow(CLI::App& quarn, int& status) {
+    const auto paths = std::make_shared<QStringList>();
+    CLI::App& command =
+        addCommand(quarn,
+                   "show",
+                   "Says what files are and what they hold",
+                   text("Says what files are and what they hold. Their content tells the kind, not their names.\n"
+                        "It knows project and geometry files, files of meshless vias, NSMA antenna patterns and these\n"
+                        "results of the engine: near-zone points, multi-point results (give the BASE_info.bin), SAR\n"
+                        "planes and fields on the far-zone box. '-' is standard input. Files of records do not say\n"
+                        "what they are: see 'quarn export'."));
+    addArguments(command, "FILE", *paths, "The files to show.");
+    command.callback([paths, &status] {
+        bool isFirst = true;
+        status = forEachFile(*paths, [&isFirst](const QString& path) {
+            const Sheet sheet = sheetOf(path);
+            if (!isFirst) out() << '\n';
+            isFirst = false;
+            sheet.print();
+            return ExitFine;
+        });
     });
 }
 

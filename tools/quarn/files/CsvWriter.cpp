@@ -1,15 +1,13 @@
 #include "files/CsvWriter.h"
 
+#include <QStringList>
 #include <charconv>
 
 #include "Console.h"
 
 namespace quarn::tool {
 
-void CsvWriter::addHeader(const QStringList& columns) {
-    m_text += columns.join(u',').toUtf8();
-    m_text += '\n';
-}
+void CsvWriter::addHeader(const QString& columns) { m_text += columns.toUtf8() + '\n'; }
 
 template <class Number>
 void CsvWriter::addNumber(Number value) {
@@ -46,23 +44,17 @@ void CsvWriter::flush() {
     m_text.clear();
 }
 
-QString columnName(const QString& name, const QString& unit) {
-    QString column = (name + u'_' + unit).toLower();
-    for (const QChar blank : {u' ', u'-'}) column.replace(blank, u'_');
-    return column.replace(u'/', QLatin1String("_per_")).replace(u'²', u'2');
-}
-
-QStringList vectorColumns(const QString& field, const QString& unit, Components components) {
+QString vectorColumns(const QString& field, const QString& unit, Components components) {
     QStringList columns;
-    for (const char* axis : {"_x", "_y", "_z"}) {
-        const QString name = field + QLatin1String(axis);
-        if (components == Components::Real) {
-            columns << columnName(name, unit);
-        } else {
-            columns << columnName(name + QLatin1String("_re"), unit) << columnName(name + QLatin1String("_im"), unit);
+    for (const char* axis : {"x", "y", "z"}) {
+        for (const char* part : {"_", "_re_", "_im_"}) {
+            if ((components == Components::Real) != (part == QLatin1String("_"))) continue;
+            columns << field + u'_' + QLatin1String(axis) + QLatin1String(part) + unit;
         }
     }
-    return columns;
+    QString names = columns.join(u',').toLower();
+    for (const QChar blank : {u' ', u'-'}) names.replace(blank, u'_');
+    return names.replace(u'/', QLatin1String("_per_")).replace(u'²', u'2');
 }
 
 }  // namespace quarn::tool

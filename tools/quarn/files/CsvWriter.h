@@ -1,14 +1,14 @@
 #pragma once
 
 #include <QByteArray>
-#include <QStringList>
+#include <QString>
 #include <complex>
 #include <cstdint>
 
 namespace quarn::tool {
 
-/// Rows of comma-separated values, on standard output or at the end of a text. Numbers have as few digits as give them
-/// back exactly; what is no number is "nan" or "inf".
+/// Rows of comma-separated values, on standard output or at the end of a byte array. Numbers have the fewest digits
+/// that give them back exactly; a value that is not a finite number is "nan" or "inf".
 class CsvWriter {
 public:
     CsvWriter() = default;
@@ -17,8 +17,16 @@ public:
     CsvWriter(const CsvWriter&) = delete;
     CsvWriter& operator=(const CsvWriter&) = delete;
 
-    void addHeader(const QStringList& columns);
+    /// The names of the columns, with commas between them.
+    void addHeader(const QString& columns);
 
+    template <class... Values>
+    void addRow(const Values&... values) {
+        (add(values), ...);
+        endRow();
+    }
+
+    /// The same value by value, for rows whose length is only known at run time.
     void add(float value);
     void add(double value);
     void add(std::int32_t value);
@@ -36,12 +44,9 @@ private:
     bool m_rowIsEmpty = true;
 };
 
-/// "x_v_per_m" for "x" in V/m: the name of a column with its unit.
-QString columnName(const QString& name, const QString& unit);
-
-/// The columns of a field such as "total E": "total_e_x_v_per_m" and so on for each component; when they are complex,
-/// "total_e_x_re_v_per_m", "total_e_x_im_v_per_m" and so on.
+/// The columns of a field such as "total E": "total_e_x_v_per_m" and so on for each component, with commas between
+/// them; when they are complex, "total_e_x_re_v_per_m", "total_e_x_im_v_per_m" and so on.
 enum class Components { Real, Complex };
-QStringList vectorColumns(const QString& field, const QString& unit, Components components);
+QString vectorColumns(const QString& field, const QString& unit, Components components);
 
 }  // namespace quarn::tool

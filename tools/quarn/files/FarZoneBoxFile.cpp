@@ -23,7 +23,7 @@ void checkHeader(const QString& path) {
     checkName(path);
     const QFileInfo file(path);
     if (path == QLatin1String("-") || (file.exists() && !file.isFile())) {
-        throw FileProblem(path, QStringLiteral("is not a regular file; a box file is needed"));
+        throw FileProblem(path, "is not a regular file; a box file is needed");
     }
     DataFileReader reader;
     openFarZoneBox(reader, InputFile(path));
@@ -35,14 +35,14 @@ void checkNumberOfRecords(const QString& path, const FarZoneBox& box) {
     const std::uint64_t needed = 2 * (y * z + x * z + x * y);
     const std::uint64_t bytes = static_cast<std::uint64_t>(QFileInfo(path).size()) - headerSize;
     if (bytes == needed * recordSize) return;
-    QString found = counted(bytes / recordSize, QStringLiteral("record"));
+    QString found = counted(bytes / recordSize, "record");
     if (bytes % recordSize != 0) {
-        found += QStringLiteral(" and %1 of another").arg(counted(bytes % recordSize, QStringLiteral("byte")));
+        found += text(" and %1 of another").arg(counted(bytes % recordSize, "byte"));
     }
     throw FileProblem(path,
-                      QStringLiteral("holds %1, but the far-zone box of this geometry has %2; give the box file, the "
-                                     "project and the geometry of one run that has ended")
-                          .arg(found, counted(needed, QStringLiteral("record"))));
+                      text("holds %1, but the far-zone box of this geometry has %2; give the box file, the "
+                           "project and the geometry of one run that has ended")
+                          .arg(found, counted(needed, "record")));
 }
 
 void checkValues(const QString& path, const FieldsOnSSFarZoneBox& fields) {
@@ -60,12 +60,12 @@ void checkValues(const QString& path, const FieldsOnSSFarZoneBox& fields) {
     if (notFinite > 0) {
         throw FileProblem(
             path,
-            QStringLiteral("holds %1 that %2; the run has probably diverged")
-                .arg(counted(notFinite, QStringLiteral("value")),
+            text("holds %1 that %2; the run has probably diverged")
+                .arg(counted(notFinite, "value"),
                      QLatin1String(notFinite == 1 ? "is not a finite number" : "are not finite numbers")));
     }
     if (!areAllZero) return;
-    throw FileProblem(path, QStringLiteral("all fields are zero; check that the run was excited at this frequency"));
+    throw FileProblem(path, "all fields are zero; check that the run was excited at this frequency");
 }
 
 /// Fields that turn within a cell mean nothing, and their pattern would take more directions than anybody waits for.
@@ -76,10 +76,8 @@ void checkCells(const QString& geometryPath, const FieldsOnSSFarZoneBox& fields,
             if (2.0 * std::abs(static_cast<double>(size)) <= waveLength) continue;
             throw FileProblem(
                 geometryPath,
-                QStringLiteral(
-                    "has a cell of %1 on the far-zone box, more than half the wavelength of %2; use a finer grid")
-                    .arg(withPrefix(static_cast<double>(size), QStringLiteral("m")),
-                         withPrefix(waveLength, QStringLiteral("m"))));
+                text("has a cell of %1 on the far-zone box, more than half the wavelength of %2; use a finer grid")
+                    .arg(withPrefix(static_cast<double>(size), "m"), withPrefix(waveLength, "m")));
         }
     }
 }
@@ -90,15 +88,14 @@ QString boxFileIn(const QString& base, const QString& folder, const QString& fre
     const QString inside = QDir::cleanPath(folder);
     if (QDir::isAbsolutePath(inside) || inside == QLatin1String("..") || inside.startsWith(QLatin1String("../"))) {
         throw FileProblem(base,
-                          QStringLiteral("the project's folder \"%1\" for %2 lies outside; give the box file in place "
-                                         "of the folder")
+                          text("the project's folder \"%1\" for %2 lies outside; give the box file in place "
+                               "of the folder")
                               .arg(folder, frequency));
     }
     const QDir searched(QDir(base).filePath(inside));
     if (!searched.exists()) {
-        throw FileProblem(
-            searched.path(),
-            QStringLiteral("there is no such folder, in which the project has its results for %1").arg(frequency));
+        throw FileProblem(searched.path(),
+                          text("there is no such folder, in which the project has its results for %1").arg(frequency));
     }
     QStringList found;
     for (const QString& name : searched.entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
@@ -109,10 +106,9 @@ QString boxFileIn(const QString& base, const QString& folder, const QString& fre
     throw FileProblem(
         searched.path(),
         found.isEmpty()
-            ? QStringLiteral("holds no far-zone box file for %1; the run must save the fields on the far-zone box")
-                  .arg(frequency)
-            : QStringLiteral("holds several far-zone box files for %1: %2; give the right one in place of the folder")
-                  .arg(frequency, found.join(QStringLiteral(", "))));
+            ? text("holds no far-zone box file for %1; the run must save the fields on the far-zone box").arg(frequency)
+            : text("holds several far-zone box files for %1: %2; give the right one in place of the folder")
+                  .arg(frequency, found.join(", ")));
 }
 
 FieldsOnSSFarZoneBox loadBoxFields(const QString& path, const FarZoneBox& box, const Grid& grid,
@@ -124,8 +120,8 @@ FieldsOnSSFarZoneBox loadBoxFields(const QString& path, const FarZoneBox& box, c
     if (!fields.isComplete()) throw FileProblem(path, problem);
     if (!fields.setupImageFields(grid)) {
         throw FileProblem(geometryPath,
-                          QStringLiteral("its grid does not have the conducting plane where the far-zone box has it; "
-                                         "give the geometry of the same run"));
+                          "its grid does not have the conducting plane where the far-zone box has it; "
+                          "give the geometry of the same run");
     }
     checkValues(path, fields);
     checkCells(geometryPath, fields, frequency);

@@ -1,5 +1,6 @@
 #include "files/FarZoneOutput.h"
 
+#include "Text.h"
 #include "files/CsvWriter.h"
 #include "files/OutputFile.h"
 #include "quarn/DataFileWriter.h"
@@ -9,35 +10,27 @@ namespace quarn::tool {
 void writeRecords(const QString& path, const FarZoneRecords& records) {
     writeFile(path, [&records](const QString& made) {
         DataFileWriter writer;
-        bool isWritten = writer.open(made, QStringLiteral("wb"));
+        bool isWritten = writer.open(made, text("wb"));
         for (const auto& record : records) isWritten = isWritten && FarZoneSSFieldFile::writeRecord(writer, record);
         return writer.close() && isWritten;
     });
 }
 
 void writeTable(const QString& path, const FarZoneRecords& records, const RadiatedPower& power) {
-    QByteArray text;
+    QByteArray table;
     {
-        CsvWriter csv(text);
-        csv.addHeader({QStringLiteral("theta_deg"),
-                       QStringLiteral("phi_deg"),
-                       QStringLiteral("e_theta_re"),
-                       QStringLiteral("e_theta_im"),
-                       QStringLiteral("e_phi_re"),
-                       QStringLiteral("e_phi_im"),
-                       QStringLiteral("directivity_dbi"),
-                       QStringLiteral("axial_ratio_db")});
+        CsvWriter csv(table);
+        csv.addHeader("theta_deg,phi_deg,e_theta_re,e_theta_im,e_phi_re,e_phi_im,directivity_dbi,axial_ratio_db");
         for (const auto& record : records) {
-            csv.add(static_cast<float>(toDegrees(record.theta)));
-            csv.add(static_cast<float>(toDegrees(record.phi)));
-            csv.add(record.eTheta);
-            csv.add(record.ePhi);
-            csv.add(static_cast<float>(power.directivity(record)));
-            csv.add(static_cast<float>(axialRatio(record)));
-            csv.endRow();
+            csv.addRow(static_cast<float>(toDegrees(record.theta)),
+                       static_cast<float>(toDegrees(record.phi)),
+                       record.eTheta,
+                       record.ePhi,
+                       static_cast<float>(power.directivity(record)),
+                       static_cast<float>(axialRatio(record)));
         }
     }
-    writeFile(path, text);
+    writeFile(path, table);
 }
 
 }  // namespace quarn::tool

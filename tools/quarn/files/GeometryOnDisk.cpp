@@ -10,8 +10,7 @@ namespace quarn::tool {
 
 LoadedGeometry::LoadedGeometry(const QString& path, const QByteArray& content) {
     if (!isGeometryFile(content)) {
-        throw FileProblem(path,
-                          QStringLiteral("not a geometry file: its first line does not name a geometry file version"));
+        throw FileProblem(path, "not a geometry file: its first line does not name a geometry file version");
     }
     DecodedText decoded = decodedAsUtf8(content);
     text = decoded.text;

@@ -12,7 +12,7 @@
 #include "files/GeometryOnDisk.h"
 #include "files/PatternFile.h"
 #include "quarn/FileHeader.h"
-#include "sheets/ViaSheet.h"
+#include "quarn/MeshlessVia.h"
 
 namespace quarn::tool {
 
@@ -42,6 +42,12 @@ bool isRecordFile(const QByteArray& content) {
            qFromLittleEndian<quint16>(content.constData() + versionAt) == 0;
 }
 
+bool isViaFile(const QByteArray& content) {
+    constexpr int headerSize = 16;
+    return content.size() >= headerSize &&
+           qFromUnaligned<std::uint64_t>(content.constData()) == MeshlessVia::byte_order_check;
+}
+
 bool isProject(const QByteArray& content) {
     return content.contains("begin_<FDTDProject>") || content.contains("begin_<FEMProject>");
 }
@@ -64,14 +70,13 @@ constexpr Recogniser recognisers[] = {
     {FileKind::AntennaPattern, "an antenna pattern", isPatternFile},
 };
 
-bool isStandardInput(const QString& path) { return path == QLatin1String("-"); }
+bool isDash(const QString& path) { return path == QLatin1String("-"); }
 
 void openForReading(QFile& file) {
     const QString path = file.fileName();
     checkName(path);
-    if (!isStandardInput(path) && QFileInfo(path).isDir())
-        throw FileProblem(path, QStringLiteral("is a folder, not a file"));
-    const bool isOpen = isStandardInput(path) ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    if (!isDash(path) && QFileInfo(path).isDir()) throw FileProblem(path, "is a folder, not a file");
+    const bool isOpen = isDash(path) ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!isOpen) throw FileProblem(path, file.errorString());
 }
 
@@ -94,7 +99,7 @@ QByteArray readFile(const QString& path, const QString& tooLarge) {
 /// A temporary file need not have a name, where systems allow it, so that nothing of it stays whatever ends the
 /// program. Asking for its name gives it one.
 QString pathOf(const QTemporaryFile& file) {
-    const QString withoutName = QStringLiteral("/proc/self/fd/%1").arg(file.handle());
+    const QString withoutName = text("/proc/self/fd/%1").arg(file.handle());
     return QFile::exists(withoutName) ? withoutName : file.fileName();
 }
 
@@ -111,24 +116,23 @@ QString description(FileKind kind) {
     for (const Recogniser& recogniser : recognisers) {
         if (recogniser.kind == kind) return QString::fromLatin1(recogniser.description);
     }
-    return QStringLiteral("of an unknown kind");
+    return text("of an unknown kind");
 }
 
+QString withoutDash(const QString& name, const char* device) { return isDash(name) ? text(device) : name; }
+
 void checkName(const QString& path) {
-    if (path.isEmpty()) throw FileProblem(path, QStringLiteral("the file name is empty"));
+    if (path.isEmpty()) throw FileProblem(path, "the file name is empty");
     std::error_code error;
     const auto status = std::filesystem::status(QFile::encodeName(path).toStdString(), error);
     if (status_known(status) || error != std::errc::too_many_symbolic_link_levels) return;
-    throw FileProblem(path,
-                      QStringLiteral("is a link that leads nowhere but to itself; remove it or give another name"));
+    throw FileProblem(path, "is a link that leads nowhere but to itself; remove it or give another name");
 }
 
-QByteArray readFile(const QString& path) {
-    return readFile(path, QStringLiteral("larger than the %1 MiB that can be read"));
-}
+QByteArray readFile(const QString& path) { return readFile(path, text("larger than the %1 MiB that can be read")); }
 
 InputFile::InputFile(const QString& name) : m_name(name), m_path(name) {
-    if (isStandardInput(name) || !QFileInfo(name).isFile()) {
+    if (isDash(name) || !QFileInfo(name).isFile()) {
         copyToTemporaryFile();
         return;
     }
@@ -139,9 +143,9 @@ InputFile::InputFile(const QString& name) : m_name(name), m_path(name) {
 
 void InputFile::copyToTemporaryFile() {
     const QByteArray content =
-        readFile(m_name, QStringLiteral("more than the %1 MiB that can be read from a pipe; give the name of a file"));
+        readFile(m_name, text("more than the %1 MiB that can be read from a pipe; give the name of a file"));
     if (!m_copy.open() || m_copy.write(content) != content.size() || !m_copy.flush()) {
-        throw FileProblem(m_name, QStringLiteral("cannot be copied to a temporary file: ") + m_copy.errorString());
+        throw FileProblem(m_name, text("cannot be copied to a temporary file: ") + m_copy.errorString());
     }
     m_path = pathOf(m_copy);
     m_beginning = content.left(beginningSize);

@@ -31,6 +31,9 @@ QString description(FileKind kind);
 
 constexpr bool isResult(FileKind kind) { return kind <= FileKind::OtherResult; }
 
+/// The name of a file, or of the device for a standard stream when the name is "-".
+QString withoutDash(const QString& name, const char* device);
+
 /// Throws a FileProblem for the empty name, for which Qt has a warning of its own, and for a link that only leads back
 /// to itself.
 void checkName(const QString& path);

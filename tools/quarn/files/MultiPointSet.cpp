@@ -27,7 +27,7 @@ const SetGroup allGroups[] = {
 constexpr Result::Component transientComponents[] = {Result::X, Result::Y, Result::Z};
 constexpr Result::Part steadyComponents[] = {Result::Xr, Result::Xi, Result::Yr, Result::Yi, Result::Zr, Result::Zi};
 
-// The engine makes both lists before anything else, but only one that groups need is missed.
+// The engine writes both lists before anything else. A list that no group needs may be missing.
 void readLists(MultiPointSet& set) {
     const bool hasTimes = set.reader.readTimesteps(set.times);
     const bool hasFrequencies = set.reader.readFrequencies(set.frequencies);
@@ -44,7 +44,7 @@ bool SetGroup::isIn(const MultiPointResult& result) const {
                       : result.collects(static_cast<Result::TransientGroup>(m_group));
 }
 
-QStringList SetGroup::columns() const {
+QString SetGroup::columns() const {
     return vectorColumns(name().section(u'-', 1), unit(), m_isSteady ? Components::Complex : Components::Real);
 }
 
@@ -73,30 +73,26 @@ QString SetGroup::fileName(const MultiPointResult& result, int index, int compon
 }
 
 MultiPointSet::MultiPointSet(const InputFile& infoFile) {
-    const QString ending = QStringLiteral("_info.bin");
+    const QString ending = text("_info.bin");
     const auto problem = [&](const QString& text) { return FileProblem(infoFile.name(), text); };
     if (!infoFile.path().endsWith(ending)) {
         throw problem(
-            QStringLiteral("is the info file of a multi-point result; give it by its own name, "
-                           "BASE_info.bin, beside the other files of the result"));
+            text("is the info file of a multi-point result; give it by its own name, "
+                 "BASE_info.bin, beside the other files of the result"));
     }
     checkPathLength(infoFile.path());
     if (!reader.beginResultReading(infoFile.path().chopped(ending.size()))) {
         throw problem(
-            QStringLiteral("is the info file of a multi-point result, but cut short, damaged or not of "
-                           "version 0"));
+            text("is the info file of a multi-point result, but cut short, damaged or not of "
+                 "version 0"));
     }
     for (const SetGroup& group : allGroups) {
         if (group.isIn(reader)) groups.push_back(group);
     }
     if (reader.getNumberOfPoints() < 0) {
-        throw problem(QStringLiteral("is damaged: it says that there are %1 points").arg(reader.getNumberOfPoints()));
+        throw problem(text("is damaged: it says that there are %1 points").arg(reader.getNumberOfPoints()));
     }
     readLists(*this);
-}
-
-int MultiPointSet::indicesOf(const SetGroup& group) const {
-    return static_cast<int>(group.isSteady() ? frequencies.size() : times.size());
 }
 
 }  // namespace quarn::tool

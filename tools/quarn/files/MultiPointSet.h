@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <vector>
 
 #include "quarn/MultiPointResultReader.h"
@@ -25,10 +24,11 @@ public:
     bool isSteady() const { return m_isSteady; }
     bool isIn(const MultiPointResult& result) const;
 
-    /// The names of its components in a table, of both parts of each where the group is steady.
-    QStringList columns() const;
+    int numberOfComponents() const { return m_isSteady ? 6 : 3; }
 
-    /// Chooses the time step or the frequency.
+    /// The names of its components in a table, with commas between them; a steady group has two parts of each.
+    QString columns() const;
+
     void choose(MultiPointResultReader& reader, int index) const;
     /// Opens the file of a component at the chosen index; false when it cannot. Throws a FileProblem when the path is
     /// too long.
@@ -50,8 +50,8 @@ struct MultiPointSet {
     /// cannot be read.
     explicit MultiPointSet(const InputFile& infoFile);
 
-    /// How many time steps or frequencies there are so far.
-    int indicesOf(const SetGroup& group) const;
+    /// The time steps or the frequencies so far.
+    const std::vector<float>& listFor(const SetGroup& group) const { return group.isSteady() ? frequencies : times; }
 
     MultiPointResultReader reader;
     std::vector<SetGroup> groups;  ///< those that the result has

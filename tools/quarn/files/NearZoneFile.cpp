@@ -28,11 +28,10 @@ constexpr NearZoneGroup allGroups[] = {
 NearZoneFile::NearZoneFile(const InputFile& file) {
     Header header;
     checkPathLength(file.path());
-    m_file.reset(openFile(file.path(), QStringLiteral("rb")));
-    if (!m_file) throw FileProblem(file.name(), QStringLiteral("cannot be opened"));
+    m_file.reset(openFile(file.path(), text("rb")));
+    if (!m_file) throw FileProblem(file.name(), "cannot be opened");
     if (!m_result.readAndGetHeader(m_file.get(), header)) {
-        throw FileProblem(
-            file.name(), QStringLiteral("is a near-zone point whose header is cut short, damaged or not of version 0"));
+        throw FileProblem(file.name(), "is a near-zone point whose header is cut short, damaged or not of version 0");
     }
     for (const NearZoneGroup& group : allGroups) {
         if ((header.*group.isCollected)()) m_groups.push_back(group);

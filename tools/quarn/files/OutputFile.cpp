@@ -24,14 +24,14 @@ void write(const QString& path, QFile& file, const QByteArray& bytes) {
     if (isWritten) return;
     // A disk that takes a part only gives no reason; then the text is that of a file without an error.
     const bool hasReason = file.errorString() != QFile().errorString();
-    throw FileProblem(path, hasReason ? file.errorString() : QStringLiteral("cannot be written"));
+    throw FileProblem(path, hasReason ? file.errorString() : text("cannot be written"));
 }
 
 void writeToStandardOutput(const QByteArray& bytes) {
     out().flush();
     QFile file;
     file.open(stdout, QIODevice::WriteOnly);
-    write(QStringLiteral("standard output"), file, bytes);
+    write(text("standard output"), file, bytes);
 }
 
 }  // namespace
@@ -51,9 +51,9 @@ void writeFile(const QString& path, const QByteArray& bytes) {
 void writeFile(const QString& path, const std::function<bool(const QString& path)>& make) {
     const DeferredSignals deferred(path);
     const QTemporaryDir folder;
-    QFile made(folder.filePath(QStringLiteral("made")));
+    QFile made(folder.filePath(text("made")));
     if (!folder.isValid() || !make(made.fileName()) || !made.open(QIODevice::ReadOnly)) {
-        throw FileProblem(path, QStringLiteral("no temporary file can be written for it"));
+        throw FileProblem(path, "no temporary file can be written for it");
     }
     if (!deferred.isPending()) writeFile(path, made.readAll());
 }

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "Console.h"
+#include "Quantity.h"
 
 namespace quarn::tool {
 
@@ -26,14 +27,13 @@ const QLatin1String endKeyword("ENDFIL");
 const QLatin1String frequencyKeyword("PATFRE");
 const QLatin1String cutKeywords[] = {cutKeyword, QLatin1String("POLARI"), countKeyword, rangeKeyword};
 
-const QString separator = QStringLiteral(":,");
-const QString anyRange = QStringLiteral("0,0");  // which no sample depends on
+const QString separator = text(":,");
+const QString anyRange = text("0,0");  // which no sample depends on
 
-const QString countProblem = QStringLiteral("the number of samples is not a whole number of 0 or more");
-const QString rangeProblem = QStringLiteral("the first and the last angle are not two numbers");
-const QString sampleProblem =
-    QStringLiteral("the sample is not an angle and a gain, two numbers with a comma between them");
-const QString continuationProblem = QStringLiteral("samples go on behind a keyword that does not belong in a cut");
+const QString countProblem = text("the number of samples is not a whole number of 0 or more");
+const QString rangeProblem = text("the first and the last angle are not two numbers");
+const QString sampleProblem = text("the sample is not an angle and a gain, two numbers with a comma between them");
+const QString continuationProblem = text("samples go on behind a keyword that does not belong in a cut");
 
 QString decoded(const QByteArray& content) {
     return QTextCodec::codecForUtfText(content, QTextCodec::codecForName("UTF-8"))->toUnicode(content);
@@ -52,34 +52,26 @@ std::optional<double> frequencyFrom(const QString& value) {
 QString refusalReason(const QString& line) {
     QString keyword, value;
     NSMACutPlane::ProcessLine(line, keyword, value, separator);
-    if (keyword == endKeyword) return QStringLiteral("the end marker is not EOF");
-    return belongsToACut(keyword)
-               ? QStringLiteral("the polarizations are not two of V, H, LCP and RCP with a slash between them")
-               : QStringLiteral("the keyword does not belong in a cut");
+    if (keyword == endKeyword) return text("the end marker is not EOF");
+    return belongsToACut(keyword) ? text("the polarizations are not two of V, H, LCP and RCP with a slash between them")
+                                  : text("the keyword does not belong in a cut");
 }
 
-bool isNumber(const QString& text) {
-    bool isValid = false;
-    text.toDouble(&isValid);
-    return isValid;
+bool isAngle(const QString& word) { return isNumber(word) && std::isfinite(word.toFloat()); }
+
+bool splitAtComma(const QString& line, QString& first, QString& rest) {
+    return NSMACutPlane::ProcessLine(line, first, rest, ",");
 }
 
-bool isAngle(const QString& text) { return isNumber(text) && std::isfinite(text.toFloat()); }
-
-bool splitAtComma(const QString& text, QString& first, QString& rest) {
-    return NSMACutPlane::ProcessLine(text, first, rest, QStringLiteral(","));
-}
-
-bool isRange(const QString& text) {
+bool isRange(const QString& value) {
     QString first, last;
-    return splitAtComma(text, first, last) && isAngle(first) && isAngle(last);
+    return splitAtComma(value, first, last) && isAngle(first) && isAngle(last);
 }
 
 /// The sample of one line as the reader of cuts takes it.
 NSMACutPlane::Samples sampleFrom(const QString& line) {
-    QString text =
-        countKeyword + separator + QStringLiteral("1\n") + rangeKeyword + separator + anyRange + u'\n' + line;
-    QTextStream stream(&text, QIODevice::ReadOnly);
+    QString cut = countKeyword + separator + "1\n" + rangeKeyword + separator + anyRange + u'\n' + line;
+    QTextStream stream(&cut, QIODevice::ReadOnly);
     NSMACutPlane plane;
     plane.StreamIn(stream, 0.0F, NSMACutPlane::Decibels);
     return plane.GetSamples();
@@ -186,7 +178,7 @@ private:
 
     void refuse(int number, const QString& line, const QString& reason) {
         if (m_cut.refusal) return;
-        m_cut.refusal = PatternCut::Refusal{number, QStringLiteral("\"%1\": %2").arg(line.left(quotedLength), reason)};
+        m_cut.refusal = PatternCut::Refusal{number, text("\"%1\": %2").arg(line.left(quotedLength), reason)};
     }
 
     PatternCut m_cut;
@@ -238,10 +230,10 @@ bool isPatternFile(const QByteArray& content) {
 
 std::vector<PatternCut> readPatternFile(const QString& path, const QByteArray& content) {
     if (content.size() > sizeLimit) {
-        throw FileProblem(path, QStringLiteral("larger than the 64 MiB that an antenna pattern may have"));
+        throw FileProblem(path, "larger than the 64 MiB that an antenna pattern may have");
     }
-    QString text = decoded(content);
-    QTextStream lines(&text, QIODevice::ReadOnly);
+    QString decodedText = decoded(content);
+    QTextStream lines(&decodedText, QIODevice::ReadOnly);
     CutCollector collector;
     QString line, keyword, value;
     for (int number = 1; lines.readLineInto(&line); ++number) {
@@ -253,7 +245,7 @@ std::vector<PatternCut> readPatternFile(const QString& path, const QByteArray& c
             collector.addOther(number, line);
         }
         if (collector.cuts().size() <= cutLimit) continue;
-        throw FileProblem(path, QStringLiteral("has more than the %1 cuts that can be read").arg(cutLimit));
+        throw FileProblem(path, text("has more than the %1 cuts that can be read").arg(cutLimit));
     }
     collector.closeCut();
     return std::move(collector.cuts());

@@ -9,7 +9,7 @@ namespace quarn::tool {
 
 LoadedProject::LoadedProject(const QString& path, const QByteArray& content) {
     if (kindOf(content) != FileKind::Project) {
-        throw FileProblem(path, QStringLiteral("not a project file: it has no FDTDProject or FEMProject block"));
+        throw FileProblem(path, "not a project file: it has no FDTDProject or FEMProject block");
     }
     DecodedText decoded = decodedAsUtf8(content);
     text = decoded.text;

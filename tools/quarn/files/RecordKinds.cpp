@@ -3,7 +3,6 @@
 #include <tuple>
 #include <vector>
 
-#include "CommandLine.h"
 #include "Console.h"
 #include "Quantity.h"
 #include "files/ResultFile.h"
@@ -12,8 +11,6 @@
 namespace quarn::tool {
 
 namespace {
-
-QStringList columnsOf(const RecordKind& kind) { return QString::fromLatin1(kind.columns).split(u','); }
 
 template <class Record>
 void addFields(CsvWriter& csv, const Record& record) {
@@ -30,7 +27,7 @@ void addFields(CsvWriter& csv, const FarZoneSSFieldFileRecord& record) {
 template <class Codec>
 std::size_t exportRecords(DataFileReader& reader, const RecordKind& kind, CsvWriter& csv) {
     constexpr std::size_t piece = 1 << 12;
-    csv.addHeader(columnsOf(kind));
+    csv.addHeader(text(kind.columns));
     const auto bytes = static_cast<std::size_t>(reader.bytesLeft());
     std::vector<typename Codec::Record> records;
     for (bool more = true; more;) {
@@ -56,21 +53,18 @@ std::size_t exportFarZoneBox(const RecordKind& kind, const InputFile& file, CsvW
     return exportRecords<FieldsOnSteadyStateFarZoneBoxFile>(reader, kind, csv);
 }
 
-void addNumbered(QStringList& columns, const char* name, int count) {
-    for (int i = 0; i < count; ++i) columns << QStringLiteral("%1_%2_w").arg(QLatin1String(name)).arg(i);
-}
-
-/// The file says how many columns it has.
+/// The file tells the number of its columns.
 std::size_t exportDissipatedPower(const RecordKind& kind, const InputFile& file, CsvWriter& csv) {
     DataFileReader reader;
     SystemDissipatedPower codec;
     open(reader, file);
-    if (!codec.readHeader(reader))
-        throw FileProblem(file.name(),
-                          QStringLiteral("is cut short: the two bytes are missing that count the materials"));
-    QStringList columns = columnsOf(kind);
-    addNumbered(columns, "electric", codec.getHeader().numElectric);
-    addNumbered(columns, "magnetic", codec.getHeader().numMagnetic);
+    if (!codec.readHeader(reader)) {
+        throw FileProblem(file.name(), "is cut short: the two bytes are missing that count the materials");
+    }
+    QString columns = text(kind.columns);
+    const auto& header = codec.getHeader();
+    for (int i = 0; i < header.numElectric; ++i) columns += text(",electric_%1_w").arg(i);
+    for (int i = 0; i < header.numMagnetic; ++i) columns += text(",magnetic_%1_w").arg(i);
     csv.addHeader(columns);
     const auto bytes = static_cast<std::size_t>(reader.bytesLeft());
     for (SystemDissipatedPower::Record record; codec.readRecord(reader, record);) {
@@ -81,7 +75,7 @@ std::size_t exportDissipatedPower(const RecordKind& kind, const InputFile& file,
         for (const float power : record.magneticByMaterial) csv.add(power);
         csv.endRow();
     }
-    return bytes % (sizeof(float) * static_cast<std::size_t>(columns.size()));
+    return bytes % (sizeof(float) * static_cast<std::size_t>(columns.count(u',') + 1));
 }
 
 constexpr RecordKind kinds[] = {
@@ -115,22 +109,15 @@ constexpr RecordKind kinds[] = {
      exportPlain<AveragedSarStatistics>},
 };
 
-/// The columns, in lines that a terminal shows.
+/// The columns in lines that fit into a terminal.
 QString columnsText(const RecordKind& kind) {
-    constexpr int width = 76;
-    const QString indent = QStringLiteral("\n      ");
-    QString text;
-    int length = width;
-    for (const QString& column : columnsOf(kind)) {
-        if (!text.isEmpty()) text += u',';
-        if (length + column.size() >= width) {
-            text += indent;
-            length = indent.size();
-        }
-        text += column;
-        length += column.size() + 1;
+    constexpr int width = 70;
+    QStringList lines(QString{});
+    for (const QString& column : text(kind.columns).split(u',')) {
+        if (lines.last().size() + column.size() >= width) lines << QString();
+        lines.last() += column + u',';
     }
-    return text;
+    return lines.join("\n      ").chopped(1);
 }
 
 }  // namespace
@@ -141,8 +128,7 @@ const RecordKind& recordKindNamed(const QString& name) {
         names << QString::fromLatin1(kind.name);
         if (name == names.constLast()) return kind;
     }
-    throw WrongUsage(
-        QStringLiteral("Unknown kind of records '%1'; the kinds are %2.").arg(name, names.join(QStringLiteral(", "))));
+    throw WrongUsage(text("Unknown kind of records '%1'; the kinds are %2.").arg(name, names.join(", ")));
 }
 
 const RecordKind* recordKindOf(FileKind fileKind) {
@@ -154,10 +140,10 @@ const RecordKind* recordKindOf(FileKind fileKind) {
 }
 
 QString recordKindsText() {
-    QString text;
+    QString list;
     for (const RecordKind& kind : kinds)
-        text += QStringLiteral("\n  %1%2").arg(QLatin1String(kind.name), columnsText(kind));
-    return text;
+        list += text("\n  %1\n      %2").arg(QLatin1String(kind.name), columnsText(kind));
+    return list;
 }
 
 }  // namespace quarn::tool

@@ -1,29 +1,27 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 #include "files/CsvWriter.h"
 #include "files/InputFile.h"
 
 namespace quarn::tool {
 
-/// A kind of file that is a row of records and mostly does not say so itself.
+/// A kind of file that holds records one after the other. Most of these files do not say what they hold.
 struct RecordKind {
     const char* name;     ///< as on the command line
     const char* columns;  ///< separated by commas
 
-    /// Writes a row for each record and returns how many bytes at the end of the file make no whole record. Throws a
-    /// FileProblem.
+    /// Writes a row for each record and returns the number of bytes behind the last whole record. Throws a FileProblem.
     std::size_t (*exportRows)(const RecordKind& kind, const InputFile& file, CsvWriter& csv);
 
-    FileKind fileKind = FileKind::Unknown;  ///< what the content of such a file says it is
+    FileKind fileKind = FileKind::Unknown;  ///< that of a file which says what it is
 };
 
-/// Throws WrongUsage, with all names, when there is no such kind.
+/// Throws WrongUsage with the names of all kinds when there is no such kind.
 const RecordKind& recordKindNamed(const QString& name);
 
-/// The kind of records that a file says it holds; null when it does not say so.
+/// The kind of the records in such a file; null when it does not tell.
 const RecordKind* recordKindOf(FileKind fileKind);
 
 /// All kinds with their columns, for the help.

@@ -6,7 +6,7 @@
 #include "files/ProjectOnDisk.h"
 #include "findings/GeometryFindings.h"
 #include "quarn/BoundaryConditions.h"
-#include "sheets/CircuitText.h"
+#include "sheets/Sheets.h"
 
 namespace quarn::tool {
 
@@ -16,7 +16,7 @@ QString savedText(v6ProjectFile& project) { return QString::fromUtf8(savedBytes(
 
 QString savedTextWithoutBoundaries(v6ProjectFile& project) {
     constexpr auto any = BoundaryConditions::PEC;
-    const QString endOfBoundaries = QStringLiteral("end_<OuterBoundaries>\n");
+    const QString endOfBoundaries = text("end_<OuterBoundaries>\n");
     project.setBoundaryConditions(new BoundaryConditions(any, any, any, any, any, any, 0));
     QString text = savedText(project);
     const int start = text.indexOf(QLatin1String("begin_<OuterBoundaries>"));
@@ -27,8 +27,8 @@ QString savedTextWithoutBoundaries(v6ProjectFile& project) {
 Findings lossIn(BlockText input, int invalidCharacters, const BlockText& saved) {
     Findings findings;
     if (invalidCharacters > 0) {
-        findings.warnings << QStringLiteral("Characters that are not valid UTF-8 are replaced in %1.")
-                                 .arg(counted(invalidCharacters, QStringLiteral("place")));
+        findings.warnings
+            << text("Characters that are not valid UTF-8 are replaced in %1.").arg(counted(invalidCharacters, "place"));
     }
     findings.lost = linesLost(input.lines, saved.lines);
     findings.unclosed = std::move(input.unclosed);
@@ -41,22 +41,21 @@ bool Findings::none() const { return errors.empty() && warnings.empty() && lost.
 
 QString Findings::summary() const {
     QStringList parts;
-    if (!errors.empty()) parts << counted(errors.size(), QStringLiteral("error"));
-    if (!warnings.empty()) parts << counted(warnings.size(), QStringLiteral("warning"));
-    if (!lost.empty()) parts << counted(lost.size(), QStringLiteral("line")) + QStringLiteral(" not kept");
-    if (!unclosed.empty()) parts << counted(unclosed.size(), QStringLiteral("block")) + QStringLiteral(" not closed");
-    return parts.empty() ? QStringLiteral("no findings") : parts.join(QStringLiteral(", "));
+    if (!errors.empty()) parts << counted(errors.size(), "error");
+    if (!warnings.empty()) parts << counted(warnings.size(), "warning");
+    if (!lost.empty()) parts << counted(lost.size(), "line") + text(" not kept");
+    if (!unclosed.empty()) parts << counted(unclosed.size(), "block") + text(" not closed");
+    return parts.empty() ? text("no findings") : parts.join(", ");
 }
 
 QStringList Findings::lossTexts(const QString& path) const {
     QStringList texts;
     for (const LostLine& line : lost) {
-        const QString becomes =
-            line.becomes.isNull() ? QString() : QStringLiteral(", becomes \"%1\"").arg(line.becomes);
-        texts << path + QStringLiteral(":%1: not kept: ").arg(line.number) + line.text + becomes;
+        const QString becomes = line.becomes.isNull() ? QString() : text(", becomes \"%1\"").arg(line.becomes);
+        texts << path + text(":%1: not kept: ").arg(line.number) + line.text + becomes;
     }
     for (const UnclosedBlock& block : unclosed) {
-        texts << path + QStringLiteral(":%1: block <%2> is not closed").arg(block.line).arg(block.name);
+        texts << path + text(":%1: block <%2> is not closed").arg(block.line).arg(block.name);
     }
     return texts;
 }
@@ -64,19 +63,19 @@ QStringList Findings::lossTexts(const QString& path) const {
 QJsonObject Findings::toJson() const {
     QJsonArray lostLines;
     for (const LostLine& line : lost) {
-        QJsonObject object{{QStringLiteral("line"), line.number}, {QStringLiteral("text"), line.text}};
-        if (!line.becomes.isNull()) object.insert(QStringLiteral("becomes"), line.becomes);
+        QJsonObject object{{text("line"), line.number}, {text("text"), line.text}};
+        if (!line.becomes.isNull()) object.insert(text("becomes"), line.becomes);
         lostLines << object;
     }
     QJsonArray unclosedBlocks;
     for (const UnclosedBlock& block : unclosed) {
-        unclosedBlocks << QJsonObject{{QStringLiteral("line"), block.line}, {QStringLiteral("block"), block.name}};
+        unclosedBlocks << QJsonObject{{text("line"), block.line}, {text("block"), block.name}};
     }
-    return {{QStringLiteral("circuit"), QJsonArray::fromStringList(circuit)},
-            {QStringLiteral("errors"), QJsonArray::fromStringList(errors)},
-            {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)},
-            {QStringLiteral("notKept"), lostLines},
-            {QStringLiteral("unclosed"), unclosedBlocks}};
+    return {{text("circuit"), QJsonArray::fromStringList(circuit)},
+            {text("errors"), QJsonArray::fromStringList(errors)},
+            {text("warnings"), QJsonArray::fromStringList(warnings)},
+            {text("notKept"), lostLines},
+            {text("unclosed"), unclosedBlocks}};
 }
 
 void Findings::print(const QString& path) const {

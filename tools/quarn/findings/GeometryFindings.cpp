@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "Quantity.h"
+#include "Text.h"
 #include "files/GridAxes.h"
 #include "findings/LineForm.h"
 #include "quarn/quarn.h"
@@ -18,7 +19,7 @@ void addUnusableSize(QStringList& errors, const Grid& grid, const GridAxis& axis
     for (std::uint32_t i = 0; i < cells; ++i) {
         const float size = (grid.*axis.getDelta)(i);
         if (std::isfinite(size) && size > 0.0F) continue;
-        errors << QStringLiteral("Cell %1 along %2 has the unusable size %3 m.")
+        errors << text("Cell %1 along %2 has the unusable size %3 m.")
                       .arg(i)
                       .arg(QLatin1String(axis.name), numberText(static_cast<double>(size)));
         return;
@@ -28,7 +29,7 @@ void addUnusableSize(QStringList& errors, const Grid& grid, const GridAxis& axis
 void addMissingMaterial(QStringList& errors, const MaterialMap& map, const char* kind, std::int32_t position,
                         std::size_t count) {
     if (position >= 0 && static_cast<std::size_t>(position) < count) return;
-    errors << QStringLiteral("The material map '%1' names %2 material %3, but there are %4, numbered from 0.")
+    errors << text("The material map '%1' names %2 material %3, but there are %4, numbered from 0.")
                   .arg(map.getName(), QLatin1String(kind))
                   .arg(position)
                   .arg(count);
@@ -46,10 +47,9 @@ bool isWithin(const Grid& grid, const CircuitComponent& component) {
 }
 
 void removeRepeatedSizes(std::vector<BlockLine>& lines, BlockNumbers& numbers) {
-    const int deltas = numbers.of(0, QStringLiteral("Deltas"));
-    const int axes[] = {numbers.of(deltas, QStringLiteral("DelX")),
-                        numbers.of(deltas, QStringLiteral("DelY")),
-                        numbers.of(deltas, QStringLiteral("DelZ"))};
+    const int deltas = numbers.of(0, text("Deltas"));
+    const int axes[] = {
+        numbers.of(deltas, text("DelX")), numbers.of(deltas, text("DelY")), numbers.of(deltas, text("DelZ"))};
     int block = 0;
     QString last;
     const auto isRepeated = [&](const BlockLine& line) {
@@ -75,7 +75,7 @@ QStringList errorsIn(const LoadedGeometry& loaded) {
     QStringList errors;
     for (const GridAxis& axis : gridAxes) {
         if ((loaded.grid.*axis.getNumberOfCells)() == 0) {
-            errors << QStringLiteral("The grid has no cells along %1.").arg(QLatin1String(axis.name));
+            errors << text("The grid has no cells along %1.").arg(QLatin1String(axis.name));
         }
         addUnusableSize(errors, loaded.grid, axis);
     }
@@ -100,7 +100,7 @@ QStringList misplacedComponents(const ProjectFile& project, const Grid& grid) {
     if (!project.getComponentManager()) return errors;
     for (const CircuitComponent* component : project.getComponentManager()->getComponents()) {
         if (isWithin(grid, *component)) continue;
-        errors << QStringLiteral("A component is outside the grid, at cell (%2, %3, %4): %1")
+        errors << text("A component is outside the grid, at cell (%2, %3, %4): %1")
                       .arg(component->qstr_short())
                       .arg(component->getXIndex())
                       .arg(component->getYIndex())
@@ -111,8 +111,8 @@ QStringList misplacedComponents(const ProjectFile& project, const Grid& grid) {
 
 void normalize(std::vector<BlockLine>& lines, BlockNumbers& numbers) {
     removeRepeatedSizes(lines, numbers);
-    const QString definition = QStringLiteral("GridDefinition");
-    const int adaptive = numbers.of(numbers.of(0, QStringLiteral("AdaptiveGridDefinition")), definition);
+    const QString definition = text("GridDefinition");
+    const int adaptive = numbers.of(numbers.of(0, text("AdaptiveGridDefinition")), definition);
     for (BlockLine& line : lines) {
         if (line.block == adaptive) line.block = numbers.of(0, definition);
     }

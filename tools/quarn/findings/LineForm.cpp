@@ -101,10 +101,4 @@ std::vector<QStringView> wordsOf(QStringView text) {
 
 QStringView firstWordOf(QStringView text) { return takeWord(text); }
 
-bool isNumber(QStringView word) {
-    bool ok = false;
-    word.toString().toDouble(&ok);
-    return ok;
-}
-
 }  // namespace quarn::tool

@@ -16,6 +16,5 @@ QString formOf(int block, QStringView text, NumberForm form);
 
 std::vector<QStringView> wordsOf(QStringView text);
 QStringView firstWordOf(QStringView text);
-bool isNumber(QStringView word);
 
 }  // namespace quarn::tool

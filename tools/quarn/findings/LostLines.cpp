@@ -3,6 +3,7 @@
 #include <QHash>
 #include <algorithm>
 
+#include "Quantity.h"
 #include "findings/LineForm.h"
 
 namespace quarn::tool {

@@ -9,6 +9,8 @@
 #include <limits>
 #include <stdexcept>
 
+#include "Text.h"
+
 namespace quarn::tool {
 
 namespace {
@@ -16,7 +18,7 @@ namespace {
 constexpr double range = 40.0;  // dB
 constexpr double grid = 10.0;
 
-const QString program = QStringLiteral("gnuplot");
+const QString program = text("gnuplot");
 
 /// The first multiple of 10 dB that no value exceeds.
 double outerCircle(const std::vector<PolarCurve>& curves) {
@@ -38,7 +40,7 @@ QString quoted(QString text) {
 QString scriptFor(const QString& title, const std::vector<PolarCurve>& curves) {
     const double outer = outerCircle(curves);
     const double inner = outer - range;
-    QString script = QStringLiteral(
+    QString script = text(
                          "set title %1 noenhanced\nset polar\nset angles degrees\nset theta top clockwise\n"
                          "set size square\nunset border\nunset xtics\nunset ytics\nset key outside bottom center\n"
                          "set grid polar 30 linetype 1 linewidth 0.5 linecolor '#c0c0c0'\nset rrange [%2:%3]\nset "
@@ -49,15 +51,15 @@ QString scriptFor(const QString& title, const std::vector<PolarCurve>& curves) {
                          .arg(grid);
     QStringList plots;
     for (const PolarCurve& curve : curves) {
-        plots << QStringLiteral("'-' using 1:2 with lines linewidth 2 dashtype %1 title %2")
+        plots << text("'-' using 1:2 with lines linewidth 2 dashtype %1 title %2")
                      .arg(plots.size() + 1)
                      .arg(quoted(curve.title));
     }
-    script += QStringLiteral("plot ") + plots.join(QStringLiteral(", ")) + u'\n';
+    script += text("plot ") + plots.join(", ") + u'\n';
     for (const PolarCurve& curve : curves) {
         for (std::size_t i = 0; i < curve.values.size(); ++i) {
             const double value = curve.values[i] > inner ? curve.values[i] : inner;  // also for what is no number
-            script += QStringLiteral("%1 %2\n").arg(curve.angles[i]).arg(value);
+            script += text("%1 %2\n").arg(curve.angles[i]).arg(value);
         }
         script += QLatin1String("e\n");
     }
@@ -66,8 +68,8 @@ QString scriptFor(const QString& title, const std::vector<PolarCurve>& curves) {
 
 QString terminalFor(ImageFormat format) {
     return format == ImageFormat::Svg
-               ? QStringLiteral("set terminal svg size 640,680 dynamic font 'sans,12' background 'white'\n")
-               : QStringLiteral("set terminal pngcairo size 960,1020 font 'sans,18' background 'white'\n");
+               ? text("set terminal svg size 640,680 dynamic font 'sans,12' background 'white'\n")
+               : text("set terminal pngcairo size 960,1020 font 'sans,18' background 'white'\n");
 }
 
 struct Outcome {

@@ -1,4 +1,4 @@
-#include "sheets/GeometrySheet.h"
+#include "sheets/Sheets.h"
 
 #include <algorithm>
 
@@ -12,13 +12,10 @@ namespace quarn::tool {
 
 namespace {
 
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
-QString lengthText(double metres) { return withPrefix(metres, text("m")); }
-
-// The grid's upper bound is the near side of the last cell; a user thinks of the far one.
+// The grid's upper bound is the near side of the last cell; users expect the far side.
 QString axisText(const Grid& grid, const GridAxis& axis) {
     const std::uint32_t cells = (grid.*axis.getNumberOfCells)();
-    if (cells == 0) return text("no cells");
+    if (cells == 0) return "no cells";
     float smallest = (grid.*axis.getDelta)(0);
     float largest = smallest;
     for (std::uint32_t i = 1; i < cells; ++i) {
@@ -27,15 +24,12 @@ QString axisText(const Grid& grid, const GridAxis& axis) {
         largest = std::max(largest, size);
     }
     const double end = (grid.*axis.getUpperBound)() + static_cast<double>((grid.*axis.getDelta)(cells - 1));
-    const QString sizes =
-        smallest == largest
-            ? lengthText(static_cast<double>(smallest))
-            : text("%1 to %2").arg(lengthText(static_cast<double>(smallest)), lengthText(static_cast<double>(largest)));
-    return text("%1 to %2, cells of %3").arg(lengthText((grid.*axis.getOrigin)()), lengthText(end), sizes);
+    const QString sizes = smallest == largest ? withPrefix(smallest, "m") : rangeText(smallest, largest, "m");
+    return text("%1, cells of %2").arg(rangeText((grid.*axis.getOrigin)(), end, "m"), sizes);
 }
 
 void addGrid(Sheet& sheet, const Grid& grid) {
-    sheet.add(text("Grid"),
+    sheet.add("Grid",
               text("%1 x %2 x %3 cells")
                   .arg(grid.getNumberOfUserCellsInX())
                   .arg(grid.getNumberOfUserCellsInY())
@@ -43,69 +37,49 @@ void addGrid(Sheet& sheet, const Grid& grid) {
     for (const GridAxis& axis : gridAxes) sheet.addDetail(text(axis.name), axisText(grid, axis));
 }
 
-QString kindText(Material::MaterialType type) {
-    switch (type) {
-        case Material::ElectricFreeSpace:
-        case Material::MagneticFreeSpace:
-            return text("free space");
-        case Material::ElectricPerfectConductor:
-        case Material::MagneticPerfectConductor:
-            return text("perfect conductor");
-        case Material::ElectricNormal:
-        case Material::MagneticNormal:
-            return text("normal");
-        case Material::ElectricSampled:
-        case Material::MagneticSampled:
-            return text("sampled");
-        case Material::ElectricDebye:
-        case Material::MagneticDebye:
-            return text("Debye");
-        case Material::ElectricLorentz:
-            return text("Lorentz");
-        case Material::ElectricAnisotropic:
-            return text("anisotropic");
-        case Material::ElectricNonlinear:
-        case Material::MagneticNonlinear:
-            return text("nonlinear");
-        case Material::ElectricThinWire:
-            return text("thin wire");
-        case Material::Electric3PoleDebye:
-            return text("Debye, 3 poles");
-        case Material::Electric7PoleDebye:
-        case Material::Magnetic7PoleDebye:
-            return text("Debye, 7 poles");
-        case Material::ElectricDjordjevic:
-            return text("wideband Debye");
-        case Material::ElectricDebyeLorentzColeCole:
-            return text("Debye, Lorentz and Cole-Cole terms");
-        case Material::MagneticFerrite:
-            return text("ferrite");
-        case Material::ElectricSurfaceResistance:
-            return text("surface resistance");
-    }
-    return text("unknown");
-}
+constexpr Named<Material::MaterialType> kinds[] = {
+    {Material::ElectricFreeSpace, "free space"},
+    {Material::MagneticFreeSpace, "free space"},
+    {Material::ElectricPerfectConductor, "perfect conductor"},
+    {Material::MagneticPerfectConductor, "perfect conductor"},
+    {Material::ElectricNormal, "normal"},
+    {Material::MagneticNormal, "normal"},
+    {Material::ElectricSampled, "sampled"},
+    {Material::MagneticSampled, "sampled"},
+    {Material::ElectricDebye, "Debye"},
+    {Material::MagneticDebye, "Debye"},
+    {Material::ElectricLorentz, "Lorentz"},
+    {Material::ElectricAnisotropic, "anisotropic"},
+    {Material::ElectricNonlinear, "nonlinear"},
+    {Material::MagneticNonlinear, "nonlinear"},
+    {Material::ElectricThinWire, "thin wire"},
+    {Material::Electric3PoleDebye, "Debye, 3 poles"},
+    {Material::Electric7PoleDebye, "Debye, 7 poles"},
+    {Material::Magnetic7PoleDebye, "Debye, 7 poles"},
+    {Material::ElectricDjordjevic, "wideband Debye"},
+    {Material::ElectricDebyeLorentzColeCole, "Debye, Lorentz and Cole-Cole terms"},
+    {Material::MagneticFerrite, "ferrite"},
+    {Material::ElectricSurfaceResistance, "surface resistance"},
+};
 
 QString valuesText(const Material& material) {
     if (const auto* normal = dynamic_cast<const ElectricNormal*>(&material)) {
         return text(", relative permittivity %1, %2")
-            .arg(numberText(static_cast<double>(normal->getRelativePermittivity())),
-                 withPrefix(static_cast<double>(normal->getConductivity()), text("S/m")));
+            .arg(numberText((normal->getRelativePermittivity())), withPrefix((normal->getConductivity()), "S/m"));
     }
     if (const auto* normal = dynamic_cast<const MagneticNormal*>(&material)) {
         return text(", relative permeability %1, %2")
-            .arg(numberText(static_cast<double>(normal->getRelativePermeability())),
-                 withPrefix(static_cast<double>(normal->getConductivity()), text("Ω/m")));
+            .arg(numberText((normal->getRelativePermeability())), withPrefix((normal->getConductivity()), "Ω/m"));
     }
     return {};
 }
 
 void addMaterials(Sheet& sheet, const char* label, const std::vector<Material*>& materials) {
-    sheet.add(text(label), counted(materials.size(), text("material")));
+    sheet.add(text(label), counted(materials.size(), "material"));
     sheet.addFirst(materials, [&](std::size_t i, const Material& material) {
         sheet.addDetail(
             QString::number(i),
-            text("%1: %2%3").arg(material.getName(), kindText(material.getMaterialType()), valuesText(material)));
+            text("%1: %2%3").arg(material.getName(), nameOf(material.getMaterialType(), kinds), valuesText(material)));
     });
 }
 
@@ -121,7 +95,7 @@ Sheet sheetOfGeometry(const QString& path, const QByteArray& content) {
     addGrid(sheet, loaded.grid);
     addMaterials(sheet, "Electric", geometry.getElectricMaterials());
     addMaterials(sheet, "Magnetic", geometry.getMagneticMaterials());
-    sheet.add(text("Maps"), counted(geometry.getMaterialMappings().size(), text("material map")));
+    sheet.add("Maps", counted(geometry.getMaterialMappings().size(), "material map"));
     return sheet;
 }
 

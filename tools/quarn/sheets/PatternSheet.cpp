@@ -1,4 +1,4 @@
-#include "sheets/PatternSheet.h"
+#include "sheets/Sheets.h"
 
 #include <cmath>
 
@@ -10,54 +10,38 @@ namespace quarn::tool {
 
 namespace {
 
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
-
 QString angledCutName(const PatternCut& cut) {
     const QString letter(cut.plane.GetPatternCut() == NSMACutPlane::AtTAngle ? u'T' : u'P');
     bool isNumber = false;
     cut.planeText.midRef(cut.planeText.startsWith(letter) ? 1 : 0).toFloat(&isNumber);
-    return isNumber ? letter + text(" angle ") + degrees(static_cast<double>(cut.plane.GetPatternCutAngle()))
+    return isNumber ? letter + text(" angle ") + degrees((cut.plane.GetPatternCutAngle()))
                     : text("unknown plane \"%1\"").arg(cut.planeText);
 }
 
 QString cutName(const PatternCut& cut) {
+    constexpr Named<NSMACutPlane::PatternCut> names[] = {
+        {NSMACutPlane::Vertical, "vertical"},
+        {NSMACutPlane::Horizontal, "horizontal"},
+        {NSMACutPlane::Azimuth, "azimuth"},
+        {NSMACutPlane::Elevation, "elevation"},
+    };
+    const auto plane = cut.plane.GetPatternCut();
     if (cut.planeText.isNull()) return text("plane not given");
-    switch (cut.plane.GetPatternCut()) {
-        case NSMACutPlane::Vertical:
-            return text("vertical");
-        case NSMACutPlane::Horizontal:
-            return text("horizontal");
-        case NSMACutPlane::Azimuth:
-            return text("azimuth");
-        case NSMACutPlane::Elevation:
-            return text("elevation");
-        case NSMACutPlane::AtTAngle:
-        case NSMACutPlane::AtPAngle:
-            return angledCutName(cut);
-    }
-    return text("unknown");
-}
-
-QString polarizationName(NSMACutPlane::Polarization polarization) {
-    switch (polarization) {
-        case NSMACutPlane::V:
-            return text("V");
-        case NSMACutPlane::H:
-            return text("H");
-        case NSMACutPlane::LCP:
-            return text("LCP");
-        case NSMACutPlane::RCP:
-            return text("RCP");
-        case NSMACutPlane::NoPolarization:
-            break;
-    }
-    return text("not given");
+    if (plane == NSMACutPlane::AtTAngle || plane == NSMACutPlane::AtPAngle) return angledCutName(cut);
+    return nameOf(plane, names);
 }
 
 QString polarizations(const NSMACutPlane& plane) {
-    const QString first = polarizationName(plane.GetFirstPolarization());
-    const bool given = plane.GetFirstPolarization() != NSMACutPlane::NoPolarization;
-    return given ? first + u'/' + polarizationName(plane.GetSecondPolarization()) : first;
+    constexpr Named<NSMACutPlane::Polarization> names[] = {
+        {NSMACutPlane::V, "V"},
+        {NSMACutPlane::H, "H"},
+        {NSMACutPlane::LCP, "LCP"},
+        {NSMACutPlane::RCP, "RCP"},
+        {NSMACutPlane::NoPolarization, "not given"},
+    };
+    const QString first = nameOf(plane.GetFirstPolarization(), names);
+    if (plane.GetFirstPolarization() == NSMACutPlane::NoPolarization) return first;
+    return first + u'/' + nameOf(plane.GetSecondPolarization(), names);
 }
 
 void addGains(Sheet& sheet, const NSMACutPlane::Samples& samples) {
@@ -72,10 +56,10 @@ void addGains(Sheet& sheet, const NSMACutPlane::Samples& samples) {
     if (largest == samples.end()) return;
     const auto gainText = [](const NSMACutPlane::Samples::value_type& sample) {
         const double decibels = 10.0 * std::log10(sample.second.first);
-        return text("%1 dB at %2").arg(numberText(decibels), degrees(static_cast<double>(sample.first)));
+        return text("%1 dB at %2").arg(numberText(decibels), degrees((sample.first)));
     };
-    sheet.addDetail(text("Largest gain"), gainText(*largest));
-    sheet.addDetail(text("Smallest gain"), gainText(*smallest));
+    sheet.addDetail("Largest gain", gainText(*largest));
+    sheet.addDetail("Smallest gain", gainText(*smallest));
 }
 
 /// The increment follows from both the number of samples and their range.
@@ -90,33 +74,32 @@ QString points(const PatternCut& cut) {
 
 void addPlane(Sheet& sheet, const PatternCut& cut) {
     const NSMACutPlane& plane = cut.plane;
-    sheet.addDetail(text("Polarizations"), polarizations(plane));
-    sheet.addDetail(text("Points"), points(cut));
-    sheet.addDetail(text("Samples"), QString::number(plane.GetSamples().size()));
+    sheet.addDetail("Polarizations", polarizations(plane));
+    sheet.addDetail("Points", points(cut));
+    sheet.addDetail("Samples", QString::number(plane.GetSamples().size()));
     addGains(sheet, plane.GetSamples());
-    sheet.addDetail(text("Omnidirectional"), text(plane.IsOmni() ? "yes" : "no"));
+    sheet.addDetail("Omnidirectional", text(plane.IsOmni() ? "yes" : "no"));
 }
 
 void addCut(Sheet& sheet, std::size_t number, const PatternCut& cut) {
     QString title = text("%1, line %2").arg(cutName(cut)).arg(cut.line);
-    if (cut.frequency) title += text(", ") + withPrefix(*cut.frequency, text("Hz"));
+    if (cut.frequency) title += text(", ") + withPrefix(*cut.frequency, "Hz");
     sheet.add(text("Cut %1").arg(number), title);
     if (cut.refusal) {
-        sheet.addDetail(text("Refused"), text("line %1, ").arg(cut.refusal->line) + cut.refusal->reason);
+        sheet.addDetail("Refused", text("line %1, ").arg(cut.refusal->line) + cut.refusal->reason);
         return;
     }
     addPlane(sheet, cut);
-    const auto lines = [](int count) { return counted(static_cast<std::size_t>(count), text("line")); };
     if (cut.completedLines > 0) {
-        sheet.addDetail(text("Completed"), lines(cut.completedLines) + text(" with an empty second value"));
+        sheet.addDetail("Completed", counted(cut.completedLines, "line") + text(" with an empty second value"));
     }
     if (cut.leftOutLines > 0) {
-        sheet.addDetail(text("Left out"), lines(cut.leftOutLines) + text(" after the last point"));
+        sheet.addDetail("Left out", counted(cut.leftOutLines, "line") + text(" after the last point"));
     }
     if (cut.coincidingSamples > 0) {
-        sheet.addDetail(text("Left out"),
-                        counted(static_cast<std::size_t>(cut.coincidingSamples), text("sample")) +
-                            text(" behind one at the same angle with another gain"));
+        sheet.addDetail(
+            "Left out",
+            counted(cut.coincidingSamples, "sample") + text(" behind one at the same angle with another gain"));
     }
 }
 
@@ -124,7 +107,7 @@ void addCut(Sheet& sheet, std::size_t number, const PatternCut& cut) {
 
 Sheet sheetOfPattern(const QString& path, const QByteArray& content) {
     const auto cuts = readPatternFile(path, content);
-    Sheet sheet(text("%1: antenna pattern, %2").arg(path, counted(cuts.size(), text("cut"))));
+    Sheet sheet(text("%1: antenna pattern, %2").arg(path, counted(cuts.size(), "cut")));
     std::size_t number = 0;
     for (const PatternCut& cut : cuts) addCut(sheet, ++number, cut);
     return sheet;

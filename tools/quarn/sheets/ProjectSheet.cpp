@@ -1,38 +1,36 @@
-#include "sheets/ProjectSheet.h"
+#include "sheets/Sheets.h"
 
 #include "Console.h"
 #include "Quantity.h"
 #include "files/ProjectOnDisk.h"
 #include "quarn/quarn.h"
-#include "sheets/CircuitText.h"
-#include "sheets/RequestSheet.h"
 
 namespace quarn::tool {
 
 namespace {
 
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 QString direction(double theta, double phi) { return text("theta %1, phi %2").arg(degrees(theta), degrees(phi)); }
-QString timesteps(std::size_t count) { return counted(count, text("timestep")); }
+QString timesteps(std::size_t count) { return counted(count, "timestep"); }
 
-QString boundaryName(BoundaryConditions::BoundaryType type) {
-    switch (type) {
-        case BoundaryConditions::Liao:
-            return text("Liao");
-        case BoundaryConditions::PEC:
-            return text("PEC");
-        case BoundaryConditions::PMC:
-            return text("PMC");
-        case BoundaryConditions::CPML:
-            return text("CPML");
-        case BoundaryConditions::Periodic:
-            return text("periodic");
-        case BoundaryConditions::ESymmetry:
-            return text("electric symmetry");
-        case BoundaryConditions::MSymmetry:
-            return text("magnetic symmetry");
-    }
-    return text("unknown");
+constexpr Named<BoundaryConditions::BoundaryType> boundaryNames[] = {
+    {BoundaryConditions::Liao, "Liao"},
+    {BoundaryConditions::PEC, "PEC"},
+    {BoundaryConditions::PMC, "PMC"},
+    {BoundaryConditions::CPML, "CPML"},
+    {BoundaryConditions::Periodic, "periodic"},
+    {BoundaryConditions::ESymmetry, "electric symmetry"},
+    {BoundaryConditions::MSymmetry, "magnetic symmetry"},
+};
+
+constexpr Named<int> sourceNames[] = {
+    {PlaneWave::ScatteredField, "plane wave, scattered field"},
+    {PlaneWave::TotalFieldScatteredField, "plane wave, total-field/scattered-field"},
+    {PlaneWave::Beam, "Gaussian beam"},
+};
+
+const char* densityName(TerminationCriteria::ConvergenceSpacingDensity density) {
+    if (density == TerminationCriteria::High) return "high";
+    return density == TerminationCriteria::Medium ? "medium" : "low";
 }
 
 QString versionText(const v6ProjectFile& project) {
@@ -42,43 +40,43 @@ QString versionText(const v6ProjectFile& project) {
     return minor == 0 ? text("file version %1").arg(major) : text("file version %1.%2").arg(major).arg(minor);
 }
 
-// The modeling units of a file are not read: what the project says there is not from the file.
+// The modeling units are left out: they are not read from the file.
 void addUnits(Sheet& sheet, const ProjectFile& project) {
     const auto units = project.getDisplayUnits();
-    sheet.add(text("Display units"), text("%1 (1 %1 = %2 m)").arg(units.first, numberText(units.second)));
+    sheet.add("Display units", text("%1 (1 %1 = %2 m)").arg(units.first, numberText(units.second)));
 }
 
 void addTimestep(Sheet& sheet, const ProjectFile& project) {
     if (project.getUseExplicitlySuppliedTimestep()) {
-        sheet.add(text("Timestep"), withPrefix(project.getExplicitlySuppliedTimestep(), text("s")));
+        sheet.add("Timestep", withPrefix(project.getExplicitlySuppliedTimestep(), "s"));
     } else if (project.getUseUsersCFL()) {
-        sheet.add(text("Timestep"), text("Courant factor %1").arg(numberText(project.getCFL())));
+        sheet.add("Timestep", text("Courant factor %1").arg(numberText(project.getCFL())));
     } else {
-        sheet.add(text("Timestep"), text("chosen by the engine"));
+        sheet.add("Timestep", "chosen by the engine");
     }
 }
 
 void addBoundaries(Sheet& sheet, const BoundaryConditions* boundaries) {
     if (!boundaries) {
-        sheet.add(text("Boundaries"), text("none"));
+        sheet.add("Boundaries", "none");
         return;
     }
     const auto pair = [boundaries](BoundingBoxSide lower, BoundingBoxSide upper) {
-        return boundaryName(boundaries->getBoundaryType(lower)).leftJustified(19) +
-               boundaryName(boundaries->getBoundaryType(upper));
+        return nameOf(boundaries->getBoundaryType(lower), boundaryNames).leftJustified(19) +
+               nameOf(boundaries->getBoundaryType(upper), boundaryNames);
     };
-    sheet.add(text("Boundaries"), text("lower").leftJustified(19) + text("upper"));
-    sheet.addDetail(text("x"), pair(BoundingBoxSide::LowerX, BoundingBoxSide::UpperX));
-    sheet.addDetail(text("y"), pair(BoundingBoxSide::LowerY, BoundingBoxSide::UpperY));
-    sheet.addDetail(text("z"), pair(BoundingBoxSide::LowerZ, BoundingBoxSide::UpperZ));
+    sheet.add("Boundaries", text("lower").leftJustified(19) + text("upper"));
+    sheet.addDetail("x", pair(BoundingBoxSide::LowerX, BoundingBoxSide::UpperX));
+    sheet.addDetail("y", pair(BoundingBoxSide::LowerY, BoundingBoxSide::UpperY));
+    sheet.addDetail("z", pair(BoundingBoxSide::LowerZ, BoundingBoxSide::UpperZ));
     if (boundaries->hasCPMLBoundary()) {
-        sheet.addDetail(text("PML layers"), QString::number(boundaries->getNumberOfPMLLayers()));
+        sheet.addDetail("PML layers", QString::number(boundaries->getNumberOfPMLLayers()));
     }
     if (boundaries->useScanAngle()) {
-        sheet.addDetail(text("Scan angle"),
+        sheet.addDetail("Scan angle",
                         text("%1 at %2")
                             .arg(direction(boundaries->getTheta(), boundaries->getPhi()),
-                                 withPrefix(boundaries->getFrequency(), text("Hz"))));
+                                 withPrefix(boundaries->getFrequency(), "Hz")));
     }
 }
 
@@ -87,9 +85,9 @@ void addAmbient(Sheet& sheet, const AmbientConditions* ambient) {
     const auto transfer = [ambient](BoundingBoxSide side) {
         return text("%1 W/(m² K)").arg(numberText(ambient->getHeatTransferCoefficient(side)));
     };
-    sheet.add(text("Ambient"), text("%1 K").arg(numberText(ambient->getBackgroundTemperature())));
-    sheet.addDetail(text("Top"), transfer(BoundingBoxSide::Top));
-    sheet.addDetail(text("Bottom"), transfer(BoundingBoxSide::Bottom));
+    sheet.add("Ambient", text("%1 K").arg(numberText(ambient->getBackgroundTemperature())));
+    sheet.addDetail("Top", transfer(BoundingBoxSide::Top));
+    sheet.addDetail("Bottom", transfer(BoundingBoxSide::Bottom));
 }
 
 QString activeFaces(const TFSFPlaneWave& wave) {
@@ -100,48 +98,34 @@ QString activeFaces(const TFSFPlaneWave& wave) {
     if (wave.getYUpper()) faces << text("+y");
     if (wave.getZLower()) faces << text("-z");
     if (wave.getZUpper()) faces << text("+z");
-    return faces.empty() ? text("none") : faces.join(text(", "));
-}
-
-QString sourceName(int type) {
-    switch (type) {
-        case PlaneWave::TotalFieldScatteredField:
-            return text("plane wave, total-field/scattered-field");
-        case PlaneWave::Beam:
-            return text("Gaussian beam");
-        default:
-            return text("plane wave, scattered field");
-    }
+    return faces.empty() ? text("none") : faces.join(", ");
 }
 
 void addSource(Sheet& sheet, const ProjectFile& project) {
     const PlaneWave* wave = project.getPlaneWave();
     if (!wave) {
-        sheet.add(text("Source"), text("none"));
+        sheet.add("Source", "none");
         return;
     }
-    sheet.add(text("Source"), sourceName(wave->getType()));
-    sheet.addDetail(text("Amplitude"), withPrefix(wave->getAmplitude(), text("V/m")));
-    sheet.addDetail(text("Incidence"), direction(wave->getTheta(), wave->getPhi()));
-    sheet.addDetail(text("Polarization"), text(wave->getPolarization() == PlaneWave::Phi ? "phi" : "theta"));
+    sheet.add("Source", nameOf<int>(wave->getType(), sourceNames));
+    sheet.addDetail("Amplitude", withPrefix(wave->getAmplitude(), "V/m"));
+    sheet.addDetail("Incidence", direction(wave->getTheta(), wave->getPhi()));
+    sheet.addDetail("Polarization", text(wave->getPolarization() == PlaneWave::Phi ? "phi" : "theta"));
     if (wave->getType() == PlaneWave::TotalFieldScatteredField) {
-        sheet.addDetail(text("Active faces"), activeFaces(static_cast<const TFSFPlaneWave&>(*wave)));
+        sheet.addDetail("Active faces", activeFaces(static_cast<const TFSFPlaneWave&>(*wave)));
     }
     if (wave->getType() == PlaneWave::Beam) {
         const auto& beam = static_cast<const GaussianBeam&>(*wave);
-        sheet.addDetail(
-            text("Focus"),
-            text("(%1, %2, %3) m")
-                .arg(numberText(beam.getXFocus()), numberText(beam.getYFocus()), numberText(beam.getZFocus())));
-        sheet.addDetail(text("Radius"), withPrefix(beam.getRadius(), text("m")));
+        sheet.addDetail("Focus", pointText(beam.getXFocus(), beam.getYFocus(), beam.getZFocus()));
+        sheet.addDetail("Radius", withPrefix(beam.getRadius(), "m"));
     }
-    sheet.addDetail(text("Output file"), wave->getOutputFileName());
-    if (!project.AreaSourceFile().isEmpty()) sheet.addDetail(text("Area source"), project.AreaSourceFile());
+    sheet.addDetail("Output file", wave->getOutputFileName());
+    if (!project.AreaSourceFile().isEmpty()) sheet.addDetail("Area source", project.AreaSourceFile());
 }
 
 QString waveformText(const Waveform& waveform) {
     const QString width = text("pulse width %1 timesteps").arg(numberText(waveform.getPulseWidth()));
-    const QString frequency = withPrefix(waveform.getFrequency(), text("Hz"));
+    const QString frequency = withPrefix(waveform.getFrequency(), "Hz");
     switch (waveform.getShape()) {
         case Waveform::Gaussian:
             return text("Gaussian, ") + width;
@@ -157,7 +141,7 @@ QString waveformText(const Waveform& waveform) {
             return text("electrostatic discharge, IEC 61000-4-2");
         case Waveform::UserDefined:
             return text("user-defined, %1 of the source and %2 of its derivative")
-                .arg(counted(waveform.getNumberOfSourceSamples(), text("sample")))
+                .arg(counted(waveform.getNumberOfSourceSamples(), "sample"))
                 .arg(waveform.getNumberOfDerivativeSamples());
     }
     return text("unknown");
@@ -169,25 +153,14 @@ void addWaveforms(Sheet& sheet, const std::vector<Waveform*>& waveforms) {
     }
 }
 
-QString densityName(TerminationCriteria::ConvergenceSpacingDensity density) {
-    switch (density) {
-        case TerminationCriteria::High:
-            return text("high");
-        case TerminationCriteria::Medium:
-            return text("medium");
-        default:
-            return text("low");
-    }
-}
-
 void addTdAfs(Sheet& sheet, const TdAfsTerminationCriteria& criteria) {
     sheet.addDetail(
-        text("TD-AFS"),
+        "TD-AFS",
         text("%1 by %2, %3 to %4 in %5 points, %6")
             .arg(text(criteria.convergenceType() == TdAfsTerminationCriteria::SParameters ? "S-parameters" : "energy"),
                  text(criteria.interpolationType() == TdAfsTerminationCriteria::FFT ? "FFT" : "interpolation"),
-                 withPrefix(criteria.startFrequency(), text("Hz")),
-                 withPrefix(criteria.stopFrequency(), text("Hz")))
+                 withPrefix(criteria.startFrequency(), "Hz"),
+                 withPrefix(criteria.stopFrequency(), "Hz"))
             .arg(criteria.numberOfFrequencyPoints())
             .arg(text("%1 consecutive passes").arg(criteria.numberOfConsecutivePasses())));
 }
@@ -196,44 +169,44 @@ void addTdAfs(Sheet& sheet, const TdAfsTerminationCriteria& criteria) {
 void addTermination(Sheet& sheet, const ProjectFile& project) {
     const TerminationCriteria* criteria = project.getTerminationCriteria();
     if (!criteria) {
-        sheet.add(text("Termination"), text("none"));
+        sheet.add("Termination", "none");
         return;
     }
     QString limits = text("after %1").arg(timesteps(criteria->getMaximumTimesteps()));
     if (criteria->wallClockEnabled()) limits += text(" or %1 s").arg(criteria->getMaximumWallClockSeconds());
-    sheet.add(text("Termination"), limits);
+    sheet.add("Termination", limits);
     if (!criteria->convergenceEnabled()) {
-        sheet.addDetail(text("Convergence"), text("not watched"));
+        sheet.addDetail("Convergence", "not watched");
         return;
     }
-    sheet.addDetail(text("Convergence"),
+    sheet.addDetail("Convergence",
                     text("%1 dB, not before %2")
                         .arg(numberText(criteria->getThreshhold()), timesteps(criteria->getMinimumTimesteps())));
-    sheet.addDetail(text("Sampling"),
+    sheet.addDetail("Sampling",
                     text("every %1 timesteps, window of %2 samples, %3 density")
                         .arg(criteria->getTimestepSamplingInterval())
                         .arg(criteria->getWindowSize())
                         .arg(densityName(criteria->getSpacingDensity())));
-    sheet.addDetail(text("Flat lines"), text(criteria->flatLineDetectionEnabled() ? "detected" : "not detected"));
+    sheet.addDetail("Flat lines", text(criteria->flatLineDetectionEnabled() ? "detected" : "not detected"));
     if (project.getTdAfsTerminationCriteria()) addTdAfs(sheet, *project.getTdAfsTerminationCriteria());
 }
 
-// Of results in steady state a file says something only where it has frequencies for them.
+// A file without frequencies has no steady-state results.
 void addSteadyState(Sheet& sheet, const ProjectFile& project) {
     const auto& frequencies = project.getSteadyStateFrequencies();
     if (frequencies.empty()) return;
-    sheet.add(text("Steady state"),
+    sheet.add("Steady state",
               text("%1 %2").arg(frequencies.size()).arg(text(frequencies.size() == 1 ? "frequency" : "frequencies")));
     for (const auto& entry : frequencies) {
-        sheet.addDetail(withPrefix(entry.frequency, text("Hz")), text("folder %1").arg(entry.folder));
+        sheet.addDetail(withPrefix(entry.frequency, "Hz"), text("folder %1").arg(entry.folder));
     }
     const bool inMemory = project.getSteadyStateStorageMethod() == ProjectFile::Memory;
-    sheet.addDetail(text("Storage"), text(inMemory ? "memory" : "hard disk"));
-    sheet.addDetail(text("Far-zone box"),
+    sheet.addDetail("Storage", text(inMemory ? "memory" : "hard disk"));
+    sheet.addDetail("Far-zone box",
                     text(project.saveFieldsOnFarZoneBoxForPostProcessing() ? "fields saved" : "fields not saved"));
-    sheet.addDetail(text("Dissipation"), text(project.computeSystemDissipatedPower() ? "computed" : "not computed"));
+    sheet.addDetail("Dissipation", text(project.computeSystemDissipatedPower() ? "computed" : "not computed"));
     if (const DFTParameters* dft = project.getDFTParameters()) {
-        sheet.addDetail(text("DFT"),
+        sheet.addDetail("DFT",
                         text("sampled every %1, fields %2")
                             .arg(timesteps(dft->getSamplingInterval()),
                                  text(dft->normalizeFields() ? "normalized" : "not normalized")));

@@ -1,4 +1,4 @@
-#include "sheets/RequestSheet.h"
+#include "sheets/Sheets.h"
 
 #include "Console.h"
 #include "Quantity.h"
@@ -8,17 +8,7 @@ namespace quarn::tool {
 
 namespace {
 
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
-QString requests(std::size_t count) { return counted(count, text("request")); }
-
-template <class X, class Y, class Z>
-QString tripleText(X x, Y y, Z z) {
-    return text("(%1, %2, %3)").arg(x).arg(y).arg(z);
-}
-
-QString metresText(double x, double y, double z) {
-    return tripleText(numberText(x), numberText(y), numberText(z)) + text(" m");
-}
+QString requests(std::size_t count) { return counted(count, "request"); }
 
 template <class Request>
 QString boundsText(const Request& r) {
@@ -41,12 +31,12 @@ QString listText(std::initializer_list<std::pair<bool, const char*>> flags) {
     for (const auto& [isSet, name] : flags) {
         if (isSet) names << text(name);
     }
-    return names.join(text(", "));
+    return names.join(", ");
 }
 
 QString joined(QStringList parts) {
     parts.removeAll(QString());
-    return parts.join(text("; "));
+    return parts.join("; ");
 }
 
 QString fieldPointText(const NearZoneMultiFieldPoint& p) {
@@ -65,12 +55,12 @@ void addPoints(Sheet& sheet, const ProjectFile& project) {
     const auto& indexed = project.GetNearZoneMultiFieldIndexedPoints();
     const auto& interpolated = project.GetNearZoneMultiFieldInterpolatedPoints();
     if (indexed.empty() && interpolated.empty()) return;
-    sheet.add(text("Near zone"), counted(indexed.size() + interpolated.size(), text("point")));
+    sheet.add("Near zone", counted(indexed.size() + interpolated.size(), "point"));
     sheet.addFirst(indexed, [&](std::size_t, const NearZoneMultiFieldIndexedPoint& p) {
         sheet.addDetail(text("cell ") + tripleText(p.getX(), p.getY(), p.getZ()), fieldPointText(p));
     });
     sheet.addFirst(interpolated, [&](std::size_t, const NearZoneMultiFieldInterpolatedPoint& p) {
-        sheet.addDetail(metresText(p.getX(), p.getY(), p.getZ()), fieldPointText(p));
+        sheet.addDetail(pointText(p.getX(), p.getY(), p.getZ()), fieldPointText(p));
     });
 }
 
@@ -87,7 +77,7 @@ QString multiPointText(const MultiPointFieldRequest& r) {
                                      {r.collectSteadyTotalB, "total B"},
                                      {r.collectSteadyJ, "J"}});
     const auto points = static_cast<std::size_t>(r.gridIndexBoxes.getNumPoints());
-    QStringList parts{fileText(r.outputFile), counted(points, text("point")) + text(r.snapped ? ", snapped" : "")};
+    QStringList parts{fileText(r.outputFile), counted(points, "point") + text(r.snapped ? ", snapped" : "")};
     if (!transient.isEmpty()) {
         parts << text("transient ") + transient << timestepsText(r.minTimestep, r.maxTimestep, r.deltaTimestep);
     }
@@ -97,7 +87,7 @@ QString multiPointText(const MultiPointFieldRequest& r) {
 
 void addMultiPoints(Sheet& sheet, const std::vector<MultiPointFieldRequest>& list) {
     if (list.empty()) return;
-    sheet.add(text("Multi-point"), requests(list.size()));
+    sheet.add("Multi-point", requests(list.size()));
     sheet.addFirst(list, [&](std::size_t i, const MultiPointFieldRequest& request) {
         sheet.addDetail(text("request %1").arg(i), multiPointText(request));
     });
@@ -107,12 +97,12 @@ void addFarZone(Sheet& sheet, const ProjectFile& project) {
     const auto& steadyState = project.getSteadyStateFarZoneRequests();
     const auto& transient = project.getTransientFarZoneRequests();
     if (steadyState.empty() && transient.empty()) return;
-    sheet.add(text("Far zone"), requests(steadyState.size() + transient.size()));
+    sheet.add("Far zone", requests(steadyState.size() + transient.size()));
     const auto addKind = [&](const char* kind, const std::vector<FarZoneRequest>& list) {
         sheet.addFirst(list, [&](std::size_t, const FarZoneRequest& request) {
-            sheet.addDetail(text(kind),
-                            joined({fileText(request.getOutputFileName()),
-                                    counted(request.getAngles().size(), text("direction"))}));
+            sheet.addDetail(
+                text(kind),
+                joined({fileText(request.getOutputFileName()), counted(request.getAngles().size(), "direction")}));
         });
     };
     addKind("steady state", steadyState);
@@ -122,7 +112,7 @@ void addFarZone(Sheet& sheet, const ProjectFile& project) {
 void addSAR(Sheet& sheet, const ProjectFile& project) {
     const auto& planes = project.getSARPlaneRequests();
     if (!planes.empty()) {
-        sheet.add(text("SAR planes"), counted(planes.size(), text("plane")));
+        sheet.add("SAR planes", counted(planes.size(), "plane"));
         sheet.addFirst(planes, [&](std::size_t, const SARPlane& plane) {
             sheet.addDetail(planeName(plane.getPlane()), text("index %1").arg(plane.getIndex()));
         });
@@ -130,13 +120,13 @@ void addSAR(Sheet& sheet, const ProjectFile& project) {
     const SARAveragingRequest* r = project.getSARAveragingRequest();
     if (!r) return;
     const QString masses = listText({{r->compute1gAverage(), "1 g"}, {r->compute10gAverage(), "10 g"}});
-    sheet.add(text("SAR averages"),
+    sheet.add("SAR averages",
               joined({masses.isEmpty() ? text("none") : masses, fileText(r->getOutputAveragedFileName())}));
-    sheet.addDetail(text("Region"),
+    sheet.addDetail("Region",
                     r->useAutomaticSubregion()
                         ? text("found by a cutoff of %1 dB").arg(numberText(r->getSubregionCutoff()))
                         : boundsText(*r));
-    if (r->treatDataOutsideAsAir()) sheet.addDetail(text("Outside"), text("treated as air"));
+    if (r->treatDataOutsideAsAir()) sheet.addDetail("Outside", "treated as air");
     const auto planesText = [&](const char* label, bool xy, bool yz, bool zx) {
         const QString saved = listText({{xy, "XY"}, {yz, "YZ"}, {zx, "ZX"}});
         if (!saved.isEmpty()) sheet.addDetail(text(label), saved);
@@ -144,32 +134,30 @@ void addSAR(Sheet& sheet, const ProjectFile& project) {
     planesText("1 g planes", r->save1gXYPlanes(), r->save1gYZPlanes(), r->save1gZXPlanes());
     planesText("10 g planes", r->save10gXYPlanes(), r->save10gYZPlanes(), r->save10gZXPlanes());
     if (!r->getMaterialsToUse().empty()) {
-        sheet.addDetail(text("Materials"), text("%1 of them used").arg(r->getMaterialsToUse().size()));
+        sheet.addDetail("Materials", text("%1 of them used").arg(r->getMaterialsToUse().size()));
     }
 }
 
 void addTemperatureRise(Sheet& sheet, const TemperatureRiseRequest* r) {
     if (!r) return;
-    sheet.add(text("Temperature rise"),
-              joined({text("plane ") + planeName(r->getPlaneTypeIndicator()), boundsText(*r)}));
-    sheet.addDetail(text("Input power"), withPrefix(r->getRequestedInputPower(), text("W")));
-    sheet.addDetail(text("Steady state"),
+    sheet.add("Temperature rise", joined({text("plane ") + planeName(r->getPlaneTypeIndicator()), boundsText(*r)}));
+    sheet.addDetail("Input power", withPrefix(r->getRequestedInputPower(), "W"));
+    sheet.addDetail("Steady state",
                     text("changes below %1 K, at most %2 timesteps")
                         .arg(numberText(r->getTemperatureChangeIndicatingSteadyState()))
                         .arg(r->getMaximumNumberOfTimesteps()));
     sheet.addDetail(
-        text("Media"),
+        "Media",
         text("immersive at %1 K, perfusive at %2 K")
             .arg(numberText(r->getImmersiveMediumTemperature()), numberText(r->getPerfusiveMediumTemperature())));
-    if (r->overrideDeltaTime()) sheet.addDetail(text("Timestep"), withPrefix(r->getRequestedDeltaTime(), text("s")));
+    if (r->overrideDeltaTime()) sheet.addDetail("Timestep", withPrefix(r->getRequestedDeltaTime(), "s"));
 }
 
 void addHAC(Sheet& sheet, const std::vector<const HACRequest*>& list) {
     if (list.empty()) return;
-    sheet.add(text("HAC"), counted(list.size(), text("measurement")));
+    sheet.add("HAC", counted(list.size(), "measurement"));
     sheet.addFirst(list, [&](std::size_t i, const HACRequest& r) {
-        sheet.addDetail(text("measurement %1").arg(i),
-                        text("origin ") + metresText(r.origin.x, r.origin.y, r.origin.z));
+        sheet.addDetail(text("measurement %1").arg(i), text("origin ") + pointText(r.origin.x, r.origin.y, r.origin.z));
     });
 }
 

@@ -1,4 +1,4 @@
-#include "sheets/ResultSheet.h"
+#include "sheets/Sheets.h"
 
 #include "Console.h"
 #include "Quantity.h"
@@ -12,11 +12,9 @@ namespace quarn::tool {
 
 namespace {
 
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
-
 void addIncompleteRecord(Sheet& sheet, std::size_t bytes) {
     if (bytes == 0) return;
-    sheet.add(text("Cut short"), incompleteRecordText(bytes));
+    sheet.add("Cut short", incompleteRecordText(bytes));
 }
 
 Sheet sheetOfNearZonePoint(const InputFile& input) {
@@ -32,13 +30,9 @@ Sheet sheetOfNearZonePoint(const InputFile& input) {
     }
     const auto& header = file.header();
     Sheet sheet(text("%1: near-zone point, version %2").arg(input.name()).arg(header.getVersion()));
-    sheet.add(text("Point"),
-              text("(%1, %2, %3) m")
-                  .arg(numberText(static_cast<double>(header.getX())),
-                       numberText(static_cast<double>(header.getY())),
-                       numberText(static_cast<double>(header.getZ()))));
-    sheet.add(text("Records"), QString::number(records));
-    sheet.add(text("Time"), times.text(text("s")));
+    sheet.add("Point", pointText(header.getX(), header.getY(), header.getZ()));
+    sheet.add("Records", QString::number(records));
+    sheet.add("Time", times.text(text("s")));
     for (std::size_t i = 0; i < ranges.size(); ++i) {
         sheet.addDetail(text(file.groups()[i].name), ranges[i].text(text(file.groups()[i].unit)));
     }
@@ -46,7 +40,7 @@ Sheet sheetOfNearZonePoint(const InputFile& input) {
     return sheet;
 }
 
-/// What there is of the component files of a group.
+/// The component files of a group that exist.
 struct GroupSurvey {
     ValueRange range;
     int complete = 0;
@@ -57,8 +51,9 @@ GroupSurvey survey(MultiPointSet& set, const SetGroup& group) {
     constexpr std::size_t piece = 1 << 16;
     GroupSurvey result;
     std::vector<float> values;
-    const int components = group.columns().size();
-    for (int index = 0; index < set.indicesOf(group); ++index) {
+    const int components = group.numberOfComponents();
+    const int indices = static_cast<int>(set.listFor(group).size());
+    for (int index = 0; index < indices; ++index) {
         group.choose(set.reader, index);
         for (int component = 0; component < components; ++component) {
             ++result.expected;
@@ -85,9 +80,9 @@ QString listText(const std::vector<float>& list, const char* unit) {
 Sheet sheetOfMultiPoint(const InputFile& file) {
     MultiPointSet set(file);
     Sheet sheet(text("%1: multi-point result, version %2").arg(file.name()).arg(set.reader.getSerializationVersion()));
-    sheet.add(text("Points"), QString::number(set.reader.getNumberOfPoints()));
-    sheet.add(text("Time steps"), listText(set.times, "s"));
-    sheet.add(text("Frequencies"), listText(set.frequencies, "Hz"));
+    sheet.add("Points", QString::number(set.reader.getNumberOfPoints()));
+    sheet.add("Time steps", listText(set.times, "s"));
+    sheet.add("Frequencies", listText(set.frequencies, "Hz"));
     int missing = 0;
     int expected = 0;
     for (const SetGroup& group : set.groups) {
@@ -97,8 +92,7 @@ Sheet sheetOfMultiPoint(const InputFile& file) {
         expected += found.expected;
     }
     if (missing > 0) {
-        sheet.add(text("Cut short"),
-                  text("%1 of %2 component files are missing or too short").arg(missing).arg(expected));
+        sheet.add("Cut short", text("%1 of %2 component files are missing or too short").arg(missing).arg(expected));
     }
     return sheet;
 }
@@ -110,13 +104,13 @@ Sheet sheetOfSarPlane(const InputFile& file) {
     std::int64_t records = 0;
     for (SarResult::Record record; reader.readRecord(record); ++records) range.add(record.value);
     Sheet sheet(text("%1: SAR plane, version 0").arg(file.name()));
-    sheet.add(text("Plane"), text("%1, index %2").arg(planeName(reader.getPlane())).arg(reader.getPlaneIndex()));
-    sheet.add(text("Records"), QString::number(records));
-    sheet.addDetail(text("SAR"), range.text(text("W/kg")));
+    sheet.add("Plane", text("%1, index %2").arg(planeName(reader.getPlane())).arg(reader.getPlaneIndex()));
+    sheet.add("Records", QString::number(records));
+    sheet.addDetail("SAR", range.text(text("W/kg")));
     const int announced = reader.getNumberOfRecords();
     if (records == announced) return sheet;
     sheet.add(text(records < announced ? "Cut short" : "Appended"),
-              text("the file says ") + counted(static_cast<std::size_t>(announced), text("record")));
+              text("the file says ") + counted(announced, "record"));
     return sheet;
 }
 
@@ -144,9 +138,9 @@ Sheet sheetOfFarZoneBox(const InputFile& file) {
         }
     }
     Sheet sheet(text("%1: fields on the far-zone box, version 0").arg(file.name()));
-    sheet.add(text("Records"), QString::number(records));
-    sheet.addDetail(text("E"), electric.text(text("V/m")));
-    sheet.addDetail(text("H"), magnetic.text(text("A/m")));
+    sheet.add("Records", QString::number(records));
+    sheet.addDetail("E", electric.text(text("V/m")));
+    sheet.addDetail("H", magnetic.text(text("A/m")));
     constexpr std::int64_t headerSize = 16;
     addIncompleteRecord(sheet, static_cast<std::size_t>(sizeOf(file) - headerSize) % File::recordSize);
     return sheet;

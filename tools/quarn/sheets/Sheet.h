@@ -4,6 +4,8 @@
 #include <type_traits>
 #include <vector>
 
+#include "Text.h"
+
 namespace quarn::tool {
 
 /// A title and below it labels and values in two aligned columns, details indented below what they belong to.
@@ -12,7 +14,7 @@ public:
     explicit Sheet(const QString& title) : m_title(title) {}
 
     void add(const QString& label, const QString& value) { m_rows.push_back({label, value}); }
-    void addDetail(const QString& label, const QString& value) { add(QStringLiteral("  ") + label, value); }
+    void addDetail(const QString& label, const QString& value) { add("  " + label, value); }
     void print() const;
 
     /// Calls `add` with position and object for the first entries of a list of objects or of pointers to them, and adds
@@ -28,7 +30,7 @@ public:
             }
         }
         if (list.size() > longestList) {
-            addDetail(QStringLiteral("..."), QStringLiteral("and %1 more").arg(list.size() - longestList));
+            addDetail(text("..."), text("and %1 more").arg(list.size() - longestList));
         }
     }
 

@@ -5,7 +5,7 @@
 
 namespace quarn::tool {
 
-/// The least and the greatest of a stream of values, and how many of them are no numbers.
+/// The range of a series of values, and the number of NaNs among them.
 class ValueRange {
 public:
     void add(float value) {

@@ -1,5 +1,6 @@
-#include "sheets/ViaSheet.h"
+#include "sheets/Sheets.h"
 
+#include <QtEndian>
 #include <algorithm>
 #include <cstring>
 #include <sstream>
@@ -14,13 +15,7 @@ namespace {
 
 constexpr int headerSize = 16;
 
-std::uint64_t numberAt(const QByteArray& content, int offset) {
-    std::uint64_t number = 0;
-    std::memcpy(&number, content.constData() + offset, sizeof number);
-    return number;
-}
-
-/// The vias that are there whole, whatever the header says of their number.
+/// The first vias of the file, whatever number its header gives.
 std::vector<MeshlessVia> viasIn(const QByteArray& content, std::uint64_t count) {
     std::string image = content.toStdString();
     std::memcpy(image.data() + sizeof count, &count, sizeof count);
@@ -30,7 +25,7 @@ std::vector<MeshlessVia> viasIn(const QByteArray& content, std::uint64_t count) 
     return vias;
 }
 
-QString rangeText(const std::vector<MeshlessVia>& vias, int axis) {
+QString extentText(const std::vector<MeshlessVia>& vias, int axis) {
     double least = vias.front().getFirstPoint()[axis];
     double most = least;
     for (const MeshlessVia& via : vias) {
@@ -39,30 +34,25 @@ QString rangeText(const std::vector<MeshlessVia>& vias, int axis) {
             most = std::max(most, coordinate);
         }
     }
-    return QStringLiteral("%1 to %2")
-        .arg(withPrefix(least, QStringLiteral("m")), withPrefix(most, QStringLiteral("m")));
+    return rangeText(least, most, "m");
 }
 
 }  // namespace
 
-bool isViaFile(const QByteArray& content) {
-    return content.size() >= headerSize && numberAt(content, 0) == MeshlessVia::byte_order_check;
-}
-
 Sheet sheetOfVias(const QString& path, const QByteArray& content) {
-    const std::uint64_t claimed = numberAt(content, 8);
+    const auto claimed = qFromUnaligned<std::uint64_t>(content.constData() + sizeof(std::uint64_t));
     const auto room = static_cast<std::uint64_t>(content.size() - headerSize) / sizeof(MeshlessVia);
     const auto vias = viasIn(content, std::min(claimed, room));
     const auto coaxial =
         std::count_if(vias.begin(), vias.end(), [](const MeshlessVia& via) { return via.getInnerRadius() > 0.0; });
 
-    Sheet sheet(path + QStringLiteral(": meshless vias"));
-    sheet.add(QStringLiteral("Vias"), QStringLiteral("%1, %2 of them coaxial").arg(vias.size()).arg(coaxial));
-    if (claimed > room) sheet.add(QStringLiteral("Cut short"), QStringLiteral("the file says %1 vias").arg(claimed));
+    Sheet sheet(path + text(": meshless vias"));
+    sheet.add("Vias", text("%1, %2 of them coaxial").arg(vias.size()).arg(coaxial));
+    if (claimed > room) sheet.add("Cut short", text("the file says %1 vias").arg(claimed));
     if (vias.empty()) return sheet;
-    sheet.addDetail(QStringLiteral("x"), rangeText(vias, 0));
-    sheet.addDetail(QStringLiteral("y"), rangeText(vias, 1));
-    sheet.addDetail(QStringLiteral("z"), rangeText(vias, 2));
+    sheet.addDetail("x", extentText(vias, 0));
+    sheet.addDetail("y", extentText(vias, 1));
+    sheet.addDetail("z", extentText(vias, 2));
     return sheet;
 }
 

@@ -1,4 +1,4 @@
-#include "sheets/CircuitText.h"
+#include "sheets/Sheets.h"
 
 #include "Console.h"
 #include "Quantity.h"
@@ -8,15 +8,8 @@ namespace quarn::tool {
 
 namespace {
 
-QString placeOf(const CircuitComponent& component) {
-    return QStringLiteral("cell (%1, %2, %3)")
-        .arg(component.getXIndex())
-        .arg(component.getYIndex())
-        .arg(component.getZIndex());
-}
-
 QString waveGuidePortText(const WaveGuidePort& port) {
-    return QStringLiteral("%1, waveguide %2 mode %3, amplitude %4, phase %5")
+    return text("%1, waveguide %2 mode %3, amplitude %4, phase %5")
         .arg(port.getWaveGuideModeName())
         .arg(port.getWaveGuideNumber())
         .arg(port.getWaveGuideModeNumber())
@@ -25,39 +18,38 @@ QString waveGuidePortText(const WaveGuidePort& port) {
 }
 
 QString label(const CircuitComponent& component, std::size_t index) {
-    return QStringLiteral("%1 %2").arg(QLatin1String(component.isPort() ? "port" : "component")).arg(index);
+    return text("%1 %2").arg(QLatin1String(component.isPort() ? "port" : "component")).arg(index);
 }
 
 void addComponents(Sheet& sheet, const ComponentManager& manager) {
-    QString summary =
-        counted(manager.getNumberOfComponents(), QStringLiteral("component")) + QStringLiteral(", %1 of them ports");
+    QString summary = counted(manager.getNumberOfComponents(), "component") + text(", %1 of them ports");
     summary = summary.arg(manager.getNumberOfPorts());
     if (manager.computeSParameters()) {
-        summary += QStringLiteral("; S-parameters with port %1 active").arg(manager.getActivePort());
+        summary += text("; S-parameters with port %1 active").arg(manager.getActivePort());
     }
-    sheet.add(QStringLiteral("Circuit"), summary);
+    sheet.add("Circuit", summary);
     sheet.addFirst(manager.getComponents(), [&](std::size_t i, const CircuitComponent& component) {
         sheet.addDetail(label(component, i),
-                        component.qstr_short() + QStringLiteral(" at ") + placeOf(component) +
+                        component.qstr_short() + text(" at cell ") +
+                            tripleText(component.getXIndex(), component.getYIndex(), component.getZIndex()) +
                             QLatin1String(component.isActive() ? ", active" : ""));
     });
 }
 
 void addStaticVoltages(Sheet& sheet, const StaticVoltageList& voltages) {
     if (voltages.getPoints().empty()) return;
-    sheet.add(QStringLiteral("Static voltages"),
-              QStringLiteral("%1, thresholds %2 (conductor) and %3 (residual), at most %4 iterations")
-                  .arg(counted(voltages.getPoints().size(), QStringLiteral("point")),
+    sheet.add("Static voltages",
+              text("%1, thresholds %2 (conductor) and %3 (residual), at most %4 iterations")
+                  .arg(counted(voltages.getPoints().size(), "point"),
                        numberText(voltages.getVoltageConductorThreshhold()),
                        numberText(voltages.getVoltageResidualThreshhold()))
                   .arg(voltages.getMaximumIterations()));
 }
 
 void addWaveGuidePorts(Sheet& sheet, const WaveGuidePortManager& manager) {
-    sheet.add(QStringLiteral("Waveguides"),
-              counted(manager.getNumberOfWaveguidePorts(), QStringLiteral("waveguide port")));
+    sheet.add("Waveguides", counted(manager.getNumberOfWaveguidePorts(), "waveguide port"));
     sheet.addFirst(manager.getWaveguidePorts(), [&](std::size_t i, const WaveGuidePort& port) {
-        sheet.addDetail(QStringLiteral("port %1").arg(i), waveGuidePortText(port));
+        sheet.addDetail(text("port %1").arg(i), waveGuidePortText(port));
     });
 }
 
@@ -74,12 +66,12 @@ QStringList circuitLines(const ProjectFile& project) {
     if (const ComponentManager* manager = project.getComponentManager()) {
         const auto& components = manager->getComponents();
         for (std::size_t i = 0; i < components.size(); ++i) {
-            lines << label(*components[i], i) + QStringLiteral(": ") + components[i]->qstr_short();
+            lines << label(*components[i], i) + text(": ") + components[i]->qstr_short();
         }
     }
     if (const WaveGuidePortManager* manager = project.getWaveGuidePortManager()) {
         for (const WaveGuidePort* port : manager->getWaveguidePorts()) {
-            lines << QStringLiteral("waveguide port: ") + waveGuidePortText(*port);
+            lines << text("waveguide port: ") + waveGuidePortText(*port);
         }
     }
     return lines;
