@@ -1,5 +1,8 @@
 #include "commands/Commands.h"
 
+#include <algorithm>
+#include <string_view>
+
 #include "Console.h"
 #include "Quantity.h"
 #include "quarn/Version.h"
@@ -30,16 +33,23 @@ public:
 
 constexpr char protection = '\0';  // which no argument can hold
 
-/// The arguments as CLI11 takes them, the last one first. It would split a text in brackets, and take the next argument
-/// for an option's empty value.
+/// The arguments as CLI11 takes them, the last one first. It would split a text in brackets, take the next argument for
+/// an option's empty value and end the list of files at "--".
 std::vector<std::string> protectedArguments(const QStringList& arguments) {
     std::vector<std::string> result;
-    for (auto argument = arguments.crbegin(); argument != arguments.crend(); ++argument) {
-        std::string text = argument->toStdString();
-        if (!text.empty() && std::string("[{+").find(text.front()) != std::string::npos) text.insert(0, 1, protection);
-        if (argument->startsWith(QLatin1String("--")) && text.back() == '=') text += protection;
-        result.push_back(text);
+    bool isOption = true;
+    for (const QString& argument : arguments) {
+        if (isOption && argument == QLatin1String("--")) {
+            isOption = false;
+            continue;
+        }
+        std::string word = argument.toStdString();
+        const bool isSpecial = !word.empty() && std::string_view("[{+").find(word.front()) != std::string_view::npos;
+        if (!isOption || isSpecial) word.insert(0, 1, protection);
+        if (argument.startsWith(QLatin1String("--")) && word.back() == '=') word += protection;
+        result.push_back(word);
     }
+    std::reverse(result.begin(), result.end());
     return result;
 }
 
@@ -54,6 +64,8 @@ QString problemText(const CLI::App& command, const CLI::ParseError& error) {
             .arg(first);
     }
     const QString problem = QString::fromUtf8(error.what());
+    const QString flag = problem.section(text(" was given a disallowed flag override"), 0, 0);
+    if (flag != problem) return text("--%1 takes no value.").arg(flag);
     const auto* option = command.get_option_no_throw(problem.section(u':', 0, 0).toStdString());
     if (!option) return problem + u'.';
     return QString::fromStdString(option->get_name()) +
