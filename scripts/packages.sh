@@ -1,6 +1,6 @@
 # Sourced by the scripts: what they need from Debian, and how they get it.
 
-build_packages=(cmake g++ ninja-build qtbase5-dev)
+build_packages=(cmake g++ libcli11-dev ninja-build qtbase5-dev)
 test_packages=("${build_packages[@]}" gnuplot-nox libbenchmark-dev libgmock-dev libgtest-dev)
 fuzz_packages=("${build_packages[@]}" clang libclang-rt-14-dev llvm)  # llvm: names and lines in the findings
 lint_packages=(clang-tidy cppcheck)

@@ -22,24 +22,14 @@ QTextStream& out() {
     return *stream;
 }
 
-void complain(const QString& text) {
+void printError(const QString& text) {
     static const auto stream = utf8Stream(stderr);
     out().flush();
     *stream << "quarn: " << printable(text) << Qt::endl;
 }
 
-void complain(const FileProblem& problem) {
-    complain(problem.path() + QStringLiteral(": ") + QString::fromUtf8(problem.what()));
-}
-
-QString printable(QString text) {
-    const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control && c != u'\t'; };
-    std::replace_if(text.begin(), text.end(), isControl, QChar(QChar::ReplacementCharacter));
-    return text;
-}
-
-QString counted(std::size_t count, const QString& noun) {
-    return QStringLiteral("%1 %2%3").arg(count).arg(noun, QLatin1String(count == 1 ? "" : "s"));
+void printError(const FileProblem& problem) {
+    printError(problem.path() + text(": ") + QString::fromUtf8(problem.what()));
 }
 
 int forEachFile(const QStringList& paths, const std::function<int(const QString& path)>& use) {
@@ -48,7 +38,7 @@ int forEachFile(const QStringList& paths, const std::function<int(const QString&
         try {
             worst = std::max(worst, use(path));
         } catch (const FileProblem& problem) {
-            complain(problem);
+            printError(problem);
             worst = ExitUnusable;
         }
     }

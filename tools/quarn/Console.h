@@ -5,6 +5,8 @@
 #include <functional>
 #include <stdexcept>
 
+#include "Text.h"
+
 /// How the tool talks to its user: results on standard output, messages on standard error, both UTF-8.
 namespace quarn::tool {
 
@@ -25,17 +27,17 @@ private:
     QString m_path;
 };
 
+/// A command line that cannot be followed.
+class WrongUsage : public std::runtime_error {
+public:
+    explicit WrongUsage(const QString& problem) : std::runtime_error(problem.toStdString()) {}
+};
+
 QTextStream& out();
 
 /// Writes "quarn: TEXT" to standard error.
-void complain(const QString& text);
-void complain(const FileProblem& problem);
-
-/// The text with control characters replaced, so that a file's content cannot drive the terminal.
-QString printable(QString text);
-
-/// "1 error", "2 errors"; the plural is the noun with an s.
-QString counted(std::size_t count, const QString& noun);
+void printError(const QString& text);
+void printError(const FileProblem& problem);
 
 /// Calls `use` for each file, complains about those that it throws a FileProblem for, and returns the worst status.
 int forEachFile(const QStringList& paths, const std::function<int(const QString& path)>& use);

@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+#include "Text.h"
+
 #ifdef _WIN32
 #include <io.h>
 #else
@@ -38,11 +40,11 @@ void ProgressBar::show(std::size_t done, std::size_t total) {
     constexpr int width = 40;
     const double share = total > 0 ? static_cast<double>(done) / static_cast<double>(total) : 1.0;
     const QString filled(static_cast<int>(share * width), u'#');
-    const QString text = QStringLiteral("%1 [%2] %3 %")
-                             .arg(m_label, filled.leftJustified(width), QString::number(static_cast<int>(share * 100)));
-    std::fprintf(stderr, "\r%s", text.toUtf8().constData());
+    const QString line =
+        text("%1 [%2] %3 %").arg(m_label, filled.leftJustified(width), QString::number(static_cast<int>(share * 100)));
+    std::fprintf(stderr, "\r%s", line.toUtf8().constData());
     std::fflush(stderr);
-    m_length = text.size();
+    m_length = line.size();
 }
 
 void ProgressBar::clear() {

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "Text.h"
 #include "quarn/PhysicalConstants.h"
 #include "quarn/SARPlane.h"
 
@@ -31,35 +32,42 @@ constexpr Prefix prefixes[] = {
     {1e-15, "f"},
 };
 
-/// As it will be printed, so that 999.9999999 counts as 1000.
+/// The value as it is printed: 999.9999999 counts as 1000.
 double rounded(double value) { return QString::number(value, 'e', significantDigits - 1).toDouble(); }
 
 }  // namespace
 
 QString numberText(double value) { return QString::number(value, 'g', significantDigits); }
 
+QString pointText(double x, double y, double z) {
+    return tripleText(numberText(x), numberText(y), numberText(z)) + text(" m");
+}
+
+bool isNumber(QStringView word) {
+    bool isValid = false;
+    word.toString().toDouble(&isValid);
+    return isValid;
+}
+
 QString withPrefix(double value, const QString& unit) {
     const double size = std::abs(rounded(value));
     for (const Prefix& prefix : prefixes) {
         if (size < prefix.factor || size >= 1000 * prefix.factor) continue;
-        return QStringLiteral("%1 %2%3").arg(numberText(value / prefix.factor), QString::fromUtf8(prefix.symbol), unit);
+        return text("%1 %2%3").arg(numberText(value / prefix.factor), QString::fromUtf8(prefix.symbol), unit);
     }
-    return QStringLiteral("%1 %2").arg(numberText(value), unit);
+    return text("%1 %2").arg(numberText(value), unit);
 }
 
-QString degrees(double angle) { return numberText(angle) + QStringLiteral("°"); }
+QString rangeText(double least, double greatest, const QString& unit) {
+    return text("%1 to %2").arg(withPrefix(least, unit), withPrefix(greatest, unit));
+}
+
+QString degrees(double angle) { return numberText(angle) + text("°"); }
 
 QString planeName(int plane) {
-    switch (plane) {
-        case SARPlane::XY:
-            return QStringLiteral("XY");
-        case SARPlane::YZ:
-            return QStringLiteral("YZ");
-        case SARPlane::ZX:
-            return QStringLiteral("ZX");
-        default:
-            return QStringLiteral("unknown");
-    }
+    static_assert(SARPlane::XY == 0 && SARPlane::YZ == 1 && SARPlane::ZX == 2);
+    constexpr const char* names[] = {"XY", "YZ", "ZX"};
+    return text(plane >= SARPlane::XY && plane <= SARPlane::ZX ? names[plane] : "unknown");
 }
 
 double degreesFromRadians(float radians) {

@@ -2,16 +2,14 @@
 
 #include <QStringList>
 
-/// The subcommands. Each takes the arguments that follow its name and returns an ExitStatus; main() catches what they
-/// throw: WrongUsage, FileProblem, and whatever the library throws.
+#include "Console.h"
+#include "commands/Commands.h"
+
 namespace quarn::tool {
 
-int runCheck(const QStringList& arguments);
-int runShow(const QStringList& arguments);
-int runRewrite(const QStringList& arguments);
-int runFarZone(const QStringList& arguments);
-int runExport(const QStringList& arguments);
-int runSar(const QStringList& arguments);
-int runDemo(const QStringList& arguments);
+inline void complain(const QString& problem) { printError(problem); }
+
+/// `quarn farzone` with the arguments that follow its name.
+inline int runFarZone(const QStringList& arguments) { return runTool(QStringList(text("farzone")) + arguments); }
 
 }  // namespace quarn::tool

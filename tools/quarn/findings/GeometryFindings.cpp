@@ -1,0 +1,121 @@
+#include "findings/GeometryFindings.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+#include "Quantity.h"
+#include "Text.h"
+#include "files/GridAxes.h"
+#include "findings/LineForm.h"
+#include "quarn/quarn.h"
+
+namespace quarn::tool {
+
+namespace {
+
+void addUnusableSize(QStringList& errors, const Grid& grid, const GridAxis& axis) {
+    const std::uint32_t cells = (grid.*axis.getNumberOfCells)();
+    for (std::uint32_t i = 0; i < cells; ++i) {
+        const float size = (grid.*axis.getDelta)(i);
+        if (std::isfinite(size) && size > 0.0F) continue;
+        errors << text("Cell %1 along %2 has the unusable size %3 m.")
+                      .arg(i)
+                      .arg(QLatin1String(axis.name), numberText(static_cast<double>(size)));
+        return;
+    }
+}
+
+void addMissingMaterial(QStringList& errors, const MaterialMap& map, const char* kind, std::int32_t position,
+                        std::size_t count) {
+    if (position >= 0 && static_cast<std::size_t>(position) < count) return;
+    errors << text("The material map '%1' names %2 material %3, but there are %4, numbered from 0.")
+                  .arg(map.getName(), QLatin1String(kind))
+                  .arg(position)
+                  .arg(count);
+}
+
+// A component sits on a cell edge: along its own direction it needs a cell, across it the far side of the last cell is
+// as good as any.
+bool isWithin(const Grid& grid, const CircuitComponent& component) {
+    const auto fits = [&component](unsigned index, std::uint32_t cells, auto axis) {
+        return index < cells || (index == cells && component.getComponentDirection() != axis);
+    };
+    return fits(component.getXIndex(), grid.getNumberOfUserCellsInX(), CircuitComponent::X) &&
+           fits(component.getYIndex(), grid.getNumberOfUserCellsInY(), CircuitComponent::Y) &&
+           fits(component.getZIndex(), grid.getNumberOfUserCellsInZ(), CircuitComponent::Z);
+}
+
+void removeRepeatedSizes(std::vector<BlockLine>& lines, BlockNumbers& numbers) {
+    const int deltas = numbers.of(0, text("Deltas"));
+    const int axes[] = {
+        numbers.of(deltas, text("DelX")), numbers.of(deltas, text("DelY")), numbers.of(deltas, text("DelZ"))};
+    int block = 0;
+    QString last;
+    const auto isRepeated = [&](const BlockLine& line) {
+        const auto words = wordsOf(line.text);
+        const bool isSize = std::find(std::begin(axes), std::end(axes), line.block) != std::end(axes) &&
+                            words.size() == 2 && isNumber(words[0]) && isNumber(words[1]);
+        if (!isSize) {
+            last.clear();
+            return false;
+        }
+        const QString size = formOf(line.block, words[1], NumberForm::AllReals);
+        const bool isSame = block == line.block && last == size;
+        block = line.block;
+        last = size;
+        return isSame;
+    };
+    lines.erase(std::remove_if(lines.begin(), lines.end(), isRepeated), lines.end());
+}
+
+}  // namespace
+
+QStringList errorsIn(const LoadedGeometry& loaded) {
+    QStringList errors;
+    for (const GridAxis& axis : gridAxes) {
+        if ((loaded.grid.*axis.getNumberOfCells)() == 0) {
+            errors << text("The grid has no cells along %1.").arg(QLatin1String(axis.name));
+        }
+        addUnusableSize(errors, loaded.grid, axis);
+    }
+    const std::size_t electric = loaded.geometry.getElectricMaterials().size();
+    const std::size_t magnetic = loaded.geometry.getMagneticMaterials().size();
+    for (const MaterialMap* map : loaded.geometry.getMaterialMappings()) {
+        for (const auto position :
+             {map->getXElectricMaterial(), map->getYElectricMaterial(), map->getZElectricMaterial()}) {
+            addMissingMaterial(errors, *map, "electric", position, electric);
+        }
+        for (const auto position :
+             {map->getXMagneticMaterial(), map->getYMagneticMaterial(), map->getZMagneticMaterial()}) {
+            addMissingMaterial(errors, *map, "magnetic", position, magnetic);
+        }
+    }
+    errors.removeDuplicates();
+    return errors;
+}
+
+QStringList misplacedComponents(const ProjectFile& project, const Grid& grid) {
+    QStringList errors;
+    if (!project.getComponentManager()) return errors;
+    for (const CircuitComponent* component : project.getComponentManager()->getComponents()) {
+        if (isWithin(grid, *component)) continue;
+        errors << text("A component is outside the grid, at cell (%2, %3, %4): %1")
+                      .arg(component->qstr_short())
+                      .arg(component->getXIndex())
+                      .arg(component->getYIndex())
+                      .arg(component->getZIndex());
+    }
+    return errors;
+}
+
+void normalize(std::vector<BlockLine>& lines, BlockNumbers& numbers) {
+    removeRepeatedSizes(lines, numbers);
+    const QString definition = text("GridDefinition");
+    const int adaptive = numbers.of(numbers.of(0, text("AdaptiveGridDefinition")), definition);
+    for (BlockLine& line : lines) {
+        if (line.block == adaptive) line.block = numbers.of(0, definition);
+    }
+}
+
+}  // namespace quarn::tool
