@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 
+#include "quarn/Description.h"
 #include "quarn/Export.h"
 #include "quarn/FieldGroup.h"
 #include "quarn/ivec3.h"
@@ -57,6 +58,8 @@ protected:
                             bool j, int minTimestep, int maxTimestep, int deltaTimestep, const QString& filename);
 
 private:
+    friend struct blocktext::Description<NearZoneMultiFieldPoint>;
+
     std::array<bool, fieldGroups.size()> m_groups{};  ///< by FieldGroup
     std::int32_t m_minTimestep = -1;
     std::int32_t m_maxTimestep = -1;
@@ -83,6 +86,8 @@ public:
     bool operator!=(const NearZoneMultiFieldIndexedPoint& other) const { return !(*this == other); }
 
 private:
+    friend struct blocktext::Description<NearZoneMultiFieldIndexedPoint>;
+
     std::int32_t m_x = 0;
     std::int32_t m_y = 0;
     std::int32_t m_z = 0;
@@ -107,6 +112,8 @@ public:
     bool operator!=(const NearZoneMultiFieldInterpolatedPoint& other) const { return !(*this == other); }
 
 private:
+    friend struct blocktext::Description<NearZoneMultiFieldInterpolatedPoint>;
+
     float m_x = 0.0F;
     float m_y = 0.0F;
     float m_z = 0.0F;

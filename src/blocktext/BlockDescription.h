@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <tuple>
 #include <utility>
 
@@ -22,10 +23,10 @@
 /// A description is a constant. Reading expands to one chain of comparisons, and nothing is allocated for a line.
 namespace quarn::blocktext {
 
-/// A key or the name of a block, from a literal.
+/// A key or the name of a block.
 struct Key : QLatin1String {
-    template <std::size_t size>
-    constexpr Key(const char (&text)[size]) : QLatin1String(text, static_cast<int>(size) - 1) {}
+    constexpr Key(const char* text) : QLatin1String(text, static_cast<int>(std::char_traits<char>::length(text))) {}
+    constexpr Key(QLatin1String text) : QLatin1String(text) {}
 };
 
 // ---- Conditions: when a line is written, and the words for it.

@@ -28,6 +28,26 @@ constexpr Property<Get, Set> property(Get get, Set set) {
     return {get, set};
 }
 
+/// A value that is written from one place and read into another.
+template <class From, class Into>
+struct Separate {
+    From from;
+    Into into;
+};
+template <class From, class Into>
+constexpr Separate<From, Into> separate(From from, Into into) {
+    return {from, into};
+}
+
+/// The object itself.
+struct Itself {
+    template <class Object>
+    constexpr auto& operator()(Object& object) const {
+        return object;
+    }
+};
+inline constexpr Itself itself;
+
 /// A member of a member.
 template <class Outer, class Inner>
 struct Path {
@@ -61,14 +81,19 @@ constexpr Element<Array> element(Array array, std::size_t index) {
     return {array, index};
 }
 
-/// The value in an object: `access` is a pointer to a member, a function that returns a reference, or a Property.
+/// The value in an object: `access` is a pointer to a member, a function that returns a reference, a Property,
+/// or a Separate.
 template <class Access, class Object>
 decltype(auto) valueIn(const Object& object, const Access& access) {
     return std::invoke(access, object);
 }
 template <class Get, class Set, class Object>
-auto valueIn(const Object& object, const Property<Get, Set>& access) {
+decltype(auto) valueIn(const Object& object, const Property<Get, Set>& access) {
     return std::invoke(access.get, object);
+}
+template <class From, class Into, class Object>
+decltype(auto) valueIn(const Object& object, const Separate<From, Into>& access) {
+    return std::invoke(access.from, object);
 }
 template <class Access, class Object>
 using ValueIn = std::decay_t<decltype(valueIn(std::declval<const Object&>(), std::declval<const Access&>()))>;
@@ -84,6 +109,11 @@ bool readInto(Object& object, const Property<Get, Set>& access, Read read) {
     const bool isRead = read(value);
     std::invoke(access.set, object, value);
     return isRead;
+}
+
+template <class From, class Into, class Object, class Read>
+bool readInto(Object& object, const Separate<From, Into>& access, Read read) {
+    return read(std::invoke(access.into, object));
 }
 
 /// What all forms have in common: values can be written, whatever they are, and have no names.

@@ -16,7 +16,7 @@ struct FarZoneRequests {
 };
 
 constexpr auto farZoneRequests = describe<FarZoneRequests>(
-    "FarZoneRequests", Unknown::DropLine, Unreadable::KeepsValue,
+    requestName::farZone, Unknown::DropLine, Unreadable::KeepsValue,
     wholeInnerBlocks(&FarZoneRequests::steadyState, Description<FarZoneRequest>::block("SteadyState")),
     wholeInnerBlocks(&FarZoneRequests::transient, Description<FarZoneRequest>::block("Transient")));
 
@@ -34,5 +34,7 @@ bool readFarZoneRequests(DelimManager& delim, Requests& steadyState, Requests& t
     transient = std::move(requests.transient);
     return isOk(delim);
 }
+
+void describeFarZoneRequests(FormatBuilder& builder) { farZoneRequests.describeTo(builder, {}); }
 
 }  // namespace quarn

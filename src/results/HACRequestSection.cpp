@@ -21,7 +21,7 @@ constexpr auto axis(Key key, Vector3D HACRequest::*vector) {
 constexpr auto hacRequest = [] {
     using R = HACRequest;
     using Point = tavrix::Cartesian3D;
-    return describeWords<R>("HACRequest",
+    return describeWords<R>(requestName::hac,
                             Unknown::DropWord,
                             Unreadable::KeepsValue,
                             value("Origin", &R::origin, parts(&Point::x, &Point::y, &Point::z)).in("m"),
@@ -39,5 +39,7 @@ std::unique_ptr<const HACRequest> readHACRequest(DelimManager& delim) {
     hacRequest.read(delim, *request);
     return request;
 }
+
+void describeHACRequest(FormatBuilder& builder) { hacRequest.describeTo(builder, {}); }
 
 }  // namespace quarn

@@ -1,9 +1,7 @@
 #include <set>
 #include <stdexcept>
-#include <tuple>
 
-#include "blocktext/BlockWalker.h"
-#include "blocktext/BlockWriter.h"
+#include "blocktext/BlockDescription.h"
 #include "quarn/MultiPointFieldRequest.h"
 #include "results/RequestSections.h"
 
@@ -13,116 +11,102 @@ using namespace blocktext;
 
 namespace {
 
-using Request = MultiPointFieldRequest;
-
-namespace key {
-constexpr auto MultiPointFieldRequest = "MultiPointFieldRequest"_key;
-constexpr auto MinTimestep = "MinTimestep"_key;
-constexpr auto MaxTimestep = "MaxTimestep"_key;
-constexpr auto DeltaTimestep = "DeltaTimestep"_key;
-constexpr auto File = "File"_key;
-constexpr auto GridBoxes = "GridBoxes"_key;
-constexpr auto PointsToRemoveFromBoxes = "PointsToRemoveFromBoxes"_key;
-constexpr auto AdditionalPoints = "AdditionalPoints"_key;
-constexpr auto GridIndices = "GridIndices"_key;
-}  // namespace key
-
-struct Flag {
-    QLatin1String key;
-    bool Request::*member;
+// A request, which is constant while it is written, and the lists that a reader finds and from which the cells are made
+// at the end. Older files list plain grid indices.
+template <class Request>
+struct Content {
+    Request& request;
+    std::vector<GridIndexBoxes::Box> boxes{};
+    std::set<ivec3> pointsToRemove{};
+    std::vector<ivec3> additionalPoints{};
+    std::vector<ivec3> gridIndices{};
 };
 
-// In the order in which they are written.
-constexpr std::array<Flag, 12> flags{{
-    {"TransientTotalE"_key, &Request::collectTransientTotalE},
-    {"TransientTotalH"_key, &Request::collectTransientTotalH},
-    {"TransientTotalB"_key, &Request::collectTransientTotalB},
-    {"TransientJ"_key, &Request::collectTransientJ},
-    {"TransientScatteredE"_key, &Request::collectTransientScatteredE},
-    {"TransientScatteredH"_key, &Request::collectTransientScatteredH},
-    {"TransientScatteredB"_key, &Request::collectTransientScatteredB},
-    {"SteadyTotalE"_key, &Request::collectSteadyTotalE},
-    {"SteadyTotalH"_key, &Request::collectSteadyTotalH},
-    {"SteadyTotalB"_key, &Request::collectSteadyTotalB},
-    {"SteadyJ"_key, &Request::collectSteadyJ},
-    {"Snapped"_key, &Request::snapped},
-}};
+// A member of the request.
+template <class Member>
+struct InRequest {
+    Member member;
 
-void put(QTextStream& out, const ivec3& p) { out << ' ' << p.x << ' ' << p.y << ' ' << p.z; }
-void put(QTextStream& out, const GridIndexBoxes::Box& box) {
-    put(out, box.first);
-    put(out, box.second);
+    template <class Any>
+    constexpr auto& operator()(Any& content) const {
+        return content.request.*member;
+    }
+};
+template <class Member>
+constexpr InRequest<Member> in(Member member) {
+    return {member};
 }
 
-bool read(QTextStream& in, ivec3& p) { return readAll(in, p.x, p.y, p.z); }
-bool read(QTextStream& in, GridIndexBoxes::Box& box) { return read(in, box.first) && read(in, box.second); }
-
-template <class List>
-void writeList(DelimManager& delim, QLatin1String key, const List& list) {
-    QTextStream& out = delim.GetStream();
-    out << key << ' ' << list.size();
-    for (const auto& entry : list) put(out, entry);
-    out << '\n';
+// A list that is written from the cells of the request.
+template <class Request, class Get, class List>
+constexpr auto cells(Get get, List Content<Request>::*list) {
+    return separate(
+        [get](const auto& content) -> decltype(auto) { return std::invoke(get, content.request.gridIndexBoxes); },
+        list);
 }
 
-// Lists come in their order, so that a set takes each entry at its end, too.
-template <class List>
-auto onList(QLatin1String key, List& list) {
-    return onWord(key, [&list](QTextStream& in) {
-        readCounted(in, [&list](QTextStream& from) {
-            typename List::value_type entry;
-            const bool isRead = read(from, entry);
-            if (isRead) list.insert(list.end(), entry);
-            return isRead;
-        });
-    });
+template <class Request>
+constexpr auto block() {
+    using R = MultiPointFieldRequest;
+    using C = Content<Request>;
+    constexpr auto point = parts(&ivec3::x, &ivec3::y, &ivec3::z);
+    using Box = GridIndexBoxes::Box;
+    constexpr auto box = parts(path(&Box::first, &ivec3::x),
+                               path(&Box::first, &ivec3::y),
+                               path(&Box::first, &ivec3::z),
+                               path(&Box::second, &ivec3::x),
+                               path(&Box::second, &ivec3::y),
+                               path(&Box::second, &ivec3::z));
+    return describe<C>(
+        requestName::multiPointField,
+        Unknown::DropLine,
+        Unreadable::KeepsValue,
+        value("MinTimestep", in(&R::minTimestep)),
+        value("MaxTimestep", in(&R::maxTimestep)),
+        value("DeltaTimestep", in(&R::deltaTimestep)),
+        text("File", in(&R::outputFile)),
+        flag("TransientTotalE", in(&R::collectTransientTotalE)),
+        flag("TransientTotalH", in(&R::collectTransientTotalH)),
+        flag("TransientTotalB", in(&R::collectTransientTotalB)),
+        flag("TransientJ", in(&R::collectTransientJ)),
+        flag("TransientScatteredE", in(&R::collectTransientScatteredE)),
+        flag("TransientScatteredH", in(&R::collectTransientScatteredH)),
+        flag("TransientScatteredB", in(&R::collectTransientScatteredB)),
+        flag("SteadyTotalE", in(&R::collectSteadyTotalE)),
+        flag("SteadyTotalH", in(&R::collectSteadyTotalH)),
+        flag("SteadyTotalB", in(&R::collectSteadyTotalB)),
+        flag("SteadyJ", in(&R::collectSteadyJ)),
+        flag("Snapped", in(&R::snapped)),
+        unwritten(in(&R::gridIndexBoxes)),
+        value("GridBoxes", cells<Request>(&GridIndexBoxes::getBoxes, &C::boxes), counted(box)).notCompared(),
+        value("PointsToRemoveFromBoxes",
+              cells<Request>(&GridIndexBoxes::getPointsToRemoveFromBoxes, &C::pointsToRemove),
+              counted(point))
+            .notCompared(),
+        value("AdditionalPoints",
+              cells<Request>(&GridIndexBoxes::getSparePointIndices, &C::additionalPoints),
+              counted(point))
+            .notCompared(),
+        value("GridIndices", &C::gridIndices, counted(point)).onlyRead().notCompared());
 }
 
 }  // namespace
 
 bool operator==(const MultiPointFieldRequest& a, const MultiPointFieldRequest& b) {
-    const auto hasSame = [&](const auto&... flag) { return ((a.*flag.member == b.*flag.member) && ...); };
-    const auto others = [](const Request& r) {
-        return std::tie(r.minTimestep, r.maxTimestep, r.deltaTimestep, r.outputFile, r.gridIndexBoxes);
-    };
-    return std::apply(hasSame, flags) && others(a) == others(b);
+    return block<const MultiPointFieldRequest>().areEqual({a}, {b});
 }
 
 bool writeMultiPointFieldRequest(DelimManager& delim, const MultiPointFieldRequest& request) {
-    const WrittenBlock block(delim, key::MultiPointFieldRequest);
-    putLine(delim, key::MinTimestep, request.minTimestep);
-    putLine(delim, key::MaxTimestep, request.maxTimestep);
-    putLine(delim, key::DeltaTimestep, request.deltaTimestep);
-    putLine(delim, key::File, request.outputFile);
-    for (const Flag& flag : flags) putFlag(delim, flag.key, request.*flag.member);
-    writeList(delim, key::GridBoxes, request.gridIndexBoxes.getBoxes());
-    writeList(delim, key::PointsToRemoveFromBoxes, request.gridIndexBoxes.getPointsToRemoveFromBoxes());
-    writeList(delim, key::AdditionalPoints, request.gridIndexBoxes.getSparePointIndices());
-    return isOk(delim);
+    return block<const MultiPointFieldRequest>().write(delim, {request});
 }
 
-// Older files list plain grid indices; they count only where there is nothing else.
+// Plain grid indices count only where there is nothing else.
 bool readMultiPointFieldRequest(DelimManager& delim, MultiPointFieldRequest& request) {
-    std::vector<ivec3> gridIndices;
-    std::vector<GridIndexBoxes::Box> boxes;
-    std::set<ivec3> pointsToRemove;
-    std::vector<ivec3> additionalPoints;
+    Content<MultiPointFieldRequest> content{request};
     request.snapped = false;
-    const auto walk = [&](const auto&... flag) {
-        walkBlock(delim,
-                  Unknown::DropLine,
-                  onText(key::File, request.outputFile),
-                  onValue(key::MinTimestep, request.minTimestep),
-                  onValue(key::MaxTimestep, request.maxTimestep),
-                  onValue(key::DeltaTimestep, request.deltaTimestep),
-                  onFlag(flag.key, request.*flag.member)...,
-                  onList(key::GridIndices, gridIndices),
-                  onList(key::GridBoxes, boxes),
-                  onList(key::PointsToRemoveFromBoxes, pointsToRemove),
-                  onList(key::AdditionalPoints, additionalPoints));
-    };
-    std::apply(walk, flags);
+    block<MultiPointFieldRequest>().read(delim, content);
     try {
+        auto& [_, boxes, pointsToRemove, additionalPoints, gridIndices] = content;
         request.gridIndexBoxes = boxes.empty() && additionalPoints.empty()
                                      ? GridIndexBoxes(std::move(gridIndices))
                                      : GridIndexBoxes(std::move(boxes), pointsToRemove, std::move(additionalPoints));
@@ -130,6 +114,11 @@ bool readMultiPointFieldRequest(DelimManager& delim, MultiPointFieldRequest& req
         return false;
     }
     return isOk(delim);
+}
+
+void describeMultiPointField(FormatBuilder& builder) {
+    const MultiPointFieldRequest blank;
+    block<const MultiPointFieldRequest>().describeTo(builder, {blank});
 }
 
 }  // namespace quarn

@@ -1,8 +1,5 @@
 #include "quarn/NearZoneMultiFieldPoint.h"
 
-#include <tuple>
-#include <typeinfo>
-
 namespace quarn {
 
 NearZoneMultiFieldPoint::~NearZoneMultiFieldPoint() = default;
@@ -16,13 +13,6 @@ NearZoneMultiFieldPoint::NearZoneMultiFieldPoint(bool scatteredE, bool totalE, b
       m_deltaTimestep(deltaTimestep),
       m_filename(filename) {}
 
-bool NearZoneMultiFieldPoint::operator==(const NearZoneMultiFieldPoint& other) const {
-    const auto members = [](const NearZoneMultiFieldPoint& p) {
-        return std::tie(p.m_groups, p.m_minTimestep, p.m_maxTimestep, p.m_deltaTimestep, p.m_filename);
-    };
-    return typeid(*this) == typeid(other) && members(*this) == members(other);
-}
-
 NearZoneMultiFieldIndexedPoint::NearZoneMultiFieldIndexedPoint(const ivec3& point, bool scatteredE, bool totalE,
                                                                bool scatteredH, bool totalH, bool scatteredB,
                                                                bool totalB, bool j, int minTimestep, int maxTimestep,
@@ -32,11 +22,6 @@ NearZoneMultiFieldIndexedPoint::NearZoneMultiFieldIndexedPoint(const ivec3& poin
       m_x(point.x),
       m_y(point.y),
       m_z(point.z) {}
-
-bool NearZoneMultiFieldIndexedPoint::operator==(const NearZoneMultiFieldIndexedPoint& other) const {
-    return NearZoneMultiFieldPoint::operator==(other) &&
-           std::tie(m_x, m_y, m_z) == std::tie(other.m_x, other.m_y, other.m_z);
-}
 
 NearZoneMultiFieldInterpolatedPoint::NearZoneMultiFieldInterpolatedPoint(float x, float y, float z, bool scatteredE,
                                                                          bool totalE, bool scatteredH, bool totalH,
@@ -48,10 +33,5 @@ NearZoneMultiFieldInterpolatedPoint::NearZoneMultiFieldInterpolatedPoint(float x
       m_x(x),
       m_y(y),
       m_z(z) {}
-
-bool NearZoneMultiFieldInterpolatedPoint::operator==(const NearZoneMultiFieldInterpolatedPoint& other) const {
-    return NearZoneMultiFieldPoint::operator==(other) &&
-           std::tie(m_x, m_y, m_z) == std::tie(other.m_x, other.m_y, other.m_z);
-}
 
 }  // namespace quarn

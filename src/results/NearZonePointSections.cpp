@@ -1,7 +1,6 @@
-#include <tuple>
+#include <typeinfo>
 
-#include "blocktext/BlockWalker.h"
-#include "blocktext/BlockWriter.h"
+#include "blocktext/BlockDescription.h"
 #include "quarn/NearZoneMultiFieldPoint.h"
 #include "results/RequestSections.h"
 
@@ -9,103 +8,100 @@ namespace quarn {
 
 using namespace blocktext;
 
+/// What points of both kinds have in common stands in an inner block.
+template <>
+struct blocktext::Description<NearZoneMultiFieldPoint> {
+    using P = NearZoneMultiFieldPoint;
+    static constexpr auto block() {
+        constexpr auto groupFlag = [](FieldGroup group) {
+            return flag(infoOf(group).key, element(&P::m_groups, static_cast<std::size_t>(group)));
+        };
+        return describe<P>("Definition",
+                           Unknown::DropLine,
+                           Unreadable::KeepsValue,
+                           text("File", &P::m_filename),
+                           value("MinTimestep", &P::m_minTimestep),
+                           value("MaxTimestep", &P::m_maxTimestep),
+                           value("DeltaTimestep", &P::m_deltaTimestep),
+                           groupFlag(FieldGroup::TotalE),
+                           groupFlag(FieldGroup::ScatteredE),
+                           groupFlag(FieldGroup::TotalH),
+                           groupFlag(FieldGroup::ScatteredH),
+                           groupFlag(FieldGroup::TotalB),
+                           groupFlag(FieldGroup::ScatteredB),
+                           groupFlag(FieldGroup::J));
+    }
+};
+
+template <>
+struct blocktext::Description<NearZoneMultiFieldIndexedPoint> {
+    using P = NearZoneMultiFieldIndexedPoint;
+    static constexpr auto block() {
+        return describe<P>(requestName::indexedPoint,
+                           Unknown::DropLine,
+                           Unreadable::KeepsValue,
+                           innerBlock(itself, Description<NearZoneMultiFieldPoint>::block()).notCompared(),
+                           value("XIndex", &P::m_x),
+                           value("YIndex", &P::m_y),
+                           value("ZIndex", &P::m_z));
+    }
+};
+
+template <>
+struct blocktext::Description<NearZoneMultiFieldInterpolatedPoint> {
+    using P = NearZoneMultiFieldInterpolatedPoint;
+    static constexpr auto block() {
+        return describe<P>(requestName::interpolatedPoint,
+                           Unknown::DropLine,
+                           Unreadable::KeepsValue,
+                           innerBlock(itself, Description<NearZoneMultiFieldPoint>::block()).notCompared(),
+                           value("XPosition", &P::m_x).in("m"),
+                           value("YPosition", &P::m_y).in("m"),
+                           value("ZPosition", &P::m_z).in("m"));
+    }
+};
+
 namespace {
 
 using Point = NearZoneMultiFieldPoint;
 using IndexedPoint = NearZoneMultiFieldIndexedPoint;
 using InterpolatedPoint = NearZoneMultiFieldInterpolatedPoint;
 
-namespace key {
-constexpr auto MultiFieldIndexedPoint = "MultiFieldIndexedPoint"_key;
-constexpr auto XIndex = "XIndex"_key;
-constexpr auto YIndex = "YIndex"_key;
-constexpr auto ZIndex = "ZIndex"_key;
-constexpr auto MultiFieldInterpolatedPoint = "MultiFieldInterpolatedPoint"_key;
-constexpr auto XPosition = "XPosition"_key;
-constexpr auto YPosition = "YPosition"_key;
-constexpr auto ZPosition = "ZPosition"_key;
-constexpr auto Definition = "Definition"_key;
-constexpr auto File = "File"_key;
-constexpr auto MinTimestep = "MinTimestep"_key;
-constexpr auto MaxTimestep = "MaxTimestep"_key;
-constexpr auto DeltaTimestep = "DeltaTimestep"_key;
-}  // namespace key
-
-// In the order in which they are written.
-constexpr std::array<FieldGroup, 7> groups{FieldGroup::TotalE,
-                                           FieldGroup::ScatteredE,
-                                           FieldGroup::TotalH,
-                                           FieldGroup::ScatteredH,
-                                           FieldGroup::TotalB,
-                                           FieldGroup::ScatteredB,
-                                           FieldGroup::J};
-
-QLatin1String keyOf(FieldGroup group) { return QLatin1String(infoOf(group).key); }
-
-void writeDefinition(DelimManager& delim, const Point& point) {
-    const WrittenBlock block(delim, key::Definition);
-    putLine(delim, key::File, point.filename());
-    putLine(delim, key::MinTimestep, point.getMinTimestep());
-    putLine(delim, key::MaxTimestep, point.getMaxTimestep());
-    putLine(delim, key::DeltaTimestep, point.getDeltaTimestep());
-    for (const FieldGroup group : groups) putFlag(delim, keyOf(group), point.collects(group));
-}
-
-void readDefinition(DelimManager& delim, Point& point) {
-    const auto walk = [&](auto... group) {
-        walkBlock(delim,
-                  Unknown::DropLine,
-                  onSetting(key::File, point, &Point::setFilename),
-                  onSetting(key::MinTimestep, point, &Point::setMinTimestep),
-                  onSetting(key::MaxTimestep, point, &Point::setMaxTimestep),
-                  onSetting(key::DeltaTimestep, point, &Point::setDeltaTimestep),
-                  onWord(keyOf(group), [&] { point.setCollects(group, true); })...);
-    };
-    std::apply(walk, groups);
-}
-
-// What all points have in their blocks, and the handlers for the coordinates.
-template <class... Coordinates>
-bool readPoint(DelimManager& delim, Point& point, Coordinates... coordinates) {
-    walkBlock(
-        delim, Unknown::DropLine, onBlock(key::Definition, [&] { readDefinition(delim, point); }), coordinates...);
-    return isOk(delim);
-}
+constexpr auto definition = Description<Point>::block();
+constexpr auto indexedPoint = Description<IndexedPoint>::block();
+constexpr auto interpolatedPoint = Description<InterpolatedPoint>::block();
 
 }  // namespace
 
-bool writeIndexedPoint(DelimManager& delim, const NearZoneMultiFieldIndexedPoint& point) {
-    const WrittenBlock block(delim, key::MultiFieldIndexedPoint);
-    writeDefinition(delim, point);
-    putLine(delim, key::XIndex, point.getX());
-    putLine(delim, key::YIndex, point.getY());
-    putLine(delim, key::ZIndex, point.getZ());
+bool Point::operator==(const Point& other) const {
+    return typeid(*this) == typeid(other) && definition.areEqual(*this, other);
+}
+
+bool IndexedPoint::operator==(const IndexedPoint& other) const {
+    return Point::operator==(other) && indexedPoint.areEqual(*this, other);
+}
+
+bool InterpolatedPoint::operator==(const InterpolatedPoint& other) const {
+    return Point::operator==(other) && interpolatedPoint.areEqual(*this, other);
+}
+
+bool writeIndexedPoint(DelimManager& delim, const IndexedPoint& point) { return indexedPoint.write(delim, point); }
+
+bool readIndexedPoint(DelimManager& delim, IndexedPoint& point) {
+    indexedPoint.read(delim, point);
     return isOk(delim);
 }
 
-bool readIndexedPoint(DelimManager& delim, NearZoneMultiFieldIndexedPoint& point) {
-    return readPoint(delim,
-                     point,
-                     onSetting(key::XIndex, point, &IndexedPoint::setX),
-                     onSetting(key::YIndex, point, &IndexedPoint::setY),
-                     onSetting(key::ZIndex, point, &IndexedPoint::setZ));
+bool writeInterpolatedPoint(DelimManager& delim, const InterpolatedPoint& point) {
+    return interpolatedPoint.write(delim, point);
 }
 
-bool writeInterpolatedPoint(DelimManager& delim, const NearZoneMultiFieldInterpolatedPoint& point) {
-    const WrittenBlock block(delim, key::MultiFieldInterpolatedPoint);
-    writeDefinition(delim, point);
-    putLine(delim, key::XPosition, point.getX());
-    putLine(delim, key::YPosition, point.getY());
-    putLine(delim, key::ZPosition, point.getZ());
+bool readInterpolatedPoint(DelimManager& delim, InterpolatedPoint& point) {
+    interpolatedPoint.read(delim, point);
     return isOk(delim);
 }
 
-bool readInterpolatedPoint(DelimManager& delim, NearZoneMultiFieldInterpolatedPoint& point) {
-    return readPoint(delim,
-                     point,
-                     onSetting(key::XPosition, point, &InterpolatedPoint::setX),
-                     onSetting(key::YPosition, point, &InterpolatedPoint::setY),
-                     onSetting(key::ZPosition, point, &InterpolatedPoint::setZ));
-}
+void describeIndexedPoint(FormatBuilder& builder) { indexedPoint.describeTo(builder, {}); }
+void describeInterpolatedPoint(FormatBuilder& builder) { interpolatedPoint.describeTo(builder, {}); }
 
 }  // namespace quarn

@@ -34,10 +34,8 @@ struct PlaneAndIndex : Form {
 
 using Planes = std::vector<SARPlane>;
 
-constexpr auto rawSARPlanes =
-    describe<Planes>("RawSARPlanes", Unknown::Stop, Unreadable::KeepsValue,
-                     entries(
-                         "Plane", [](auto& planes) -> auto& { return planes; }, partial(PlaneAndIndex())));
+constexpr auto rawSARPlanes = describe<Planes>(requestName::rawSARPlanes, Unknown::Stop, Unreadable::KeepsValue,
+                                               entries("Plane", itself, partial(PlaneAndIndex())));
 
 }  // namespace
 
@@ -56,5 +54,7 @@ bool readRawSARPlanes(DelimManager& delim, std::vector<SARPlane*>& list) {
     for (const SARPlane& plane : planes) list.push_back(new SARPlane(plane));
     return hasOnlyPlanes && isOk(delim);
 }
+
+void describeRawSARPlanes(FormatBuilder& builder) { rawSARPlanes.describeTo(builder, {}); }
 
 }  // namespace quarn

@@ -1,6 +1,7 @@
 #include "quarn/SARAveragingRequest.h"
 
-#include "results/BoundLines.h"
+#include "results/RequestLines.h"
+#include "results/RequestSections.h"
 
 namespace quarn {
 
@@ -12,7 +13,7 @@ struct blocktext::Description<SARAveragingRequest> {
     using R = SARAveragingRequest;
     static constexpr auto block() {
         return describeWords<R>(
-            "SARAveraging",
+            requestName::sarAveraging,
             Unknown::DropLine,
             Unreadable::KeepsValue,
             flag("average_one_gram", &R::m_compute1gAverage),
@@ -64,6 +65,10 @@ SARAveragingRequest::SARAveragingRequest(bool compute1gAverage, bool compute10gA
       m_save10gZXPlanes(save10gZXPlanes),
       m_save10gYZPlanes(save10gYZPlanes),
       m_outputAveragedFileName(outputAveragedFileName) {}
+
+void describeSARAveraging(FormatBuilder& builder) {
+    sarAveraging.describeTo(builder, blankRequest<SARAveragingRequest>());
+}
 
 bool SARAveragingRequest::streamOut(DelimManager& delim) const { return sarAveraging.write(delim, *this); }
 

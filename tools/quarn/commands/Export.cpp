@@ -195,8 +195,8 @@ struct Choice {
 const SetGroup& chosenGroup(const MultiPointSet& set, const Choice& choice, const QString& name) {
     QStringList names;
     for (const SetGroup& group : set.groups) {
-        if (info.name() == choice.group || (choice.group.isNull() && set.groups.size() == 1)) return group;
-        names << info.name();
+        if (group.name() == choice.group || (choice.group.isNull() && set.groups.size() == 1)) return group;
+        names << group.name();
     }
     if (names.empty()) throw FileProblem(name, "holds no group of fields");
     throw WrongUsage(text("Choose a group with --group: %1.").arg(names.join(", ")));

@@ -1,7 +1,8 @@
 #include "quarn/TemperatureRiseRequest.h"
 
 #include "geometry/PhysicalParametersBlock.h"
-#include "results/BoundLines.h"
+#include "results/RequestLines.h"
+#include "results/RequestSections.h"
 
 namespace quarn {
 
@@ -27,7 +28,7 @@ struct blocktext::Description<TemperatureRiseRequest> {
     static constexpr auto block() {
         constexpr auto medium = Description<PhysicalParameters>::block();
         return describe<R>(
-            "TemperatureRiseRequest",
+            requestName::temperatureRise,
             Unknown::DropLine,
             Unreadable::KeepsValue,
             innerBlock(&R::m_immersiveMediumParameters, medium, "Immersive"),
@@ -60,6 +61,10 @@ namespace {
 constexpr auto temperatureRise = Description<TemperatureRiseRequest>::block();
 
 }  // namespace
+
+void describeTemperatureRise(FormatBuilder& builder) {
+    temperatureRise.describeTo(builder, blankRequest<TemperatureRiseRequest>());
+}
 
 bool TemperatureRiseRequest::streamOut(DelimManager& delim) const { return temperatureRise.write(delim, *this); }
 
