@@ -10,7 +10,7 @@
 #include "Harness.h"
 #include "MemoryBound.h"
 #include "TextStreams.h"
-#include "quarn/quarn.h"
+#include "tests/Rewriting.h"
 
 namespace {
 
@@ -28,24 +28,7 @@ public:
     }
 };
 
-struct Geometry {
-    explicit Geometry(QTextStream& input) : isLoaded(file.loadFromStream(input, &grid, errors)) {
-        require(errors.size() == (isLoaded ? 0 : 1));
-    }
-
-    QString saved() const {
-        const quarn::v6GeometryFile copy(file);
-        QString text;
-        QTextStream stream(&text, QIODevice::WriteOnly);
-        require(copy.saveToStream(grid, stream));
-        return text;
-    }
-
-    quarn::v6GeometryFile file;
-    SmallGrid grid;
-    QStringList errors;
-    bool isLoaded;
-};
+constexpr auto rewritten = quarn::test::rewrittenGeometry<SmallGrid>;
 
 }  // namespace
 
@@ -53,14 +36,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const fuzz::MemoryBound bound(size);
     const QByteArray bytes = fuzz::bytesOf(data, size);
     fuzz::TwoStreams streams(bytes);
-    const Geometry geometry(streams.overDevice), fromString(streams.overString);
-    if (!geometry.isLoaded) return 0;
-    QString saved = geometry.saved();
-    if (!fuzz::endsInsideCharacter(bytes)) require(fromString.isLoaded && fromString.saved() == saved);
+    QStringList errors, errorsOfString;
+    QString saved = rewritten(streams.overDevice, errors);
+    const QString savedOfString = rewritten(streams.overString, errorsOfString);
+    require(errors.size() == (saved.isNull() ? 1 : 0));
+    if (saved.isNull()) return 0;
+    if (!fuzz::endsInsideCharacter(bytes)) require(savedOfString == saved);
     if (fuzz::hasMarkInValue(saved)) return 0;
 
     QTextStream again(&saved, QIODevice::ReadOnly);
-    const Geometry reloaded(again);
-    require(reloaded.isLoaded && reloaded.saved() == saved);
+    require(rewritten(again, errors) == saved);
     return 0;
 }

@@ -6,7 +6,7 @@
 
 #include "quarn/Material.h"
 
-/// The electric materials whose permittivity varies with the frequency by way of poles. Conductivities are in S/m,
+/// The electric materials whose permittivity depends on the frequency through poles. Conductivities are in S/m,
 /// permittivities relative to vacuum, relaxation times in seconds, frequencies in Hz.
 namespace quarn {
 

@@ -37,7 +37,7 @@ public:
 
     float getConductivity() const { return m_conductivity; }
 
-    /// The conductivity, whatever the index.
+    /// The conductivity, for any index.
     float getEffectiveConductivity(unsigned int /*index*/) const { return m_conductivity; }
     float getUncorrectedConductivity() const { return m_uncorrectedConductivity; }
     float getRelativePermittivity() const { return m_relativePermittivity; }

@@ -12,7 +12,7 @@ class BoundaryConditions;
 class Grid;
 
 /// The closed box on which the engine records the fields that radiate into the far zone. It lies four cells inside
-/// absorbing boundaries. At a boundary that is a perfect electric conductor (PEC) it stands on the last node before it,
+/// absorbing boundaries. At a boundary that is a perfect electric conductor (PEC) it lies on the last node before it,
 /// and the image of the fields behind that plane closes the box.
 ///
 /// There is no box for two or more PEC boundaries, for magnetic conductors, for periodic boundaries, or in a grid that

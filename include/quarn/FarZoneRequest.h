@@ -38,8 +38,8 @@ public:
 
     const QString& getOutputFileName() const { return m_outputFileName; }
 
-    /// The output name with its last three characters replaced by ".uan" or ".cpuan", whatever they are; a name of
-    /// fewer than four characters stays as it is. Made for extensions of two letters: "a.far" becomes "a..uan".
+    /// The output name with its last three characters replaced by ".uan" or ".cpuan"; a name of fewer than four
+    /// characters stays as it is. Made for extensions of two letters: "a.far" becomes "a..uan".
     QString getUANOutputFileName() const;
     QString getCircularPolarizedUANOutputFileName() const;
 

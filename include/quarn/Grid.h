@@ -18,7 +18,7 @@ public:
     /// Where a run of cells of one size begins, and that size. A run ends where the next begins.
     using Runs = std::vector<std::pair<std::int32_t, float>>;
 
-    /// The most cells that an axis takes: up to here a float tells every cell of a run from its neighbours.
+    /// The maximum number of cells on an axis: up to this number a float distinguishes adjacent cells of a run.
     static constexpr std::uint32_t maximumCells = 1U << 24;
 
     Grid();

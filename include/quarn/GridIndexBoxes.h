@@ -25,9 +25,9 @@ public:
 
     GridIndexBoxes() = default;
 
-    /// The set of these points, in any order; a point that comes twice is taken once. Points that fill their bounding
-    /// box well become one box, others are split along an axis and each half is treated again. The cost is that of
-    /// sorting the list and of one pass over it for each doubling of its extents.
+    /// The set of these points, in any order; repeated points are taken once. Points that fill their bounding box well
+    /// become one box, others are split along an axis and each half is treated again. The cost is that of sorting the
+    /// list and of one pass over it for each doubling of its extents.
     explicit GridIndexBoxes(std::vector<ivec3> points);
 
     /// The cells of the boxes without the exclusions, and the spare points as they are. Boxes may overlap; an exclusion

@@ -18,7 +18,7 @@ public:
 
 /// Resolves a path against the working directory and, on systems that limit the length of paths, gives it the form and
 /// the prefix that lift the limit. Only while the environment variable KIVEN_LONGPATHSUPPORT is set; otherwise the path
-/// comes back unchanged. Narrow paths are UTF-8.
+/// is returned unchanged. Narrow paths are UTF-8.
 QUARN_EXPORT QString resolveLongPath(const QString& path, bool addPrefix);
 QUARN_EXPORT std::string resolveLongPath(const std::string& path, bool addPrefix);
 

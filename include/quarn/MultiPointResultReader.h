@@ -94,7 +94,7 @@ public:
     /// they were, at the end of a file.
     bool readTransient(float& x, float& y, float& z);
 
-    /// The next value of one component, whatever others are open.
+    /// The next value of one component, which alone needs to be open.
     bool readTransientX(float& value) { return readValue(X, value); }
     bool readTransientY(float& value) { return readValue(Y, value); }
     bool readTransientZ(float& value) { return readValue(Z, value); }
@@ -150,7 +150,7 @@ public:
     /// values as they were, at the end of a file.
     bool readSteady(std::complex<float>& x, std::complex<float>& y, std::complex<float>& z);
 
-    /// The next value of one part, whatever others are open.
+    /// The next value of one part, which alone needs to be open.
     bool readSteadyXr(float& value) { return readValue(Xr, value); }
     bool readSteadyXi(float& value) { return readValue(Xi, value); }
     bool readSteadyYr(float& value) { return readValue(Yr, value); }

@@ -51,8 +51,8 @@ public:
     /// Without a separator the result is false and neither `key` nor `value` changes.
     static bool ProcessLine(const QString& line, QString& key, QString& value, const QString& separator);
 
-    /// Reads one cut from a stream that stands at its first keyword, and leaves it after the cut's last point. Lines
-    /// without a keyword are skipped; the end of the stream ends the cut.
+    /// Reads one cut from a stream positioned at its first keyword, and leaves the stream after the cut's last point.
+    /// Lines without a keyword are skipped; the end of the stream ends the cut.
     ///
     /// False is returned, and nothing more read, at the first keyword that does not belong in a cut, at an end marker
     /// other than "ENDFIL:,EOF", at unknown polarizations, at polarizations or a range of angles without their

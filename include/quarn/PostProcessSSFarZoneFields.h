@@ -31,8 +31,8 @@ public:
     /// fields. Without cells or at frequency 0 the fields are 0.
     ///
     /// A few directions cost about 4 ns for each of them and each cell on the box, exact to rounding. For many, the
-    /// cost is that of some tens of directions and then about 2 microseconds for each, whatever the number of cells,
-    /// exact to 1e-7 of the largest field. The faster way is taken.
+    /// cost is that of some tens of directions and then about 2 microseconds for each, for any number of cells, exact
+    /// to 1e-7 of the largest field. The faster method is chosen.
     ///
     /// False, with the records as they were, when there are no fields, when they are not complete
     /// (FieldsOnSSFarZoneBox::isComplete), or when the reporter asked to stop. The reporter is called at the beginning,

@@ -48,7 +48,7 @@ public:
     /// Writes the project to a stream. Returns true when the stream is in error afterwards, and false on success.
     bool saveToStream(QTextStream& stream);
 
-    /// Reads the version line from the caller's stream, which stands at its start, detaches the stream, closes the
+    /// Reads the version line from the caller's stream, which must be at its start, detaches the stream, closes the
     /// caller's file and reads the rest from the file at `path`. False when the version is above 8, which also appends
     /// to `errors`, or when the file cannot be opened.
     bool load(const QString& path, QFile& file, QTextStream& stream, QStringList& errors);

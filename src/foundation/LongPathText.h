@@ -4,7 +4,7 @@
 
 namespace quarn {
 
-/// Whether the environment variable KIVEN_LONGPATHSUPPORT is set, to whatever value.
+/// Whether the environment variable KIVEN_LONGPATHSUPPORT is set, to any value.
 bool supportsLongPaths();
 
 /// The path without its prefix "\\?\" or "//?/", if it has one.

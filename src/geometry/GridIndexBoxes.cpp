@@ -39,8 +39,8 @@ GridIndexBoxes::GridIndexBoxes(std::vector<Box> boxes, const std::set<ivec3>& ex
                                std::vector<ivec3> sparePoints)
     : m_boxes(std::move(boxes)), m_sparePoints(std::move(sparePoints)) {
     std::vector<ivec3> cells;
-    cells.reserve(
-        exclusions.size());  // a constructor from iterators would traverse the set twice, the costliest part here
+    // A constructor from iterators would traverse the set twice, which is the costliest part here.
+    cells.reserve(exclusions.size());
     std::copy(exclusions.begin(), exclusions.end(), std::back_inserter(cells));
     setupBoxExclusions(cells, true);
 }
@@ -116,8 +116,8 @@ void GridIndexBoxes::intersectBoundingBox(const ivec3& lower, const ivec3& upper
     };
     GridIndexBoxes kept;
     kept.m_boxes = m_boxes;
-    for (Box& box : kept.m_boxes)
-        box = clipped(box, limits);  // empty boxes are dropped together with completely excluded ones
+    // Empty boxes are dropped together with completely excluded ones.
+    for (Box& box : kept.m_boxes) box = clipped(box, limits);
     kept.m_sparePoints = cellsInside(m_sparePoints);
     kept.setupBoxExclusions(cellsInside(excludedCells()), false);
     *this = std::move(kept);

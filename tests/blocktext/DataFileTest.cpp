@@ -90,7 +90,7 @@ TEST_F(DataFile, OpeningAgainClosesFirst) {
     ASSERT_TRUE(reader.open(m_path));
     EXPECT_EQ(reader.tell(), 0);
     EXPECT_FALSE(reader.open(m_path + "none"));
-    EXPECT_EQ(reader.tell(), -1) << "the file before stayed open";
+    EXPECT_EQ(reader.tell(), -1) << "the previous file must be closed";
 }
 
 TEST_F(DataFile, DestructorWritesTheDataToTheFile) {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <memory>
+#include <tuple>
 
 #include "geometry/GeometrySupport.h"
 #include "quarn/ConformalDielectricManager.h"
@@ -68,48 +69,39 @@ TEST_P(GeometryReading, GivesTheSameFileAsTheEquivalentText) {
 
 const QString cells3x1x1 = "GridDefinition{ NumberOfCellsInX 3; NumberOfCellsInY 1; NumberOfCellsInZ 1; }";
 
+// clang-format off
 const Reading readings[] = {
     {"BlocksInAnyOrder", grid5x2x1 + maps, maps + grid5x2x1},
     {"UnknownBlocks", expanded("Unheard{ x 1; Deltas{ y; } }") + maps + expanded("Unheard{}"), maps},
     {"LinesBetweenBlocks", "stray words\n\nend_<materials>\n" + maps + "stray", maps},
-    {"OtherGridKeys",
-     expanded("GridDefinition{ OffsetX a; TargetSizeOfGridInMeters a b c; BaseCellSize 1 2 3; NumberOfCellsInY +2;"
+    {"OtherGridKeys", expanded("GridDefinition{ OffsetX a; TargetSizeOfGridInMeters a b c; BaseCellSize 1 2 3; NumberOfCellsInY +2;"
               "GridOriginInMeters 1 2 3; NumberOfCellsInX 1; Unheard NumberOfCellsInX 9; }"),
      expanded("GridDefinition{ GridOriginInMeters 1 2 3; NumberOfCellsInX 1; NumberOfCellsInY 2; }")},
-    {"IgnoredValuesMayBeAnything",
-     expanded("GridDefinition{ BaseCellSize a b c; OffsetX ; NumberOfCellsInX 1; TargetSizeOfGridInMeters 1;"
+    {"IgnoredValuesMayBeAnything", expanded("GridDefinition{ BaseCellSize a b c; OffsetX ; NumberOfCellsInX 1; TargetSizeOfGridInMeters 1;"
               "BaseCellSize 1 x 3 NumberOfCellsInY 2; }"),
      expanded("GridDefinition{ NumberOfCellsInX 1; NumberOfCellsInY 2; }")},
-    {"OriginIsSinglePrecision",
-     expanded("GridDefinition{ GridOriginInMeters 0.1 0 0; }"),
+    {"OriginIsSinglePrecision", expanded("GridDefinition{ GridOriginInMeters 0.1 0 0; }"),
      expanded("GridDefinition{ GridOriginInMeters 0.10000000149011612 0 0; }")},
-    {"AdaptiveGridUsesItsFirstBlock",
-     expanded("AdaptiveGridDefinition{ word; Any{ NumberOfCellsInX 2; } GridDefinition{ NumberOfCellsInX 7; } }") +
+    {"AdaptiveGridUsesItsFirstBlock", expanded("AdaptiveGridDefinition{ word; Any{ NumberOfCellsInX 2; } GridDefinition{ NumberOfCellsInX 7; } }") +
          maps,
      expanded("GridDefinition{ NumberOfCellsInX 2; }") + maps},
-    {"OtherBlocksAmongTheDeltas",
-     expanded(cells3x1x1 + "Deltas{ DelZ{ 0 3; } Unheard{ 0 9; } DelX{ 0 1; +1 2; } }"),
+    {"OtherBlocksAmongTheDeltas", expanded(cells3x1x1 + "Deltas{ DelZ{ 0 3; } Unheard{ 0 9; } DelX{ 0 1; +1 2; } }"),
      expanded(cells3x1x1 + "Deltas{ DelX{ 0 1; 1 2; } DelY{} DelZ{ 0 3; } }")},
-    {"NumberOfAMapIsItsPosition",
-     expanded("materialMaps{ materialMap{ zMagneticMaterial 1; unheard 3; materialNumber 5; } }"),
+    {"NumberOfAMapIsItsPosition", expanded("materialMaps{ materialMap{ zMagneticMaterial 1; unheard 3; materialNumber 5; } }"),
      expanded("materialMaps{ materialMap{ materialNumber 0; zMagneticMaterial 1; } }")},
-    {"BuiltInMaterialsHaveFixedNames",
-     expanded("materials{ electricfreespace{ conductivity 5; } }"),
+    {"BuiltInMaterialsHaveFixedNames", expanded("materials{ electricfreespace{ conductivity 5; } }"),
      "begin_<materials> \nend_<materials>\n"},
-    {"ObsoleteKindsAreIgnored",
-     expanded("materials{ frequency_dependent{ debye{ } } thin_wire{ radius 1; } }"),
+    {"ObsoleteKindsAreIgnored", expanded("materials{ frequency_dependent{ debye{ } } thin_wire{ radius 1; } }"),
      expanded("materials{ thin_wire{ radius 1; } }")},
-    {"SecondBlockOfMaterials",
-     expanded("materials{ thin_wire{ radius 1; } } materials{ thin_wire{ radius 2; } }"),
+    {"SecondBlockOfMaterials", expanded("materials{ thin_wire{ radius 1; } } materials{ thin_wire{ radius 2; } }"),
      expanded("materials{ thin_wire{ radius 1; } thin_wire{ radius 2; } }")},
-    {"BothLossTangentAndImaginaryPart",
-     expanded("materials{ normal_magnetic{ UseComplex ; Imaginary 3; UseLossTangent ; LossTangent 2; } }"),
+    {"BothLossTangentAndImaginaryPart", expanded("materials{ normal_magnetic{ UseComplex ; Imaginary 3; UseLossTangent ; LossTangent 2; } }"),
      expanded("materials{ normal_magnetic{ UseLossTangent ; LossTangent 2; } }")},
-    {"DensityAloneCreatesPhysicalParameters",
-     expanded("materials{ normal_electric{ density 2; } }"),
+    {"DensityAloneCreatesPhysicalParameters", expanded("materials{ normal_electric{ density 2; } }"),
      expanded("materials{ normal_electric{ density 2; TemperatureRiseMaterialParameters{} } }")},
     {"TruncatedFile", maps + "begin_<Deltas> \nbegin_<DelX> \n0 1\n", maps},
 };
+// clang-format on
 INSTANTIATE_TEST_SUITE_P(, GeometryReading, testing::ValuesIn(readings), rowName<Reading>);
 
 TEST(GeometryFile, WritesARunOfNaNsOnce) {
@@ -127,37 +119,25 @@ TEST(GeometryFile, SkipsTheExtraHeaderIntegerOnlyAfterAOne) {
     EXPECT_EQ(file.getMaterialMappings().size(), 1U);
 }
 
-struct Version {
-    const char* name;
-    const char* line;
-    int major, minor;
-    bool isAccepted;
-};
-
-void PrintTo(const Version& row, std::ostream* out) { *out << row.name; }
-
-class GeometryVersion : public testing::TestWithParam<Version> {};
-
-TEST_P(GeometryVersion, DecidesWhetherTheFileIsRead) {
-    v6GeometryFile file;
-    QStringList errors;
-    EXPECT_EQ(loadText(file, QString(GetParam().line) + "\nmesh_defined\n", nullptr, &errors), GetParam().isAccepted);
-    EXPECT_EQ(errors, GetParam().isAccepted ? QStringList() : QStringList("Unrecognized *.id file format."));
-    EXPECT_EQ(file.GetMajorFileVersionNumber(), GetParam().major);
-    EXPECT_EQ(file.GetMinorFileVersionNumber(), GetParam().minor);
+TEST(GeometryFile, VersionDecidesWhetherTheFileIsRead) {
+    const std::tuple<const char*, int, int, bool> rows[] = {{"Geometry file version 3.20", 3, 20, true},
+                                                            {" geometryFILE  ver sion3 . 7", 3, 7, true},
+                                                            {"Geometry file version 4.19", 4, 19, true},
+                                                            {"Geometry file version 2.20", 2, 20, false},
+                                                            {"Geometry file version 3", 3, 0, true},
+                                                            {"Geometry file version", -1, 0, false},
+                                                            {"Geometry file version 1e30", 0, 0, false},
+                                                            {"mesh_defined", 0, 0, false}};
+    for (const auto& [line, major, minor, isAccepted] : rows) {
+        SCOPED_TRACE(line);
+        v6GeometryFile file;
+        QStringList errors;
+        EXPECT_EQ(loadText(file, QString(line) + "\nmesh_defined\n", nullptr, &errors), isAccepted);
+        EXPECT_EQ(errors, isAccepted ? QStringList() : QStringList("Unrecognized *.id file format."));
+        EXPECT_EQ(file.GetMajorFileVersionNumber(), major);
+        EXPECT_EQ(file.GetMinorFileVersionNumber(), minor);
+    }
 }
-
-const Version versions[] = {
-    {"CurrentVersion", "Geometry file version 3.20", 3, 20, true},
-    {"AnyCaseAndBlanks", " geometryFILE  ver sion3 . 7", 3, 7, true},
-    {"MinorNineteen", "Geometry file version 4.19", 4, 19, true},
-    {"OlderVersion", "Geometry file version 2.20", 2, 20, false},
-    {"NoMinor", "Geometry file version 3", 3, 0, true},
-    {"NoNumber", "Geometry file version", -1, 0, false},
-    {"NumberBeyondIntegers", "Geometry file version 1e30", 0, 0, false},
-    {"NoVersion", "mesh_defined", 0, 0, false},
-};
-INSTANTIATE_TEST_SUITE_P(, GeometryVersion, testing::ValuesIn(versions), rowName<Version>);
 
 struct Refusal {
     const char* name;

@@ -30,58 +30,43 @@ bool initializeX(Grid& grid, std::uint32_t cells, float origin, const Grid::Runs
     return grid.initialize(cells, 1, 1, origin, 0, 0, runs, {}, {}, withNodes);
 }
 
-struct Layout {
+// clang-format off
+const struct {
     const char* name;
     std::uint32_t cells;
     float origin;
     Grid::Runs runs;
     std::vector<float> deltas;
     std::vector<double> nodes;
-};
-
-void PrintTo(const Layout& row, std::ostream* out) { *out << row.name; }
-
-class GridLayout : public testing::TestWithParam<Layout> {};
-
-TEST_P(GridLayout, HasItsCellsAndNodes) {
-    Grid grid;
-    ASSERT_TRUE(initializeX(grid, GetParam().cells, GetParam().origin, GetParam().runs));
-    const Axis axis(grid);
-    EXPECT_THAT(axis.electricDeltas, ElementsAreArray(GetParam().deltas));
-    EXPECT_THAT(axis.electricNodes, ElementsAreArray(GetParam().nodes));
-    EXPECT_EQ(grid.getUserXOrigin(), static_cast<double>(GetParam().origin));
-}
-
-const Layout layouts[] = {
+} layouts[] = {
     {"OneRun", 4, 0, {{0, 0.5F}}, {0.5F, 0.5F, 0.5F, 0.5F}, {0, 0.5, 1, 1.5}},
     // 3 times the float 0.1 is 0.3000000044703484 before it is rounded to single precision.
-    {"DistancesAreSinglePrecision",
-     4,
-     0,
-     {{0, 0.1F}},
-     {0.1F, 0.1F, 0.1F, 0.1F},
+    {"DistancesAreSinglePrecision", 4, 0, {{0, 0.1F}}, {0.1F, 0.1F, 0.1F, 0.1F},
      {0, 0.10000000149011612, 0.20000000298023224, 0.30000001192092896}},
     // Distances are measured from node 2, not from the origin: 0.2 and 1 in double precision.
-    {"RunIsMeasuredFromItsBeginning",
-     5,
-     -1,
-     {{0, 0.1F}, {2, 1}},
-     {0.1F, 0.1F, 1, 1, 1},
+    {"RunIsMeasuredFromItsBeginning", 5, -1, {{0, 0.1F}, {2, 1}}, {0.1F, 0.1F, 1, 1, 1},
      {-1, -0.89999999850988388, -0.79999999701976776, 0.20000000298023224, 1.2000000029802322}},
     {"NoRunsGiveCellsOfZeroSize", 3, 2, {}, {0, 0, 0}, {2, 2, 2}},
     {"CellsBeforeTheFirstRunHaveZeroSize", 4, 1, {{2, 1}}, {0, 0, 1, 1}, {1, 1, 1, 2}},
     {"RunBelowZeroBeginsAtZero", 3, 0, {{-5, 2}}, {2, 2, 2}, {0, 2, 4}},
     {"RunBeyondTheLastCellIsIgnored", 2, 0, {{0, 1}, {2, 5}, {INT32_MAX, 7}}, {1, 1}, {0, 1}},
     {"LastOfEqualBeginningsCounts", 2, 0, {{0, 1}, {0, 3}}, {3, 3}, {0, 3}},
-    {"DescendingRunReplacesEarlierOnes",
-     6,
-     0,
-     {{0, 1}, {4, 9}, {2, 2}, {5, 3}},
-     {1, 1, 2, 2, 2, 3},
-     {0, 1, 2, 4, 6, 8}},
+    {"DescendingRunReplacesEarlierOnes", 6, 0, {{0, 1}, {4, 9}, {2, 2}, {5, 3}}, {1, 1, 2, 2, 2, 3}, {0, 1, 2, 4, 6, 8}},
     {"AxisWithoutCellsHasAnOrigin", 0, 3, {{0, 1}}, {}, {}},
 };
-INSTANTIATE_TEST_SUITE_P(, GridLayout, testing::ValuesIn(layouts), rowName<Layout>);
+// clang-format on
+
+TEST(Grid, LaysOutCellsAndNodes) {
+    for (const auto& row : layouts) {
+        SCOPED_TRACE(row.name);
+        Grid grid;
+        ASSERT_TRUE(initializeX(grid, row.cells, row.origin, row.runs));
+        const Axis axis(grid);
+        EXPECT_THAT(axis.electricDeltas, ElementsAreArray(row.deltas));
+        EXPECT_THAT(axis.electricNodes, ElementsAreArray(row.nodes));
+        EXPECT_EQ(grid.getUserXOrigin(), static_cast<double>(row.origin));
+    }
+}
 
 TEST(Grid, PlacesMagneticNodesHalfway) {
     Grid grid;

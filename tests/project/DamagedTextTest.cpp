@@ -7,6 +7,7 @@
 #include <functional>
 #include <sstream>
 
+#include "Rewriting.h"
 #include "geometry/GeometrySupport.h"
 #include "project/GoldenProject.h"
 #include "quarn/quarn.h"
@@ -17,32 +18,11 @@ namespace {
 /// The saved form of the object that was read, or its values where it cannot be saved; null for a refused text.
 using Rewrite = QByteArray (*)(const QByteArray& bytes);
 
-QByteArray rewrittenProject(const QByteArray& bytes) {
+template <QString (*rewritten)(QTextStream&, QStringList&)>
+QByteArray rewrittenText(const QByteArray& bytes) {
     QTextStream input(bytes);
     QStringList errors;
-    OwningProject project;
-    if (!project.loadFromStream(input, errors)) return {};
-    if (!project.getBoundaryConditions()) {
-        constexpr auto any = BoundaryConditions::PEC;
-        project.setBoundaryConditions(new BoundaryConditions(any, any, any, any, any, any, 0));
-    }
-    project.setModelingUnits({"m", 1.0});  // a written file does not set them when it is read
-    QByteArray saved;
-    QTextStream output(&saved, QIODevice::WriteOnly);
-    EXPECT_FALSE(project.saveToStream(output));
-    return saved;
-}
-
-QByteArray rewrittenGeometry(const QByteArray& bytes) {
-    QTextStream input(bytes);
-    QStringList errors;
-    v6GeometryFile geometry;
-    Grid grid;
-    if (!geometry.loadFromStream(input, &grid, errors)) return {};
-    QByteArray saved;
-    QTextStream output(&saved, QIODevice::WriteOnly);
-    EXPECT_TRUE(geometry.saveToStream(grid, output));
-    return saved;
+    return rewritten(input, errors).toUtf8();
 }
 
 QByteArray rewrittenVias(const QByteArray& bytes) {
@@ -93,7 +73,7 @@ QByteArray geometrySample() {
         "} "
         "DelZ{ 0 1; } } ");
     const QString wire = "begin_<thin_wire> Größe\nradius 5\nend_<thin_wire>\n";
-    return rewrittenGeometry(withMaterials(materials + wire).toUtf8() + grid.toUtf8());
+    return rewrittenText<rewrittenGeometry<>>(withMaterials(materials + wire).toUtf8() + grid.toUtf8());
 }
 
 QByteArray smallProject() {
@@ -123,8 +103,8 @@ QByteArray viaSample() {
 }
 
 const Format formats[] = {
-    {"Project", [] { return golden.toUtf8(); }, smallProject, rewrittenProject},
-    {"Geometry", geometrySample, smallGeometry, rewrittenGeometry},
+    {"Project", [] { return golden.toUtf8(); }, smallProject, rewrittenText<rewrittenProject>},
+    {"Geometry", geometrySample, smallGeometry, rewrittenText<rewrittenGeometry<>>},
     {"Cut", cutSample, cutSample, rewrittenCut},
     {"Vias", viaSample, viaSample, rewrittenVias},
 };

@@ -123,19 +123,6 @@ TEST(RequestResults, LoadAppendsToListsAndResetsTheAveragingRequest) {
     EXPECT_EQ(project.getSARAveragingRequest(), nullptr) << "the second block has none";
 }
 
-struct Row {
-    const char* name;
-    QString read, written;
-};
-
-void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
-
-class RequestReading : public testing::TestWithParam<Row> {};
-
-TEST_P(RequestReading, IsWrittenInCanonicalForm) {
-    expectLoads<Project>(fileWith(GetParam().read), expanded(GetParam().written), requestsOf);
-}
-
 QString multiPoint(const QString& lists, const QString& lines = QString(), int firstStep = -1) {
     return QString("MultiPointFieldRequest{ MinTimestep %1; MaxTimestep -1; DeltaTimestep -1; File ; ").arg(firstStep) +
            lines + lists + "} ";
@@ -158,7 +145,10 @@ QString temperatureRise(const QString& immersive, const QString& plane) {
 }
 
 // clang-format off
-const Row rows[] = {
+const struct {
+    const char* name;
+    QString read, written;
+} rows[] = {
     {"GridIndicesAlone", "MultiPointFieldRequest{ " + threePoints + "} ",
      multiPoint(noBoxes + "AdditionalPoints 3 1 2 3 4 5 6 7 8 9; ")},
     {"GridIndicesBecomeBoxes", "MultiPointFieldRequest{ GridIndices 4 0 0 0 0 0 1 0 0 3 0 0 1; } ",
@@ -217,7 +207,13 @@ const Row rows[] = {
      "MultiFieldIndexedPoint{ " + definition + origin + "} "},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(, RequestReading, testing::ValuesIn(rows), rowName<Row>);
+
+TEST(RequestResults, RequestsAreWrittenInCanonicalForm) {
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        expectLoads<Project>(fileWith(row.read), expanded(row.written), requestsOf);
+    }
+}
 
 TEST(RequestResults, RequestsWithTooManyOverlappingBoxesAreDropped) {
     const QString boxes = "GridBoxes 1100" + QString(" 0 0 0 9 9 39").repeated(1100) + "; ";

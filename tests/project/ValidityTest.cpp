@@ -26,6 +26,8 @@ const QString noFrequency = "warning: The frequency must be greater than 0 (curr
 const QString stepConverges = "warning: Termination criterion to detect convergence of simulation is activated, "
                               "simulation with Step waveform excitation may not converge.";
 const QString badSamples = "error: The user defined waveform is incorrectly specified.";
+const QString noComponents = "error: S-Parameters are being computed, but there are no circuit components specified.";
+const QString negativeR = "warning: Feed resistance should not be negative.";
 const QString fewSamples = "error: There are not enough points specified in the user defined waveform.";
 // clang-format on
 
@@ -115,52 +117,25 @@ TEST(Validity, ProjectChecksItsPartsInOrder) {
 }
 
 TEST(Validity, ComponentsAndStaticVoltagesAreExcitations) {
-    const auto managerOf = [](float resistance, bool sParameters) {
-        const CircuitComponent base("f", 0, 0, 0, CircuitComponent::X, true);
-        const auto series = CircuitComponent::Series;
-        return new ComponentManager({new Feed(base,
-                                              CircuitComponent::SeriesVoltage,
-                                              0,
-                                              1,
-                                              0,
-                                              resistance,
-                                              0,
-                                              0,
-                                              0,
-                                              series,
-                                              CircuitComponent::Positive)},
-                                    sParameters,
-                                    0);
-    };
-    const auto setManager = [](v6ProjectFile& project, ComponentManager* manager) {
-        if (const auto* old = project.getComponentManager()) {
-            for (const CircuitComponent* component : old->getComponents()) delete component;
-            delete old;
-        }
-        project.setComponentManager(manager);
-    };
-    OwningProject project;
-    auto* voltages = new StaticVoltageList(0, 1, 1, {});
-    project.setStaticVoltageList(voltages);
+    v6ProjectFile project;
+    StaticVoltageList voltages(0, 1, 1, {});
+    project.setStaticVoltageList(&voltages);
     EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noExcitation, noTermination})) << "without a voltage";
-    voltages->addPoint({});
+    voltages.addPoint({});
     EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noTermination}));
     project.setEngine(Engine::FEM);
     EXPECT_EQ(findingsOf(project),
               (QStringList{noBoundaries, "error: The voltage conductor threshhold must be greater than zero."}));
     project.setEngine(Engine::FDTD);
-    setManager(project, new ComponentManager({}, true, 0));
-    EXPECT_EQ(findingsOf(project),
-              (QStringList{noBoundaries,
-                           "error: S-Parameters are being computed, but there are no circuit components "
-                           "specified.",
-                           noTermination}));
-    setManager(project, managerOf(-1, true));
-    EXPECT_EQ(
-        findingsOf(project),
-        (QStringList{noBoundaries, noWaveform, noTermination, "warning: Feed resistance should not be negative."}));
-    setManager(project, managerOf(50, false));
-    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noTermination})) << "without an active port";
+    Feed feed("f", {}, {}, CircuitComponent::SeriesVoltage, 1, 0, -1, 0, 0, CircuitComponent::Series);
+    ComponentManager empty({}, true, 0), withPort({&feed}, true, 0), withoutPort({&feed}, false, 0);
+    project.setComponentManager(&empty);
+    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noComponents, noTermination}));
+    project.setComponentManager(&withPort);
+    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noWaveform, noTermination, negativeR}));
+    project.setComponentManager(&withoutPort);
+    EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noTermination, negativeR})) << "without an active port";
+    delete project.getDFTParameters();
 }
 
 }  // namespace

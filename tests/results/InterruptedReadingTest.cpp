@@ -19,10 +19,10 @@ std::size_t largestAllocation = SIZE_MAX;
 /// Makes large allocations fail as long as it lives.
 class LowMemory {
 public:
-    LittleMemory() { largestAllocation = 1 << 16; }
-    ~LittleMemory() { largestAllocation = SIZE_MAX; }
-    LittleMemory(const LittleMemory&) = delete;
-    LittleMemory& operator=(const LittleMemory&) = delete;
+    LowMemory() { largestAllocation = 1 << 16; }
+    ~LowMemory() { largestAllocation = SIZE_MAX; }
+    LowMemory(const LowMemory&) = delete;
+    LowMemory& operator=(const LowMemory&) = delete;
 };
 
 }  // namespace
@@ -45,9 +45,8 @@ struct Reading {
     const char* name;
     QByteArray header;
     int recordSize;
-    int (*read)(
-        const QString& path,
-        const std::function<void()>& cut);  // returns the number of records read when the file is cut after the first
+    int (*read)(const QString& path,
+                const std::function<void()>& cut);  // returns the number of records read
 };
 
 void PrintTo(const Reading& row, std::ostream* out) { *out << row.name; }
@@ -106,7 +105,7 @@ TEST(LowMemory, MakesBlockReadersFailWithEmptyLists) {
     std::vector<FarZoneSSFieldFile::Record> block(1);
     bool anySucceeded = false;
     {
-        const LowMemory littleMemory;
+        const LowMemory lowMemory;
         anySucceeded = set.readGeometry(points) || set.readTimesteps(times) ||
                        set.readTransientBlock(MultiPointResultReader::Y, values) ||
                        FarZoneSSFieldFile::readRecords(records, 5000, block);
@@ -126,7 +125,7 @@ TEST(LowMemory, MakesTheFieldsOfABoxIncomplete) {
     QString problem;
     bool isComplete = true;
     {
-        const LowMemory littleMemory;
+        const LowMemory lowMemory;
         isComplete = FieldsOnSSFarZoneBox(grid, folder.path("none"), box, problem).isComplete();
     }
     EXPECT_FALSE(isComplete);
