@@ -39,8 +39,7 @@ public:
     float getRelaxationTime() const { return m_relaxationTime; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<ElectricDebye>;
 
     float m_conductivity;
     float m_relativePermittivity;
@@ -65,8 +64,7 @@ public:
     float getDampingCoefficient() const { return m_dampingCoefficient; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<ElectricLorentz>;
 
     float m_conductivity;
     float m_relativePermittivity;
@@ -94,8 +92,7 @@ public:
     float getConductivity() const { return m_conductivity; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<Electric3PoleDebye>;
 
     float m_relativePermittivity;
     std::array<float, 3> m_staticRelativePermittivities;
@@ -133,8 +130,7 @@ public:
     float getConductivity() const { return m_conductivity; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<Electric7PoleDebye>;
 
     float m_relativePermittivity;
     std::array<float, 7> m_staticRelativePermittivities;
@@ -165,8 +161,7 @@ public:
     void setHighFrequency(float frequency) { m_highFrequency = frequency; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<ElectricDjordjevic>;
 
     float m_relativePermittivity;
     bool m_useLossTangent = true;
@@ -243,8 +238,7 @@ public:
     double getColeColePoleBroadness(std::size_t i) const { return m_coleColeTerms[i].poleBroadness; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<ElectricDebyeLorentzColeCole>;
 
     double m_relativePermittivity;
     double m_conductivity;

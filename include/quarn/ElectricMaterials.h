@@ -64,8 +64,7 @@ public:
     void useSurfaceConductivity(bool use) { m_useSurfaceConductivity = use; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<ElectricNormal>;
 
     float m_conductivity;
     float m_uncorrectedConductivity;
@@ -114,8 +113,7 @@ public:
     void useComplex(bool use) { m_useComplex = use; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<ElectricSampled>;
 
     std::vector<Parameters> m_parameters;
     bool m_useSurfaceConductivity = false;
@@ -134,8 +132,7 @@ public:
     float getRelativePermittivity(int row, int column) const { return at(m_relativePermittivity, row, column); }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<ElectricAnisotropic>;
     using Tensor = std::array<std::array<float, 3>, 3>;
 
     static float at(const Tensor& tensor, int row, int column) {
@@ -166,8 +163,7 @@ public:
     float getEo(int axis) const { return at(m_eo, axis); }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<ElectricNonlinear>;
     using PerAxis = std::array<float, 3>;
 
     static float at(const PerAxis& values, int axis) { return values[static_cast<std::size_t>(axis)]; }
@@ -191,8 +187,7 @@ public:
     float getRadius() const { return m_radius; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<ElectricThinWire>;
 
     float m_radius;
 };
@@ -213,8 +208,7 @@ public:
     void setQuadraticTempCoef(double coefficient) { m_quadraticTempCoef = coefficient; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<ElectricSurfaceResistance>;
 
     double m_resistance;
     double m_reactance;

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "quarn/Description.h"
 #include "quarn/Export.h"
 
 namespace quarn {
@@ -32,6 +33,8 @@ public:
     friend bool operator!=(const MaterialMap& a, const MaterialMap& b) { return !(a == b); }
 
 private:
+    friend struct blocktext::Description<MaterialMap>;
+
     QString m_name;
     std::int32_t m_xElectricMaterial;
     std::int32_t m_yElectricMaterial;

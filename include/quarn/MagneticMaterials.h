@@ -45,8 +45,7 @@ public:
     void setImaginary(float imaginary) { m_imaginary = imaginary; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<MagneticNormal>;
 
     float m_conductivity;
     float m_relativePermeability;
@@ -70,8 +69,7 @@ public:
     float getPhi() const { return m_phi; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<MagneticFerrite>;
 
     float m_precessionalFrequency;
     float m_saturationMagnetization;
@@ -95,8 +93,7 @@ public:
     float getRelaxationTime() const { return m_relaxationTime; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<MagneticDebye>;
 
     float m_conductivity;
     float m_relativePermeability;
@@ -133,8 +130,7 @@ public:
     float getConductivity() const { return m_conductivity; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<Magnetic7PoleDebye>;
 
     float m_relativePermeability;
     std::array<float, 7> m_staticRelativePermeabilities;
@@ -166,8 +162,7 @@ public:
     float getB2Dot() const { return m_b2Dot; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<MagneticNonlinear>;
 
     float m_bClosure;
     float m_bBreakPoint;
@@ -217,8 +212,7 @@ public:
     void useComplex(bool use) { m_useComplex = use; }
 
 private:
-    template <class Kind>
-    friend struct MaterialText;
+    friend struct blocktext::Description<MagneticSampled>;
 
     std::vector<Parameters> m_parameters;
     bool m_useLossTangent = false;

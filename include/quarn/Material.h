@@ -12,10 +12,6 @@ namespace quarn {
 
 class DelimManager;
 
-/// Describes a kind of material to the geometry file; internal to the library.
-template <class Kind>
-struct MaterialText;
-
 /// The thermal properties of a material, for temperature-rise runs.
 class QUARN_EXPORT PhysicalParameters {
 public:

@@ -261,6 +261,12 @@ struct Block {
     /// The same content under another name.
     constexpr Block named(Key other) const { return {other, unknown, unreadable, findsBlocks, lines}; }
 
+    /// The same content behind other lines.
+    template <class... Others>
+    constexpr Block<Object, Others..., Lines...> behind(Others... others) const {
+        return {name, unknown, unreadable, findsBlocks, std::tuple_cat(std::tuple(others...), lines)};
+    }
+
     /// Writes the whole block; `value` goes on its open line. Returns whether the stream is in order.
     bool write(DelimManager& delim, const Object& object, const QString& value = QString()) const {
         WrittenBlock block(delim, name, value);

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "geometry/ElectricDispersiveMaterialBlocks.h"
 #include "geometry/MaterialEquality.h"
 
 namespace quarn {
@@ -19,15 +20,7 @@ ElectricDebye::ElectricDebye(const QString& name, float conductivity, float rela
       m_staticRelativePermittivity(staticRelativePermittivity),
       m_relaxationTime(relaxationTime) {}
 
-bool ElectricDebye::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &ElectricDebye::m_conductivity,
-                   &ElectricDebye::m_relativePermittivity,
-                   &ElectricDebye::m_staticRelativePermittivity,
-                   &ElectricDebye::m_relaxationTime,
-                   &ElectricDebye::m_effectiveConductivities);
-}
+bool ElectricDebye::operator==(const Material& other) const { return isEqual(*this, other); }
 
 ElectricLorentz::ElectricLorentz(const QString& name, float conductivity, float relativePermittivity,
                                  float staticRelativePermittivity, float resonantFrequency, float dampingCoefficient,
@@ -39,16 +32,7 @@ ElectricLorentz::ElectricLorentz(const QString& name, float conductivity, float 
       m_resonantFrequency(resonantFrequency),
       m_dampingCoefficient(dampingCoefficient) {}
 
-bool ElectricLorentz::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &ElectricLorentz::m_conductivity,
-                   &ElectricLorentz::m_relativePermittivity,
-                   &ElectricLorentz::m_staticRelativePermittivity,
-                   &ElectricLorentz::m_resonantFrequency,
-                   &ElectricLorentz::m_dampingCoefficient,
-                   &ElectricLorentz::m_effectiveConductivities);
-}
+bool ElectricLorentz::operator==(const Material& other) const { return isEqual(*this, other); }
 
 Electric3PoleDebye::Electric3PoleDebye(const QString& name, float relativePermittivity,
                                        float staticRelativePermittivity1, float staticRelativePermittivity2,
@@ -62,15 +46,7 @@ Electric3PoleDebye::Electric3PoleDebye(const QString& name, float relativePermit
       m_relaxationTimes{relaxationTime1, relaxationTime2, relaxationTime3},
       m_conductivity(conductivity) {}
 
-bool Electric3PoleDebye::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &Electric3PoleDebye::m_relativePermittivity,
-                   &Electric3PoleDebye::m_staticRelativePermittivities,
-                   &Electric3PoleDebye::m_relaxationTimes,
-                   &Electric3PoleDebye::m_conductivity,
-                   &Electric3PoleDebye::m_effectiveConductivities);
-}
+bool Electric3PoleDebye::operator==(const Material& other) const { return isEqual(*this, other); }
 
 Electric7PoleDebye::Electric7PoleDebye(const QString& name, float relativePermittivity,
                                        float staticRelativePermittivity1, float staticRelativePermittivity2,
@@ -98,15 +74,7 @@ Electric7PoleDebye::Electric7PoleDebye(const QString& name, float relativePermit
                         relaxationTime7},
       m_conductivity(conductivity) {}
 
-bool Electric7PoleDebye::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &Electric7PoleDebye::m_relativePermittivity,
-                   &Electric7PoleDebye::m_staticRelativePermittivities,
-                   &Electric7PoleDebye::m_relaxationTimes,
-                   &Electric7PoleDebye::m_conductivity,
-                   &Electric7PoleDebye::m_effectiveConductivities);
-}
+bool Electric7PoleDebye::operator==(const Material& other) const { return isEqual(*this, other); }
 
 ElectricDjordjevic::ElectricDjordjevic(const QString& name, float relativePermittivity, float imaginaryPart,
                                        float evalFrequency, float lowFrequency, float highFrequency)
@@ -117,16 +85,7 @@ ElectricDjordjevic::ElectricDjordjevic(const QString& name, float relativePermit
       m_lowFrequency(lowFrequency),
       m_highFrequency(highFrequency) {}
 
-bool ElectricDjordjevic::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &ElectricDjordjevic::m_relativePermittivity,
-                   &ElectricDjordjevic::m_useLossTangent,
-                   &ElectricDjordjevic::m_imaginaryPart,
-                   &ElectricDjordjevic::m_evalFrequency,
-                   &ElectricDjordjevic::m_lowFrequency,
-                   &ElectricDjordjevic::m_highFrequency);
-}
+bool ElectricDjordjevic::operator==(const Material& other) const { return isEqual(*this, other); }
 
 ElectricDebyeLorentzColeCole::ElectricDebyeLorentzColeCole(const QString& name, double relativePermittivity,
                                                            double conductivity, std::vector<DebyeSample> debyeTerms,
@@ -139,14 +98,6 @@ ElectricDebyeLorentzColeCole::ElectricDebyeLorentzColeCole(const QString& name, 
       m_lorentzTerms(std::move(lorentzTerms)),
       m_coleColeTerms(std::move(coleColeTerms)) {}
 
-bool ElectricDebyeLorentzColeCole::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &ElectricDebyeLorentzColeCole::m_relativePermittivity,
-                   &ElectricDebyeLorentzColeCole::m_conductivity,
-                   &ElectricDebyeLorentzColeCole::m_debyeTerms,
-                   &ElectricDebyeLorentzColeCole::m_lorentzTerms,
-                   &ElectricDebyeLorentzColeCole::m_coleColeTerms);
-}
+bool ElectricDebyeLorentzColeCole::operator==(const Material& other) const { return isEqual(*this, other); }
 
 }  // namespace quarn

@@ -1,5 +1,6 @@
 #include "quarn/ElectricMaterials.h"
 
+#include "geometry/ElectricMaterialBlocks.h"
 #include "geometry/MaterialEquality.h"
 
 namespace quarn {
@@ -30,20 +31,7 @@ ElectricNormal::ElectricNormal(const QString& name, float conductivity, float un
       m_uncorrectedConductivity(uncorrectedConductivity),
       m_relativePermittivity(relativePermittivity) {}
 
-bool ElectricNormal::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &ElectricNormal::m_conductivity,
-                   &ElectricNormal::m_relativePermittivity,
-                   &ElectricNormal::m_useLossTangent,
-                   &ElectricNormal::m_lossTangent,
-                   &ElectricNormal::m_useComplex,
-                   &ElectricNormal::m_imaginary,
-                   &ElectricNormal::m_useSurfaceConductivity,
-                   &ElectricNormal::m_nominalTemperature,
-                   &ElectricNormal::m_conductivityLinearTempCoef,
-                   &ElectricNormal::m_conductivityQuadraticTempCoef);
-}
+bool ElectricNormal::operator==(const Material& other) const { return isEqual(*this, other); }
 
 ElectricSampled::ElectricSampled(const QString& name, const std::vector<Parameters>& parameters,
                                  bool useSurfaceConductivity, bool useLossTangent, bool useComplex)
@@ -61,9 +49,7 @@ ElectricAnisotropic::ElectricAnisotropic(const QString& name, const float (*cond
       m_conductivity(tensor(conductivity)),
       m_relativePermittivity(tensor(permittivity)) {}
 
-bool ElectricAnisotropic::operator==(const Material& other) const {
-    return isEqual(*this, other, &ElectricAnisotropic::m_conductivity, &ElectricAnisotropic::m_relativePermittivity);
-}
+bool ElectricAnisotropic::operator==(const Material& other) const { return isEqual(*this, other); }
 
 ElectricNonlinear::ElectricNonlinear(const QString& name, const float* conductivity, const float* relativePermittivity1,
                                      const float* relativePermittivity2, const float* a1, const float* a2,
@@ -78,25 +64,12 @@ ElectricNonlinear::ElectricNonlinear(const QString& name, const float* conductiv
       m_es(perAxis(es)),
       m_eo(perAxis(eo)) {}
 
-bool ElectricNonlinear::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &ElectricNonlinear::m_conductivity,
-                   &ElectricNonlinear::m_relativePermittivity1,
-                   &ElectricNonlinear::m_relativePermittivity2,
-                   &ElectricNonlinear::m_a1,
-                   &ElectricNonlinear::m_a2,
-                   &ElectricNonlinear::m_a3,
-                   &ElectricNonlinear::m_es,
-                   &ElectricNonlinear::m_eo);
-}
+bool ElectricNonlinear::operator==(const Material& other) const { return isEqual(*this, other); }
 
 ElectricThinWire::ElectricThinWire(const QString& name, float radius)
     : Material(name, Material::ElectricThinWire), m_radius(radius) {}
 
-bool ElectricThinWire::operator==(const Material& other) const {
-    return isEqual(*this, other, &ElectricThinWire::m_radius);
-}
+bool ElectricThinWire::operator==(const Material& other) const { return isEqual(*this, other); }
 
 ElectricSurfaceResistance::ElectricSurfaceResistance(const QString& name, const std::complex<double>& surfaceResistance,
                                                      double thickness)
@@ -105,15 +78,6 @@ ElectricSurfaceResistance::ElectricSurfaceResistance(const QString& name, const 
       m_reactance(surfaceResistance.imag()),
       m_thickness(thickness) {}
 
-bool ElectricSurfaceResistance::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &ElectricSurfaceResistance::m_resistance,
-                   &ElectricSurfaceResistance::m_reactance,
-                   &ElectricSurfaceResistance::m_thickness,
-                   &ElectricSurfaceResistance::m_nominalTemperature,
-                   &ElectricSurfaceResistance::m_linearTempCoef,
-                   &ElectricSurfaceResistance::m_quadraticTempCoef);
-}
+bool ElectricSurfaceResistance::operator==(const Material& other) const { return isEqual(*this, other); }
 
 }  // namespace quarn

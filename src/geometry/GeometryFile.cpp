@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <set>
-#include <tuple>
 #include <utility>
 
 #include "geometry/GeometrySections.h"
@@ -48,30 +47,6 @@ std::vector<T*> released(std::vector<std::unique_ptr<T>>& objects) {
 }  // namespace
 
 ConformalDielectricManager::~ConformalDielectricManager() = default;
-
-MaterialMap::MaterialMap(const QString& name, std::int32_t xElectricMaterial, std::int32_t yElectricMaterial,
-                         std::int32_t zElectricMaterial, std::int32_t xMagneticMaterial, std::int32_t yMagneticMaterial,
-                         std::int32_t zMagneticMaterial)
-    : m_name(name),
-      m_xElectricMaterial(xElectricMaterial),
-      m_yElectricMaterial(yElectricMaterial),
-      m_zElectricMaterial(zElectricMaterial),
-      m_xMagneticMaterial(xMagneticMaterial),
-      m_yMagneticMaterial(yMagneticMaterial),
-      m_zMagneticMaterial(zMagneticMaterial) {}
-
-bool operator==(const MaterialMap& a, const MaterialMap& b) {
-    const auto fields = [](const MaterialMap& m) {
-        return std::tie(m.m_name,
-                        m.m_xElectricMaterial,
-                        m.m_yElectricMaterial,
-                        m.m_zElectricMaterial,
-                        m.m_xMagneticMaterial,
-                        m.m_yMagneticMaterial,
-                        m.m_zMagneticMaterial);
-    };
-    return fields(a) == fields(b);
-}
 
 GeometryFile::GeometryFile() = default;
 

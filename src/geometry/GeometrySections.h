@@ -4,46 +4,58 @@
 #include <memory>
 #include <vector>
 
+#include "blocktext/FormatBuilder.h"
 #include "quarn/DelimManager.h"
 #include "quarn/GeometryFile.h"
 #include "quarn/Grid.h"
 #include "quarn/Material.h"
 
-/// The sections of the geometry file. Writers return false when there is something that the file cannot carry; readers
-/// return false when a number could not be read.
 namespace quarn {
 
-/// What the grid sections say of one axis.
+/// What the grid sections say of one axis. The origin is written in double precision; a grid takes it in single.
 struct GridAxis {
-    float origin = 0.0F;
+    double origin = 0.0;
     std::uint32_t cells = 0;
     Grid::Runs runs;
 };
+using GridAxes = std::array<GridAxis, 3>;
+
+GridAxes axesOf(const Grid& grid);
 
 /// What a load has read so far.
 struct GeometryContents {
     std::vector<std::unique_ptr<Material>> electricMaterials;
     std::vector<std::unique_ptr<Material>> magneticMaterials;
     std::vector<std::unique_ptr<MaterialMap>> materialMappings;
-    std::array<GridAxis, 3> gridAxes;
+    GridAxes gridAxes;
 };
 
 /// The numbers in a file count the built-in materials, whose blocks are not read: they come first.
 void addBuiltInMaterials(GeometryContents& contents);
 
-bool writeMaterials(DelimManager& delim, const std::vector<Material*>& electric,
-                    const std::vector<Material*>& magnetic);
-bool readMaterials(DelimManager& delim, GeometryContents& contents);
+/// A section of the geometry file. A function that a section does without is null: one of older files is not written,
+/// and one that is skipped is not read.
+struct GeometrySection {
+    QLatin1String name;
 
-bool writeMaterialMaps(DelimManager& delim, const std::vector<MaterialMap*>& maps);
-bool readMaterialMaps(DelimManager& delim, GeometryContents& contents);
+    /// False when there is something that the file cannot carry.
+    bool (*write)(DelimManager&, const GeometryFile&, const GridAxes&);
 
-void writeGridDefinition(DelimManager& delim, const Grid& grid);
-bool readGridDefinition(DelimManager& delim, GeometryContents& contents);
-/// Reads the first block inside, whatever its name, as the grid definition.
-bool readAdaptiveGridDefinition(DelimManager& delim, GeometryContents& contents);
+    /// Reads what follows the open line. False when a number could not be read, which a load reports as `failure`.
+    bool (*read)(DelimManager&, GeometryContents&);
+    QLatin1String failure;
 
-void writeDeltas(DelimManager& delim, const Grid& grid);
-bool readDeltas(DelimManager& delim, GeometryContents& contents);
+    void (*describe)(blocktext::FormatBuilder&);
+};
+
+extern const GeometrySection materialsSection;
+extern const GeometrySection materialMapsSection;
+extern const GeometrySection adaptiveGridSection;
+extern const GeometrySection gridDefinitionSection;
+extern const GeometrySection deltasSection;
+extern const GeometrySection averagedBinsSection;
+
+/// Adds the blocks of the geometry file to the reference of the format.
+void describeGeometryBlocks(blocktext::FormatBuilder& builder);
 
 }  // namespace quarn

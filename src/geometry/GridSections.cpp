@@ -1,113 +1,118 @@
 #include <cmath>
 #include <limits>
 
-#include "blocktext/BlockWalker.h"
-#include "blocktext/BlockWriter.h"
+#include "geometry/GeometryBlock.h"
 #include "geometry/GeometrySections.h"
-#include "geometry/MaterialLines.h"
 
 namespace quarn {
 
-using namespace geometry;
+using namespace blocktext;
 
 namespace {
 
-namespace key {
-constexpr auto GridDefinition = "GridDefinition"_key;
-constexpr auto GridOriginInMeters = "GridOriginInMeters"_key;
-constexpr auto BaseCellSize = "BaseCellSize"_key;
-constexpr auto TargetSizeOfGridInMeters = "TargetSizeOfGridInMeters"_key;
-constexpr auto OffsetX = "OffsetX"_key;
-constexpr auto OffsetY = "OffsetY"_key;
-constexpr auto OffsetZ = "OffsetZ"_key;
-constexpr auto Deltas = "Deltas"_key;
-}  // namespace key
-
 // What the file and the grid call the parts of an axis.
 struct AxisText {
-    QLatin1String numberOfCells;
-    QLatin1String deltas;
+    Key numberOfCells;
+    Key deltas;
     std::uint32_t (Grid::*getNumberOfCells)() const;
     float (Grid::*getDelta)(std::uint32_t) const;
 };
 
 constexpr std::array<AxisText, 3> axes = {{
-    {"NumberOfCellsInX"_key, "DelX"_key, &Grid::getNumberOfUserCellsInX, &Grid::getUserXElectricDelta},
-    {"NumberOfCellsInY"_key, "DelY"_key, &Grid::getNumberOfUserCellsInY, &Grid::getUserYElectricDelta},
-    {"NumberOfCellsInZ"_key, "DelZ"_key, &Grid::getNumberOfUserCellsInZ, &Grid::getUserZElectricDelta},
+    {"NumberOfCellsInX", "DelX", &Grid::getNumberOfUserCellsInX, &Grid::getUserXElectricDelta},
+    {"NumberOfCellsInY", "DelY", &Grid::getNumberOfUserCellsInY, &Grid::getUserYElectricDelta},
+    {"NumberOfCellsInZ", "DelZ", &Grid::getNumberOfUserCellsInZ, &Grid::getUserZElectricDelta},
 }};
 
-// An invalid count becomes the largest one, which no grid accepts.
-bool readCount(QTextStream& in, std::uint32_t& count) {
-    constexpr auto most = std::numeric_limits<std::uint32_t>::max();
-    qint64 number = 0;
-    in >> number;
-    if (in.status() != QTextStream::Ok) return false;
-    count = number >= 0 && number <= most ? static_cast<std::uint32_t>(number) : most;
-    return true;
+struct CellCount : OneValue {
+    // An invalid count becomes the largest one, which no grid accepts.
+    static bool read(QTextStream& in, std::uint32_t& count) {
+        constexpr auto most = std::numeric_limits<std::uint32_t>::max();
+        qint64 number = 0;
+        in >> number;
+        if (in.status() != QTextStream::Ok) return false;
+        count = number >= 0 && number <= most ? static_cast<std::uint32_t>(number) : most;
+        return true;
+    }
+};
+
+constexpr auto allAxes = [](auto& all) -> auto& { return all; };
+
+template <class Value>
+constexpr auto ofAxis(std::size_t axis, Value GridAxis::*member) {
+    return path(element(allAxes, axis), member);
 }
 
-auto onCount(QLatin1String word, std::uint32_t& count) {
-    return onWord(word, [&count](QTextStream& in) { return readCount(in, count); });
+constexpr auto originLine() {
+    return value("GridOriginInMeters",
+                 allAxes,
+                 parts(ofAxis(0, &GridAxis::origin), ofAxis(1, &GridAxis::origin), ofAxis(2, &GridAxis::origin)))
+        .in("m");
 }
+
+constexpr auto cellsLine(std::size_t axis) {
+    return value(axes[axis].numberOfCells, ofAxis(axis, &GridAxis::cells), CellCount());
+}
+
+// Where runs of cells of one size begin, and that size.
+constexpr auto runsBlock(std::size_t axis) {
+    using Run = Grid::Runs::value_type;
+    return innerBlock(ofAxis(axis, &GridAxis::runs),
+                      bareValues<Grid::Runs>(axes[axis].deltas, Unreadable::Fails, parts(&Run::first, &Run::second)))
+        .in("m");
+}
+
+constexpr auto gridDefinition = [] {
+    return geometryBlock<GridAxes>("GridDefinition",
+                                   originLine(),
+                                   dropped("BaseCellSize", 3),
+                                   dropped("TargetSizeOfGridInMeters", 3),
+                                   dropped("OffsetX", 1),
+                                   dropped("OffsetY", 1),
+                                   dropped("OffsetZ", 1),
+                                   cellsLine(0),
+                                   cellsLine(1),
+                                   cellsLine(2));
+}();
+
+constexpr auto deltas = geometryBlock<GridAxes>("Deltas", runsBlock(0), runsBlock(1), runsBlock(2));
+
+// Always empty.
+constexpr auto averagedBins = geometryBlock<GridAxes>("AveragedMaterialBins");
+
+constexpr Key adaptiveGrid = "AdaptiveGridDefinition";
+constexpr auto refusedDefinition = "Error loading grid definition."_key;
 
 // NaNs count as one size, so that they too stay a single run.
 bool isSameSize(float a, float b) { return a == b || (std::isnan(a) && std::isnan(b)); }
 
-void writeRuns(DelimManager& delim, const AxisText& axis, const Grid& grid) {
-    const WrittenBlock block(delim, axis.deltas);
+Grid::Runs runsOf(const AxisText& axis, const Grid& grid) {
+    Grid::Runs runs;
     const std::uint32_t cells = (grid.*axis.getNumberOfCells)();
-    float last = 0.0F;
     for (std::uint32_t i = 0; i < cells; ++i) {
         const float size = (grid.*axis.getDelta)(i);
-        if (i > 0 && isSameSize(size, last)) continue;
-        delim.GetStream() << i << ' ' << size << '\n';
-        last = size;
+        if (i == 0 || !isSameSize(size, runs.back().second)) runs.emplace_back(static_cast<std::int32_t>(i), size);
     }
+    return runs;
 }
 
-bool readRuns(DelimManager& delim, Grid::Runs& runs) {
-    bool isRead = true;
-    walkList(delim, [&](QTextStream& in) {
-        Grid::Runs::value_type run;
-        isRead = readAll(in, run.first, run.second);
-        if (isRead) runs.push_back(run);
-    });
-    return isRead;
+template <const auto& block>
+bool write(DelimManager& delim, const GeometryFile&, const GridAxes& all) {
+    return block.write(delim, all);
 }
 
-// Drops the words behind a key that the grid does not need, whatever they are, but nothing of the lines below.
-auto onUnusedWords(QLatin1String key, int count) {
-    return onWord(key, [count](QTextStream& in) { dropWordsOfLine(in, count); });
+template <const auto& block>
+bool read(DelimManager& delim, GeometryContents& contents) {
+    return block.read(delim, contents.gridAxes);
 }
 
-}  // namespace
-
-void writeGridDefinition(DelimManager& delim, const Grid& grid) {
-    const WrittenBlock block(delim, key::GridDefinition);
-    putLine(delim, key::GridOriginInMeters, grid.getUserXOrigin(), grid.getUserYOrigin(), grid.getUserZOrigin());
-    for (const AxisText& axis : axes) putLine(delim, axis.numberOfCells, (grid.*axis.getNumberOfCells)());
+template <const auto& block>
+void describe(FormatBuilder& builder) {
+    block.describeTo(builder, {});
 }
 
-bool readGridDefinition(DelimManager& delim, GeometryContents& contents) {
-    auto& [x, y, z] = contents.gridAxes;
-    const auto readOrigin = [&x = x, &y = y, &z = z](QTextStream& in) {
-        return readAll(in, x.origin, y.origin, z.origin);
-    };
-    return walkBlock(delim,
-                     Unknown::DropLine,
-                     onWord(key::GridOriginInMeters, readOrigin),
-                     onUnusedWords(key::BaseCellSize, 3),
-                     onUnusedWords(key::TargetSizeOfGridInMeters, 3),
-                     onUnusedWords(key::OffsetX, 1),
-                     onUnusedWords(key::OffsetY, 1),
-                     onUnusedWords(key::OffsetZ, 1),
-                     onCount(axes[0].numberOfCells, x.cells),
-                     onCount(axes[1].numberOfCells, y.cells),
-                     onCount(axes[2].numberOfCells, z.cells));
-}
-
-bool readAdaptiveGridDefinition(DelimManager& delim, GeometryContents& contents) {
+// Reads the first block inside, whatever its name, as the grid definition.
+bool readAdaptiveGrid(DelimManager& delim, GeometryContents& contents) {
     QString name, value, description;
     while (delim.ContinueReading()) {
         name.clear();
@@ -115,23 +120,40 @@ bool readAdaptiveGridDefinition(DelimManager& delim, GeometryContents& contents)
             dropLine(delim.GetStream());
             continue;
         }
-        const bool isRead = readGridDefinition(delim, contents);
+        const bool isRead = read<gridDefinition>(delim, contents);
         delim.SeekToEndOfDelim();
         return isRead;
     }
     return true;
 }
 
-void writeDeltas(DelimManager& delim, const Grid& grid) {
-    const WrittenBlock block(delim, key::Deltas);
-    for (const AxisText& axis : axes) writeRuns(delim, axis, grid);
+void describeAdaptiveGrid(FormatBuilder& builder) {
+    builder.begin(adaptiveGrid);
+    builder.add({QString(), "block of any name, as " + gridDefinition.name, {}, {}, {}, "never"});
+    builder.end();
 }
 
-bool readDeltas(DelimManager& delim, GeometryContents& contents) {
-    const auto onRuns = [&](std::size_t axis) {
-        return onBlock(axes[axis].deltas, [&, axis] { return readRuns(delim, contents.gridAxes[axis].runs); });
-    };
-    return walkBlock(delim, Unknown::DropLine, onRuns(0), onRuns(1), onRuns(2));
+}  // namespace
+
+const GeometrySection adaptiveGridSection = {
+    adaptiveGrid, nullptr, readAdaptiveGrid, refusedDefinition, describeAdaptiveGrid};
+const GeometrySection gridDefinitionSection = {
+    gridDefinition.name, write<gridDefinition>, read<gridDefinition>, refusedDefinition, describe<gridDefinition>};
+const GeometrySection deltasSection = {
+    deltas.name, write<deltas>, read<deltas>, "Error loading deltas."_key, describe<deltas>};
+const GeometrySection averagedBinsSection = {
+    averagedBins.name, write<averagedBins>, nullptr, QLatin1String(), describe<averagedBins>};
+
+GridAxes axesOf(const Grid& grid) {
+    GridAxes all;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        all[i].cells = (grid.*axes[i].getNumberOfCells)();
+        all[i].runs = runsOf(axes[i], grid);
+    }
+    all[0].origin = grid.getUserXOrigin();
+    all[1].origin = grid.getUserYOrigin();
+    all[2].origin = grid.getUserZOrigin();
+    return all;
 }
 
 }  // namespace quarn

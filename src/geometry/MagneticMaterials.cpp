@@ -1,5 +1,6 @@
 #include "quarn/MagneticMaterials.h"
 
+#include "geometry/MagneticMaterialBlocks.h"
 #include "geometry/MaterialEquality.h"
 
 namespace quarn {
@@ -18,16 +19,7 @@ MagneticNormal::MagneticNormal(const QString& name, float conductivity, float re
       m_conductivity(conductivity),
       m_relativePermeability(relativePermeability) {}
 
-bool MagneticNormal::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &MagneticNormal::m_conductivity,
-                   &MagneticNormal::m_relativePermeability,
-                   &MagneticNormal::m_useLossTangent,
-                   &MagneticNormal::m_lossTangent,
-                   &MagneticNormal::m_useComplex,
-                   &MagneticNormal::m_imaginary);
-}
+bool MagneticNormal::operator==(const Material& other) const { return isEqual(*this, other); }
 
 MagneticFerrite::MagneticFerrite(const QString& name, float precessionalFrequency, float saturationMagnetization,
                                  float dampingCoefficient, float theta, float phi)
@@ -38,15 +30,7 @@ MagneticFerrite::MagneticFerrite(const QString& name, float precessionalFrequenc
       m_theta(theta),
       m_phi(phi) {}
 
-bool MagneticFerrite::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &MagneticFerrite::m_precessionalFrequency,
-                   &MagneticFerrite::m_saturationMagnetization,
-                   &MagneticFerrite::m_dampingCoefficient,
-                   &MagneticFerrite::m_theta,
-                   &MagneticFerrite::m_phi);
-}
+bool MagneticFerrite::operator==(const Material& other) const { return isEqual(*this, other); }
 
 MagneticDebye::MagneticDebye(const QString& name, float conductivity, float relativePermeability,
                              float staticRelativePermeability, float relaxationTime)
@@ -56,14 +40,7 @@ MagneticDebye::MagneticDebye(const QString& name, float conductivity, float rela
       m_staticRelativePermeability(staticRelativePermeability),
       m_relaxationTime(relaxationTime) {}
 
-bool MagneticDebye::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &MagneticDebye::m_conductivity,
-                   &MagneticDebye::m_relativePermeability,
-                   &MagneticDebye::m_staticRelativePermeability,
-                   &MagneticDebye::m_relaxationTime);
-}
+bool MagneticDebye::operator==(const Material& other) const { return isEqual(*this, other); }
 
 Magnetic7PoleDebye::Magnetic7PoleDebye(const QString& name, float relativePermeability,
                                        float staticRelativePermeability1, float staticRelativePermeability2,
@@ -90,14 +67,7 @@ Magnetic7PoleDebye::Magnetic7PoleDebye(const QString& name, float relativePermea
                         relaxationTime7},
       m_conductivity(conductivity) {}
 
-bool Magnetic7PoleDebye::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &Magnetic7PoleDebye::m_relativePermeability,
-                   &Magnetic7PoleDebye::m_staticRelativePermeabilities,
-                   &Magnetic7PoleDebye::m_relaxationTimes,
-                   &Magnetic7PoleDebye::m_conductivity);
-}
+bool Magnetic7PoleDebye::operator==(const Material& other) const { return isEqual(*this, other); }
 
 MagneticNonlinear::MagneticNonlinear(const QString& name, float bClosure, float bBreakPoint, float hClosure,
                                      float saturatedRelativePermeability, float a1, float a2, float a3, float a4,
@@ -118,24 +88,7 @@ MagneticNonlinear::MagneticNonlinear(const QString& name, float bClosure, float 
       m_b1Dot(b1Dot),
       m_b2Dot(b2Dot) {}
 
-bool MagneticNonlinear::operator==(const Material& other) const {
-    return isEqual(*this,
-                   other,
-                   &MagneticNonlinear::m_bClosure,
-                   &MagneticNonlinear::m_bBreakPoint,
-                   &MagneticNonlinear::m_hClosure,
-                   &MagneticNonlinear::m_saturatedRelativePermeability,
-                   &MagneticNonlinear::m_a1,
-                   &MagneticNonlinear::m_a2,
-                   &MagneticNonlinear::m_a3,
-                   &MagneticNonlinear::m_a4,
-                   &MagneticNonlinear::m_alpha,
-                   &MagneticNonlinear::m_c1,
-                   &MagneticNonlinear::m_c2,
-                   &MagneticNonlinear::m_c3,
-                   &MagneticNonlinear::m_b1Dot,
-                   &MagneticNonlinear::m_b2Dot);
-}
+bool MagneticNonlinear::operator==(const Material& other) const { return isEqual(*this, other); }
 
 MagneticSampled::MagneticSampled(const QString& name, const std::vector<Parameters>& parameters, bool useLossTangent,
                                  bool useComplex)

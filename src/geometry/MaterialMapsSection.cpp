@@ -1,61 +1,75 @@
-#include "blocktext/BlockWalker.h"
 #include "blocktext/BlockWriter.h"
+#include "geometry/GeometryBlock.h"
 #include "geometry/GeometrySections.h"
-#include "geometry/MaterialLines.h"
 
 namespace quarn {
 
-using namespace geometry;
+template <>
+struct blocktext::Description<MaterialMap> {
+    using M = MaterialMap;
+    static constexpr auto block() {
+        return geometryBlock<M>("materialMap",
+                                unwritten(&M::m_name),
+                                value("xElectricMaterial", &M::m_xElectricMaterial),
+                                value("yElectricMaterial", &M::m_yElectricMaterial),
+                                value("zElectricMaterial", &M::m_zElectricMaterial),
+                                value("xMagneticMaterial", &M::m_xMagneticMaterial),
+                                value("yMagneticMaterial", &M::m_yMagneticMaterial),
+                                value("zMagneticMaterial", &M::m_zMagneticMaterial));
+    }
+};
+
+using namespace blocktext;
 
 namespace {
 
-namespace key {
-constexpr auto materialMaps = "materialMaps"_key;
-constexpr auto materialMap = "materialMap"_key;
-constexpr auto materialNumber = "materialNumber"_key;
-constexpr auto xElectricMaterial = "xElectricMaterial"_key;
-constexpr auto yElectricMaterial = "yElectricMaterial"_key;
-constexpr auto zElectricMaterial = "zElectricMaterial"_key;
-constexpr auto xMagneticMaterial = "xMagneticMaterial"_key;
-constexpr auto yMagneticMaterial = "yMagneticMaterial"_key;
-constexpr auto zMagneticMaterial = "zMagneticMaterial"_key;
-}  // namespace key
+constexpr Key sectionName = "materialMaps";
+constexpr auto mapBlock = Description<MaterialMap>::block();
 
-}  // namespace
+auto numberedBlock(int number) { return atPosition(mapBlock, "materialNumber", number); }
 
-bool writeMaterialMaps(DelimManager& delim, const std::vector<MaterialMap*>& maps) {
-    const WrittenBlock block(delim, key::materialMaps);
+MaterialMap blank(const QString& label) { return {label, 0, 0, 0, 0, 0, 0}; }
+
+bool write(DelimManager& delim, const GeometryFile& file, const GridAxes&) {
+    const WrittenBlock block(delim, sectionName);
     int number = 0;
-    for (const MaterialMap* map : maps) {
+    for (const MaterialMap* map : file.getMaterialMappings()) {
         if (!map) return false;
-        const WrittenBlock mapBlock(delim, key::materialMap, map->getName());
-        putLine(delim, key::materialNumber, number++);
-        putLine(delim, key::xElectricMaterial, map->getXElectricMaterial());
-        putLine(delim, key::yElectricMaterial, map->getYElectricMaterial());
-        putLine(delim, key::zElectricMaterial, map->getZElectricMaterial());
-        putLine(delim, key::xMagneticMaterial, map->getXMagneticMaterial());
-        putLine(delim, key::yMagneticMaterial, map->getYMagneticMaterial());
-        putLine(delim, key::zMagneticMaterial, map->getZMagneticMaterial());
+        numberedBlock(number++).write(delim, *map, map->getName());
     }
     return true;
 }
 
-// The number of a map is its position in the file.
-bool readMaterialMaps(DelimManager& delim, GeometryContents& contents) {
+bool read(DelimManager& delim, GeometryContents& contents) {
     const auto readMap = [&](const QString& label) {
-        std::array<int, 6> m{};
-        const bool isRead = walkBlock(delim,
-                                      Unknown::DropLine,
-                                      onNumber(key::xElectricMaterial, m[0]),
-                                      onNumber(key::yElectricMaterial, m[1]),
-                                      onNumber(key::zElectricMaterial, m[2]),
-                                      onNumber(key::xMagneticMaterial, m[3]),
-                                      onNumber(key::yMagneticMaterial, m[4]),
-                                      onNumber(key::zMagneticMaterial, m[5]));
-        contents.materialMappings.push_back(std::make_unique<MaterialMap>(label, m[0], m[1], m[2], m[3], m[4], m[5]));
-        return isRead;
+        contents.materialMappings.push_back(std::make_unique<MaterialMap>(blank(label)));
+        return mapBlock.read(delim, *contents.materialMappings.back());
     };
-    return walkBlock(delim, Unknown::DropLine, onBlock(key::materialMap, readMap));
+    return walkBlock(delim, Unknown::DropLine, onBlock(mapBlock.name, readMap));
 }
+
+void describe(FormatBuilder& builder) {
+    builder.begin(sectionName);
+    describeEntries(builder, numberedBlock(0), blank(QString()));
+    builder.end();
+}
+
+}  // namespace
+
+const GeometrySection materialMapsSection = {
+    sectionName, write, read, "Error loading material mappings."_key, describe};
+
+MaterialMap::MaterialMap(const QString& name, std::int32_t xElectricMaterial, std::int32_t yElectricMaterial,
+                         std::int32_t zElectricMaterial, std::int32_t xMagneticMaterial, std::int32_t yMagneticMaterial,
+                         std::int32_t zMagneticMaterial)
+    : m_name(name),
+      m_xElectricMaterial(xElectricMaterial),
+      m_yElectricMaterial(yElectricMaterial),
+      m_zElectricMaterial(zElectricMaterial),
+      m_xMagneticMaterial(xMagneticMaterial),
+      m_yMagneticMaterial(yMagneticMaterial),
+      m_zMagneticMaterial(zMagneticMaterial) {}
+
+bool operator==(const MaterialMap& a, const MaterialMap& b) { return mapBlock.areEqual(a, b); }
 
 }  // namespace quarn

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "blocktext/BlockDescription.h"
+#include "geometry/GeometryBlock.h"
 #include "quarn/Material.h"
 
 namespace quarn {
@@ -18,6 +18,14 @@ struct blocktext::Description<PhysicalParameters> {
                                 value("thermalConductivity", &P::m_thermalConductivity).in("W/(m K)"),
                                 value("perfussionByBlood", &P::m_perfussionByBlood),
                                 value("metabolicHeat", &P::m_metabolicHeat));
+    }
+    /// Within a material of the geometry file, which has a line of its own for the density.
+    static constexpr auto blockInMaterial() {
+        return geometryBlock<P>("TemperatureRiseMaterialParameters",
+                                value("heat_capacity", &P::m_heatCapacity).in("J/(kg K)"),
+                                value("thermal_conductivity", &P::m_thermalConductivity).in("W/(m K)"),
+                                value("perfusion_rate", &P::m_perfussionByBlood),
+                                value("metabolic_heat", &P::m_metabolicHeat));
     }
 };
 

@@ -19,26 +19,19 @@ constexpr auto refusedGrid = "Error initializing the grid."_key;
 // The zeros replace the extent of the mesh in older files.
 constexpr auto fileStart = "Geometry file version 3.20\n\nmesh_defined\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0\n"_key;
 
-struct Section {
-    QLatin1String name;
-    bool (*read)(DelimManager&, GeometryContents&);
-    QLatin1String failure;
-};
-
-// "AveragedMaterialBins" is always empty and is skipped like any unknown block.
-constexpr Section sections[] = {
-    {"materials"_key, readMaterials, "Error loading materials."_key},
-    {"materialMaps"_key, readMaterialMaps, "Error loading material mappings."_key},
-    {"AdaptiveGridDefinition"_key, readAdaptiveGridDefinition, "Error loading grid definition."_key},
-    {"GridDefinition"_key, readGridDefinition, "Error loading grid definition."_key},
-    {"Deltas"_key, readDeltas, "Error loading deltas."_key},
-};
+// In file order.
+constexpr const GeometrySection* sections[] = {&materialsSection,
+                                               &materialMapsSection,
+                                               &adaptiveGridSection,
+                                               &gridDefinitionSection,
+                                               &deltasSection,
+                                               &averagedBinsSection};
 
 bool readBlock(DelimManager& delim, const QString& name, GeometryContents& contents, QStringList& errors) {
-    for (const Section& section : sections) {
-        if (name != section.name) continue;
-        if (section.read(delim, contents)) return true;
-        errors << section.failure;
+    for (const GeometrySection* section : sections) {
+        if (!section->read || name != section->name) continue;
+        if (section->read(delim, contents)) return true;
+        errors << section->failure;
         return false;
     }
     delim.SeekToEndOfDelim();
@@ -81,8 +74,16 @@ bool initialize(Grid* grid, const GeometryContents& contents, QStringList& error
     const auto& [x, y, z] = contents.gridAxes;
     bool isAccepted = std::uint64_t{x.cells} + y.cells + z.cells <= maximumCells;
     if (isAccepted && grid) {
-        isAccepted =
-            grid->initialize(x.cells, y.cells, z.cells, x.origin, y.origin, z.origin, x.runs, y.runs, z.runs, true);
+        isAccepted = grid->initialize(x.cells,
+                                      y.cells,
+                                      z.cells,
+                                      static_cast<float>(x.origin),
+                                      static_cast<float>(y.origin),
+                                      static_cast<float>(z.origin),
+                                      x.runs,
+                                      y.runs,
+                                      z.runs,
+                                      true);
     }
     if (!isAccepted) errors << refusedGrid;
     return isAccepted;
@@ -96,6 +97,10 @@ std::int32_t wholePart(float number) {
 
 }  // namespace
 
+void describeGeometryBlocks(FormatBuilder& builder) {
+    for (const GeometrySection* section : sections) section->describe(builder);
+}
+
 bool v6GeometryFile::saveToStream(const Grid& grid, QTextStream& stream) const { return save(QString(), grid, stream); }
 
 bool v6GeometryFile::save(const QString& path, const Grid& grid, QTextStream& stream) const {
@@ -103,12 +108,10 @@ bool v6GeometryFile::save(const QString& path, const Grid& grid, QTextStream& st
     QTextStream blocks(&text, QIODevice::WriteOnly);
     blocks.setRealNumberPrecision(17);
     DelimManager delim(blocks, path);
-    if (!writeMaterials(delim, getElectricMaterials(), getMagneticMaterials())) return false;
-    if (!writeMaterialMaps(delim, getMaterialMappings())) return false;
-    writeGridDefinition(delim, grid);
-    writeDeltas(delim, grid);
-    delim.BeginDelim(QStringLiteral("AveragedMaterialBins"), QString(), QString());
-    delim.EndDelim();
+    const GridAxes axes = axesOf(grid);
+    for (const GeometrySection* section : sections) {
+        if (section->write && !section->write(delim, *this, axes)) return false;
+    }
 
     stream.setRealNumberPrecision(17);
     stream.setCodec("UTF-8");
