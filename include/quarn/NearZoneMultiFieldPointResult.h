@@ -112,8 +112,8 @@ public:
     /// Keeps the header once it is written.
     bool setAndWriteHeader(const Header& header, std::FILE* stream);
 
-    /// Keeps the header if it was read. False when the stream does not go on with a header, when its version is not 0
-    /// and when it has groups that are none; `header` then holds what was read before that showed, the groups included.
+    /// Keeps the header if it was read. False when no header follows in the stream, when its version is not 0 and when
+    /// it has unknown groups; `header` then holds what was read up to there, the known groups included.
     bool readAndGetHeader(std::FILE* stream, Header& header);
 
     bool writeRecord(const Record& record, std::FILE* stream) const;

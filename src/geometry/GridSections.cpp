@@ -23,18 +23,15 @@ constexpr auto OffsetZ = "OffsetZ"_key;
 constexpr auto Deltas = "Deltas"_key;
 }  // namespace key
 
-// What the file and the grid call the parts of an axis.
-struct AxisText {
+struct AxisKeys {
     QLatin1String numberOfCells;
     QLatin1String deltas;
-    std::uint32_t (Grid::*getNumberOfCells)() const;
-    float (Grid::*getDelta)(std::uint32_t) const;
 };
 
-constexpr std::array<AxisText, 3> axes = {{
-    {"NumberOfCellsInX"_key, "DelX"_key, &Grid::getNumberOfUserCellsInX, &Grid::getUserXElectricDelta},
-    {"NumberOfCellsInY"_key, "DelY"_key, &Grid::getNumberOfUserCellsInY, &Grid::getUserYElectricDelta},
-    {"NumberOfCellsInZ"_key, "DelZ"_key, &Grid::getNumberOfUserCellsInZ, &Grid::getUserZElectricDelta},
+constexpr std::array<AxisKeys, 3> axes = {{
+    {"NumberOfCellsInX"_key, "DelX"_key},
+    {"NumberOfCellsInY"_key, "DelY"_key},
+    {"NumberOfCellsInZ"_key, "DelZ"_key},
 }};
 
 // An invalid count becomes the largest one, which no grid accepts.
@@ -54,12 +51,11 @@ auto onCount(QLatin1String word, std::uint32_t& count) {
 // NaNs count as one size, so that they too stay a single run.
 bool isSameSize(float a, float b) { return a == b || (std::isnan(a) && std::isnan(b)); }
 
-void writeRuns(DelimManager& delim, const AxisText& axis, const Grid& grid) {
-    const WrittenBlock block(delim, axis.deltas);
-    const std::uint32_t cells = (grid.*axis.getNumberOfCells)();
+void writeRuns(DelimManager& delim, QLatin1String key, const Grid::Axis& axis) {
+    const WrittenBlock block(delim, key);
     float last = 0.0F;
-    for (std::uint32_t i = 0; i < cells; ++i) {
-        const float size = (grid.*axis.getDelta)(i);
+    for (std::uint32_t i = 0; i < axis.cells(); ++i) {
+        const float size = axis.electricDelta(i);
         if (i > 0 && isSameSize(size, last)) continue;
         delim.GetStream() << i << ' ' << size << '\n';
         last = size;
@@ -86,7 +82,7 @@ auto onUnusedWords(QLatin1String key, int count) {
 void writeGridDefinition(DelimManager& delim, const Grid& grid) {
     const WrittenBlock block(delim, key::GridDefinition);
     putLine(delim, key::GridOriginInMeters, grid.getUserXOrigin(), grid.getUserYOrigin(), grid.getUserZOrigin());
-    for (const AxisText& axis : axes) putLine(delim, axis.numberOfCells, (grid.*axis.getNumberOfCells)());
+    for (std::size_t n = 0; n < axes.size(); ++n) putLine(delim, axes[n].numberOfCells, grid.axis(n).cells());
 }
 
 bool readGridDefinition(DelimManager& delim, GeometryContents& contents) {
@@ -124,7 +120,7 @@ bool readAdaptiveGridDefinition(DelimManager& delim, GeometryContents& contents)
 
 void writeDeltas(DelimManager& delim, const Grid& grid) {
     const WrittenBlock block(delim, key::Deltas);
-    for (const AxisText& axis : axes) writeRuns(delim, axis, grid);
+    for (std::size_t n = 0; n < axes.size(); ++n) writeRuns(delim, axes[n].deltas, grid.axis(n));
 }
 
 bool readDeltas(DelimManager& delim, GeometryContents& contents) {

@@ -31,7 +31,7 @@ constexpr auto MaxTimestep = "MaxTimestep"_key;
 constexpr auto DeltaTimestep = "DeltaTimestep"_key;
 }  // namespace key
 
-// In the order in which they are written.
+// The order in which they are written.
 constexpr std::array<FieldGroup, 7> groups{FieldGroup::TotalE,
                                            FieldGroup::ScatteredE,
                                            FieldGroup::TotalH,
