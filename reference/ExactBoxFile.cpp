@@ -18,11 +18,9 @@ struct Axis {
     double upperFace;
 };
 
-using NodeLocation = double (Grid::*)(std::uint32_t) const;
-
-Axis axisOf(const Grid& grid, NodeLocation electric, NodeLocation magnetic, std::uint32_t lower, std::uint32_t upper) {
-    Axis axis{{}, (grid.*electric)(lower), (grid.*electric)(upper)};
-    for (std::uint32_t i = lower; i < upper; ++i) axis.middles.push_back((grid.*magnetic)(i));
+Axis axisOf(const Grid::Axis& nodes, const FarZoneBox::Axis& span) {
+    Axis axis{{}, nodes.electricNode(span.lower), nodes.electricNode(span.upper)};
+    for (std::uint32_t i = span.lower; i < span.upper; ++i) axis.middles.push_back(nodes.magneticNode(i));
     return axis;
 }
 
@@ -54,21 +52,8 @@ bool writeFace(DataFileWriter& writer, const std::array<Axis, 3>& axes, std::siz
 
 bool writeBoxFields(const QString& path, const Grid& grid, const FarZoneBox& box, const Source& source,
                     double frequency) {
-    const std::array<Axis, 3> axes = {axisOf(grid,
-                                             &Grid::getUserXElectricNodeLocation,
-                                             &Grid::getUserXMagneticNodeLocation,
-                                             box.getXLower(),
-                                             box.getXUpper()),
-                                      axisOf(grid,
-                                             &Grid::getUserYElectricNodeLocation,
-                                             &Grid::getUserYMagneticNodeLocation,
-                                             box.getYLower(),
-                                             box.getYUpper()),
-                                      axisOf(grid,
-                                             &Grid::getUserZElectricNodeLocation,
-                                             &Grid::getUserZMagneticNodeLocation,
-                                             box.getZLower(),
-                                             box.getZUpper())};
+    std::array<Axis, 3> axes;
+    for (std::size_t n = 0; n < axes.size(); ++n) axes[n] = axisOf(grid.axis(n), box.axis(n));
     const double waveNumber = waveNumberOf(frequency);
     const auto fieldAt = [&](const Vector& point) { return source.near(point, waveNumber); };
 

@@ -35,11 +35,11 @@ bool initialize(quarn::Grid& grid, const Axes& runs) {
 }
 
 bool hasSizes(const quarn::Grid& grid) {
-    if (grid.getNumberOfUserCellsInZ() != cells) return false;
-    for (std::uint32_t i = 0; i < cells; ++i) {
-        if (grid.getUserXElectricDelta(i) != axes()[0][i].second) return false;
-        if (grid.getUserYElectricDelta(i) != axes()[1][i].second) return false;
-        if (grid.getUserZElectricDelta(i) != axes()[2][i].second) return false;
+    for (std::size_t n = 0; n < 3; ++n) {
+        if (grid.axis(n).cells() != cells) return false;
+        for (std::uint32_t i = 0; i < cells; ++i) {
+            if (grid.axis(n).electricDelta(i) != axes()[n][i].second) return false;
+        }
     }
     return true;
 }

@@ -25,6 +25,21 @@ class QUARN_EXPORT FieldsOnSSFarZoneBox {
 public:
     using Samples = std::vector<std::complex<float>>;
 
+    /// The cells along one axis, from the lower face of the box to the upper one. The functions of the fields that name
+    /// an axis return the same: distances from the centre to the middles of the cells and to the upper face, and from
+    /// the lower face to the centre.
+    struct Axis {
+        std::vector<float> deltas;
+        std::vector<double> toMiddles;
+        double toLowerFace = 0.0;
+        double toUpperFace = 0.0;
+
+        float delta(int cell) const {
+            const auto index = static_cast<std::size_t>(cell);
+            return index < deltas.size() ? deltas[index] : 0.0F;
+        }
+    };
+
     /// Loads the box field file at `path`, which has a FileHeader of type 8 and version 0 and, in the order of the
     /// faces x lower, x upper, y lower, ..., z upper, a FieldsOnSteadyStateFarZoneBoxFile record for each of their
     /// cells. Anything after them is ignored.
@@ -57,6 +72,9 @@ public:
     std::uint32_t getNumberInX() const { return m_box.getNumberInX(); }
     std::uint32_t getNumberInY() const { return m_box.getNumberInY(); }
     std::uint32_t getNumberInZ() const { return m_box.getNumberInZ(); }
+
+    /// The axes x, y and z have the numbers 0, 1 and 2.
+    const Axis& axis(std::size_t n) const { return m_axes[n]; }
 
     /// The sizes of the cells, from the lower face to the upper one; 0 where there is no cell of that index.
     const std::vector<float>& getXDeltas() const { return m_axes[0].deltas; }
@@ -116,18 +134,6 @@ public:
     const std::array<Samples, 4>& getFields(FarZoneBox::Face face) const { return m_faces[face]; }
 
 private:
-    struct Axis {
-        std::vector<float> deltas;
-        std::vector<double> toMiddles;
-        double toLowerFace = 0.0;
-        double toUpperFace = 0.0;
-
-        float delta(int cell) const {
-            const auto index = static_cast<std::size_t>(cell);
-            return index < deltas.size() ? deltas[index] : 0.0F;
-        }
-    };
-
     QString build(const Grid& grid, const QString& path);
     bool isIn(const Grid& grid) const;
     void allocate();

@@ -31,13 +31,13 @@ Grid::Grid(const Grid& other) = default;
 Grid& Grid::operator=(const Grid& other) = default;
 Grid::~Grid() = default;
 
-Grid::Axis::Axis(std::uint32_t cells_, float origin, const Runs& runs, bool withNodes)
-    : cells(cells_), electricNodes(withNodes ? std::max(cells_, 1U) : 1U, origin), electricDeltas(cells_) {
+Grid::Axis::Axis(std::uint32_t cells, float origin, const Runs& runs, bool withNodes)
+    : m_cells(cells), m_electricNodes(withNodes ? std::max(cells, 1U) : 1U, origin), m_electricDeltas(cells) {
     const auto inOrder = ordered(runs);
     for (std::size_t k = 0; k < inOrder.size() && inOrder[k].begin < cells; ++k) {
         const auto [begin, size] = inOrder[k];
         const std::uint32_t end = k + 1 < inOrder.size() ? std::min(inOrder[k + 1].begin, cells) : cells;
-        std::fill(electricDeltas.begin() + begin, electricDeltas.begin() + end, size);
+        std::fill(m_electricDeltas.begin() + begin, m_electricDeltas.begin() + end, size);
         if (withNodes) placeElectricNodes(begin, end, size);
     }
     if (withNodes) placeMagneticNodes();
@@ -46,21 +46,22 @@ Grid::Axis::Axis(std::uint32_t cells_, float origin, const Runs& runs, bool with
 // Distances are measured from the node where the run begins, so that rounding errors do not accumulate over the runs.
 // They are rounded to single precision on purpose: the engine computes positions in the same way.
 void Grid::Axis::placeElectricNodes(std::uint32_t begin, std::uint32_t end, float size) {
-    const double anchor = electricNodes[begin];
-    for (std::uint32_t i = begin; i < end && i + 1 < cells; ++i) {
+    const double anchor = m_electricNodes[begin];
+    for (std::uint32_t i = begin; i < end && i + 1 < m_cells; ++i) {
         const float distance = static_cast<float>(i - begin + 1) * size;
-        electricNodes[i + 1] = anchor + static_cast<double>(distance);
+        m_electricNodes[i + 1] = anchor + static_cast<double>(distance);
     }
 }
 
 void Grid::Axis::placeMagneticNodes() {
-    magneticNodes.resize(cells);
-    magneticDeltas.resize(cells);
-    for (std::uint32_t i = 0; i < cells; ++i) {
-        const bool isLast = i + 1 == cells;
-        magneticNodes[i] = isLast ? electricNodes[i] + static_cast<double>(0.5F * electricDeltas[i])
-                                  : (electricNodes[i] + electricNodes[i + 1]) * 0.5;
-        magneticDeltas[i] = i == 0 ? electricDeltas[0] : static_cast<float>(magneticNodes[i] - magneticNodes[i - 1]);
+    m_magneticNodes.resize(m_cells);
+    m_magneticDeltas.resize(m_cells);
+    for (std::uint32_t i = 0; i < m_cells; ++i) {
+        const bool isLast = i + 1 == m_cells;
+        m_magneticNodes[i] = isLast ? m_electricNodes[i] + static_cast<double>(0.5F * m_electricDeltas[i])
+                                    : (m_electricNodes[i] + m_electricNodes[i + 1]) * 0.5;
+        m_magneticDeltas[i] =
+            i == 0 ? m_electricDeltas[0] : static_cast<float>(m_magneticNodes[i] - m_magneticNodes[i - 1]);
     }
 }
 
@@ -69,12 +70,9 @@ bool Grid::initialize(std::uint32_t cellsInX, std::uint32_t cellsInY, std::uint3
                       bool withNodes) {
     if (std::max({cellsInX, cellsInY, cellsInZ}) > maximumCells) return false;
     try {
-        Axis x(cellsInX, originX, runsInX, withNodes);
-        Axis y(cellsInY, originY, runsInY, withNodes);
-        Axis z(cellsInZ, originZ, runsInZ, withNodes);
-        m_x = std::move(x);
-        m_y = std::move(y);
-        m_z = std::move(z);
+        m_axes = {Axis(cellsInX, originX, runsInX, withNodes),
+                  Axis(cellsInY, originY, runsInY, withNodes),
+                  Axis(cellsInZ, originZ, runsInZ, withNodes)};
         return true;
     } catch (const std::bad_alloc&) {
         return false;

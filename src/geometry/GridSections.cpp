@@ -10,18 +10,15 @@ using namespace blocktext;
 
 namespace {
 
-// What the file and the grid call the parts of an axis.
-struct AxisText {
+struct AxisKeys {
     Key numberOfCells;
     Key deltas;
-    std::uint32_t (Grid::*getNumberOfCells)() const;
-    float (Grid::*getDelta)(std::uint32_t) const;
 };
 
-constexpr std::array<AxisText, 3> axes = {{
-    {"NumberOfCellsInX", "DelX", &Grid::getNumberOfUserCellsInX, &Grid::getUserXElectricDelta},
-    {"NumberOfCellsInY", "DelY", &Grid::getNumberOfUserCellsInY, &Grid::getUserYElectricDelta},
-    {"NumberOfCellsInZ", "DelZ", &Grid::getNumberOfUserCellsInZ, &Grid::getUserZElectricDelta},
+constexpr std::array<AxisKeys, 3> axes = {{
+    {"NumberOfCellsInX", "DelX"},
+    {"NumberOfCellsInY", "DelY"},
+    {"NumberOfCellsInZ", "DelZ"},
 }};
 
 struct CellCount : OneValue {
@@ -86,11 +83,10 @@ constexpr auto refusedDefinition = "Error loading grid definition."_key;
 // NaNs count as one size, so that they too stay a single run.
 bool isSameSize(float a, float b) { return a == b || (std::isnan(a) && std::isnan(b)); }
 
-Grid::Runs runsOf(const AxisText& axis, const Grid& grid) {
+Grid::Runs runsOf(const Grid::Axis& axis) {
     Grid::Runs runs;
-    const std::uint32_t cells = (grid.*axis.getNumberOfCells)();
-    for (std::uint32_t i = 0; i < cells; ++i) {
-        const float size = (grid.*axis.getDelta)(i);
+    for (std::uint32_t i = 0; i < axis.cells(); ++i) {
+        const float size = axis.electricDelta(i);
         if (i == 0 || !isSameSize(size, runs.back().second)) runs.emplace_back(static_cast<std::int32_t>(i), size);
     }
     return runs;
@@ -146,13 +142,10 @@ const GeometrySection averagedBinsSection = {
 
 GridAxes axesOf(const Grid& grid) {
     GridAxes all;
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        all[i].cells = (grid.*axes[i].getNumberOfCells)();
-        all[i].runs = runsOf(axes[i], grid);
+    for (std::size_t n = 0; n < all.size(); ++n) {
+        const Grid::Axis& axis = grid.axis(n);
+        all[n] = {axis.origin(), axis.cells(), runsOf(axis)};
     }
-    all[0].origin = grid.getUserXOrigin();
-    all[1].origin = grid.getUserYOrigin();
-    all[2].origin = grid.getUserZOrigin();
     return all;
 }
 

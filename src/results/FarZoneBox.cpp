@@ -1,7 +1,6 @@
 #include "quarn/FarZoneBox.h"
 
 #include <cmath>
-#include <tuple>
 
 #include "quarn/BoundaryConditions.h"
 #include "quarn/Grid.h"
@@ -11,8 +10,8 @@ namespace quarn {
 
 namespace {
 
-// How far a face stays away from the boundary of the grid: from the first node at a lower one, from the number of cells
-// at an upper one, whose last node is one less.
+// How many nodes a face stands away from the first or the last node of the grid, and how much less than the number of
+// cells the index of the last node is.
 constexpr std::uint32_t absorberMargin = 4;
 constexpr std::uint32_t lastNode = 1;
 
@@ -22,7 +21,7 @@ FarZoneBox::FarZoneBox(const BoundaryConditions& boundaries, const Grid& grid) {
     m_isValid = boundaries.getNumberOfPECBoundaries() < 2 && !boundaries.hasPMCBoundary() &&
                 !boundaries.hasPeriodicBoundary() && placeFaces(boundaries, grid);
     if (!m_isValid) return;
-    for (Axis* axis : {&m_x, &m_y, &m_z}) axis->cells = axis->upper - axis->lower;
+    for (Axis& axis : m_axes) axis.cells = axis.upper - axis.lower;
     setCenter(grid);
 }
 
@@ -31,34 +30,24 @@ void FarZoneBox::useImageAt(Face face) {
     m_imageFace = face;
 }
 
-// False when the grid is too small for the box.
+// Returns false when the grid is too small for the box.
 bool FarZoneBox::placeFaces(const BoundaryConditions& boundaries, const Grid& grid) {
-    struct Placement {
-        Axis& axis;
-        BoundingBoxSide lowerSide, upperSide;
-        Face lowerFace, upperFace;
-        std::uint32_t gridCells;
+    // BoundingBoxSide has the lower and the upper side of x first, then those of y and of z.
+    const auto isPEC = [&](std::uint32_t side) {
+        return boundaries.getBoundaryType(static_cast<BoundingBoxSide>(side)) == BoundaryConditions::PEC;
     };
-    const Placement placements[] = {
-        {m_x, BoundingBoxSide::LowerX, BoundingBoxSide::UpperX, XLower, XUpper, grid.getNumberOfUserCellsInX()},
-        {m_y, BoundingBoxSide::LowerY, BoundingBoxSide::UpperY, YLower, YUpper, grid.getNumberOfUserCellsInY()},
-        {m_z, BoundingBoxSide::LowerZ, BoundingBoxSide::UpperZ, ZLower, ZUpper, grid.getNumberOfUserCellsInZ()}};
-    const auto isPEC = [&](BoundingBoxSide side) {
-        return boundaries.getBoundaryType(side) == BoundaryConditions::PEC;
-    };
-
-    for (const auto& [axis, lowerSide, upperSide, lowerFace, upperFace, gridCells] : placements) {
-        axis.lower = isPEC(lowerSide) ? 0 : absorberMargin;
-        if (isPEC(lowerSide)) useImageAt(lowerFace);
+    for (std::uint32_t n = 0; n < m_axes.size(); ++n) {
+        m_axes[n].lower = isPEC(2 * n) ? 0 : absorberMargin;
+        if (isPEC(2 * n)) useImageAt(static_cast<Face>(XLower + n));
     }
-    for (const auto& [axis, lowerSide, upperSide, lowerFace, upperFace, gridCells] : placements) {
-        const std::uint32_t distance = isPEC(upperSide) ? lastNode : absorberMargin + lastNode;
-        if (isPEC(upperSide)) useImageAt(upperFace);
-        if (gridCells < distance) return false;
-        axis.upper = gridCells - distance;
+    for (std::uint32_t n = 0; n < m_axes.size(); ++n) {
+        const std::uint32_t distance = isPEC(2 * n + 1) ? lastNode : absorberMargin + lastNode;
+        if (isPEC(2 * n + 1)) useImageAt(static_cast<Face>(XUpper + n));
+        if (grid.axis(n).cells() < distance) return false;
+        m_axes[n].upper = grid.axis(n).cells() - distance;
     }
-    for (const Axis* axis : {&m_x, &m_y, &m_z}) {
-        if (axis->lower <= axis->upper) continue;
+    for (const Axis& axis : m_axes) {
+        if (axis.lower <= axis.upper) continue;
         m_imageFace = NoFace;
         return false;
     }
@@ -66,18 +55,12 @@ bool FarZoneBox::placeFaces(const BoundaryConditions& boundaries, const Grid& gr
 }
 
 void FarZoneBox::setCenter(const Grid& grid) {
-    const double lower[] = {grid.getUserXOrigin(), grid.getUserYOrigin(), grid.getUserZOrigin()};
-    const double upper[] = {grid.getUserXUpperBound(), grid.getUserYUpperBound(), grid.getUserZUpperBound()};
-    double center[3];
-    for (int k = 0; k < 3; ++k) center[k] = 0.5 * (lower[k] + upper[k]);
-    if (m_imageFace < XUpper) {
-        center[m_imageFace] = lower[m_imageFace];
-    } else if (m_imageFace < NoFace) {
-        center[m_imageFace - XUpper] = upper[m_imageFace - XUpper];
+    for (std::size_t n = 0; n < m_axes.size(); ++n) {
+        m_axes[n].center = 0.5 * (grid.axis(n).origin() + grid.axis(n).upperBound());
     }
-    m_x.center = center[0];
-    m_y.center = center[1];
-    m_z.center = center[2];
+    if (m_imageFace == NoFace) return;
+    const Grid::Axis& axis = grid.axis(m_imageFace % 3);
+    m_axes[m_imageFace % 3].center = m_imageFace < XUpper ? axis.origin() : axis.upperBound();
 }
 
 bool FarZoneBox::isAngleUnderGround(float phi, float theta) const {
@@ -87,13 +70,13 @@ bool FarZoneBox::isAngleUnderGround(float phi, float theta) const {
     const double polar = theta;
     const double direction[] = {
         std::sin(polar) * std::cos(azimuth), std::sin(polar) * std::sin(azimuth), std::cos(polar)};
-    return m_imageFace < XUpper ? direction[m_imageFace] <= -tolerance : direction[m_imageFace - XUpper] >= tolerance;
+    const double component = direction[m_imageFace % 3];
+    return m_imageFace < XUpper ? component <= -tolerance : component >= tolerance;
 }
 
 bool operator==(const FarZoneBox& a, const FarZoneBox& b) {
     const auto members = [](const FarZoneBox& box) {
-        const auto axis = [](const FarZoneBox::Axis& of) { return std::tie(of.lower, of.upper, of.cells, of.center); };
-        return std::tuple(box.m_isValid, box.m_useImage, box.m_imageFace, axis(box.m_x), axis(box.m_y), axis(box.m_z));
+        return std::tie(box.m_isValid, box.m_useImage, box.m_imageFace, box.m_axes);
     };
     return members(a) == members(b);
 }

@@ -18,18 +18,13 @@ constexpr double nsPerAngleChecked = 40.0;
 constexpr double nsPerRecordCopied = 10.0;
 constexpr double nsPerRecordMade = 200.0;
 
-Axis axisOf(const std::vector<float>& sizes, const std::vector<double>& middles, double toLowerFace,
-            double toUpperFace) {
-    return {middles, {sizes.begin(), sizes.end()}, {-toLowerFace, toUpperFace}};
-}
-
-/// The fields on the box as the transformation takes them; it reads the samples where they are.
+/// The fields in the form that the transformation takes, which refers to their samples.
 Surface surfaceOf(const FieldsOnSSFarZoneBox& fields) {
-    const auto& x = fields;
     Surface surface;
-    surface.axes[0] = axisOf(x.getXDeltas(), x.getXDistanceToY(), x.getXDistanceToX(), x.getXDistanceToXUpper());
-    surface.axes[1] = axisOf(x.getYDeltas(), x.getYDistanceToX(), x.getYDistanceToY(), x.getYDistanceToYUpper());
-    surface.axes[2] = axisOf(x.getZDeltas(), x.getZDistanceToX(), x.getZDistanceToZ(), x.getZDistanceToZUpper());
+    for (std::size_t n = 0; n < numAxes; ++n) {
+        const auto& [sizes, middles, toLowerFace, toUpperFace] = fields.axis(n);
+        surface.axes[n] = {middles, {sizes.begin(), sizes.end()}, {-toLowerFace, toUpperFace}};
+    }
 
     const FarZoneBox& box = fields.getFarZoneBox();
     const bool isMirrored = box.isValid() && box.useImage();
@@ -54,8 +49,8 @@ std::complex<float> narrowed(const Complex& value) {
     return {static_cast<float>(value.real()), static_cast<float>(value.imag())};
 }
 
-/// Calls `use(begin, end)` for a few thousand items at a time; an item takes so many ns beside the work that `use`
-/// reports itself. False when the work was stopped.
+/// Calls `use(begin, end)` for a few thousand items at a time. An item takes `nsPerItem` beside the work that `use`
+/// reports itself. Returns false when the work was stopped.
 template <class Use>
 bool inPieces(std::size_t count, double nsPerItem, Progress& progress, Use use) {
     for (std::size_t begin = 0; begin < count; begin += itemsAtOnce) {

@@ -42,7 +42,7 @@ struct Extent {
     double half = 0.0;
 };
 
-/// What the cells of an axis cover; not a number when a cell's place or size is none.
+/// The interval that the cells of an axis cover. It is not a number when the place or the size of a cell is not finite.
 Extent extentOf(const Axis& axis) {
     if (axis.cells() == 0) return {};
     double low = std::numeric_limits<double>::infinity();
@@ -57,18 +57,18 @@ Extent extentOf(const Axis& axis) {
     return std::isfinite(sum) ? Extent{0.5 * (low + high), 0.5 * (high - low)} : Extent{sum - sum, sum - sum};
 }
 
-/// Samples up to the direction component 1, which are oversampled times the half length in wavelengths times two. A
-/// short axis has a few.
+/// How many samples there are from the direction component 0 to 1, as a fraction: twice the half length in wavelengths
+/// times the oversampling. A very short axis counts as one of some thousandth of a wavelength.
 double samplesWithin(double halfLength, double waveNumber) {
     return Window::oversampling * std::max(waveNumber * halfLength, 1e-3) / constants::pi;
 }
 
-/// The last sample with those that the window needs behind the component 1.
+/// The index of the last sample. The window needs some samples beyond the component 1.
 double lastSample(const Axis& axis, double waveNumber) {
     return std::ceil(samplesWithin(extentOf(axis).half, waveNumber)) + static_cast<double>(halfTaps);
 }
 
-/// Those of the three axes.
+/// The indices of the last samples of the three axes.
 std::array<double, numAxes> lastSamples(const Surface& surface, double waveNumber) {
     return {lastSample(surface.axes[0], waveNumber),
             lastSample(surface.axes[1], waveNumber),
@@ -92,7 +92,7 @@ double memoryFor(const Surface& surface, const std::array<double, numAxes>& last
 double costOfRow(double cellsA, double lastA) { return cellsA * (nsPerGatheredCell + (lastA + 1.0) * nsPerPhasor); }
 double costOfColumn(double cellsB, double lastB) { return cellsB * (lastB + 1.0) * nsPerPhasor; }
 
-/// The exponential of an angle times 0, 1, 2, ... is added to a column of a table.
+/// Adds the amplitude times the exponentials of 0, 1, 2, ... times the angle to a column of a table.
 void addPhasors(double amplitude, double angle, std::size_t stride, std::size_t count, Phasor* column) {
     const double cosine = std::cos(angle);
     const double sine = std::sin(angle);
@@ -116,7 +116,7 @@ FaceSums notNumbers() {
 }
 
 /// The weighted sum of rows of numbers that begin `stride` numbers apart. All numbers of a row are summed side by side,
-/// which a compiler makes into vector instructions.
+/// so that compilers use vector instructions.
 template <std::size_t numbersInRow>
 void combine(const double* rows, std::size_t stride, const Window::Weights& weights, double* sums) {
     for (std::size_t i = 0; i < numbersInRow; ++i) {
@@ -158,8 +158,8 @@ double Spectrum::memory(const Surface& surface, double waveNumber) {
     return memoryFor(surface, lastSamples(surface, waveNumber));
 }
 
-// A cell counts as a whole: panels of quadrature, short enough for the fastest sample, run over it. At each point the
-// window's transform is divided out.
+// The phase is integrated over the whole of each cell, by quadrature on panels that are short enough for the fastest
+// sample. At each point the integrand is divided by the transform of the window.
 bool Spectrum::fillPhasors(std::size_t axis, Progress& progress) {
     const Axis& cells = m_surface.axes[axis];
     const Sampling& sampling = m_samplings[axis];
@@ -211,7 +211,7 @@ bool Spectrum::prepare(Progress& progress) {
     return true;
 }
 
-// Along the lower in-plane axis, into m_columns.
+// Samples the rows of the face along the lower in-plane axis, into m_columns.
 bool Spectrum::sampleRows(std::size_t normal, Side side, Progress& progress) {
     const auto [a, b] = inPlaneAxes(normal);
     const std::size_t cells = m_surface.axes[a].cells();
@@ -230,7 +230,7 @@ bool Spectrum::sampleRows(std::size_t normal, Side side, Progress& progress) {
     return true;
 }
 
-// Along the upper in-plane axis, from m_columns.
+// Samples m_columns along the upper in-plane axis, into m_samples.
 bool Spectrum::sampleColumns(std::size_t normal, Side side, Progress& progress) {
     const auto [a, b] = inPlaneAxes(normal);
     const std::size_t cells = m_surface.axes[b].cells();
@@ -256,8 +256,8 @@ bool Spectrum::evaluate(const Vector* directions, std::size_t count, FaceSums* s
     return progress.advance(static_cast<double>(count) * lookupCost());
 }
 
-// The in-plane components of the direction choose the samples, the phase of the cells' middle and of the two faces
-// follow.
+// The in-plane components of the direction choose the samples. The phases of the middle of the cells and of the two
+// faces are then added.
 FaceSums Spectrum::sumsAt(const Vector& direction) const {
     std::array<Neighbours, numAxes> neighbours;
     for (std::size_t axis = 0; axis < numAxes; ++axis) neighbours[axis] = neighboursOf(axis, direction[axis]);

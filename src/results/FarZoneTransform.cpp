@@ -16,9 +16,9 @@
 // half of k times its size times the direction's component along that axis.
 //
 // A perfectly conducting plane is replaced by the image of the box in it. Below the plane are the mirrored electric
-// field with its tangential part reversed and the mirrored magnetic field with its normal part reversed. Of the image
-// currents, J is reversed along the plane and M across it, and the image radiates in a direction what the box radiates
-// in the mirrored one. Box and image together are closed without the face on the plane.
+// field with its tangential part reversed and the mirrored magnetic field with its normal part reversed. The image of J
+// is reversed along the plane and that of M across it, and the image radiates in a direction what the box radiates in
+// the mirrored one. Box and image together form a closed surface without the face on the plane.
 
 #include "results/FarZoneTransform.h"
 
@@ -92,7 +92,7 @@ FarField farFieldOf(const Radiation& radiation, const Direction& direction, doub
                       freeSpaceImpedance * dot(radiation.electric, direction.phi))};
 }
 
-/// What is looked up: the box in the direction, and where there is an image, in the mirrored direction next to it.
+/// How many sums over the box a direction needs: one, and with an image another in the mirrored direction.
 std::size_t lookupsPerDirection(const Surface& surface) { return surface.isMirrored() ? 2 : 1; }
 
 void putLookups(const Surface& surface, const Direction& direction, Vector* lookups) {

@@ -18,7 +18,7 @@ double shape() {
     return constants::pi * std::sqrt(square(spread) - 0.8);
 }
 
-/// I0 of the square root of `squared`, which may be a little below 0, by its power series.
+/// The Bessel function I0 of the square root of `squared`, which may be slightly negative, by its power series.
 double besselI0(double squared) {
     double term = 1.0;
     double sum = 1.0;
@@ -42,7 +42,7 @@ Window::Window() : m_table(steps + 4) {
     }
 }
 
-// By the cubic through the four rows around the fraction, which is good to 1e-9.
+// The cubic through the four rows around the fraction has an error of 1e-9.
 Window::Weights Window::weights(double fraction) const {
     const double position = fraction * static_cast<double>(steps);
     const std::size_t row = std::min(static_cast<std::size_t>(position), steps);

@@ -29,7 +29,7 @@ constexpr std::array<const char*, 6> partNames{"xr", "yr", "zr", "xi", "yi", "zi
 
 constexpr std::uint32_t unusedBits = 0x001FFFFF;
 
-// Such as "Exr_total_freq3.bin", after what the file names of all groups begin with.
+// A file name that begins with `start` and goes on like "Exr_total_freq3.bin".
 QString componentFile(const QString& start, const FieldGroupInfo& info, const char* component, const char* series,
                       int index) {
     return start + QLatin1Char(info.field) + QLatin1String(component) + QLatin1Char('_') + QLatin1String(info.kind) +

@@ -84,6 +84,19 @@ TEST(Grid, IsBoundedByItsFirstAndLastElectricNodes) {
     EXPECT_THAT(bounds, ElementsAreArray({1.0, 2.0, 2.0, 22.0, 3.0, 303.0}));
 }
 
+TEST(Grid, HasFunctionsForEachAxis) {
+    using G = Grid;
+    Grid grid;
+    ASSERT_TRUE(grid.initialize(2, 3, 4, 1, 2, 3, {{0, 1}}, {{0, 10}}, {{0, 100}}, true));
+    std::vector<double> found;
+    const auto at1 = [&](auto... get) { (found.push_back(static_cast<double>((grid.*get)(1))), ...); };
+    at1(&G::getUserXElectricNodeLocation, &G::getUserYElectricNodeLocation, &G::getUserZElectricNodeLocation);
+    at1(&G::getUserXMagneticNodeLocation, &G::getUserYMagneticNodeLocation, &G::getUserZMagneticNodeLocation);
+    at1(&G::getUserXElectricDelta, &G::getUserYElectricDelta, &G::getUserZElectricDelta);
+    at1(&G::getUserXMagneticDelta, &G::getUserYMagneticDelta, &G::getUserZMagneticDelta);
+    EXPECT_THAT(found, ElementsAreArray({2.0, 12.0, 103.0, 2.5, 17.0, 153.0, 1.0, 10.0, 100.0, 1.0, 10.0, 100.0}));
+}
+
 TEST(Grid, HasBoundsWithoutNodes) {
     Grid grid;
     EXPECT_EQ(grid.getUserYUpperBound(), 0.0);

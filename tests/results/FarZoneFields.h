@@ -22,14 +22,9 @@ inline BoundaryConditions openBoundaries() {
 
 /// A PEC plane at the side, or no plane for FarZoneBox::NoFace, and open boundaries elsewhere.
 inline BoundaryConditions boundariesWithPlaneAt(FarZoneBox::Face face) {
-    constexpr BoundingBoxSide sides[] = {BoundingBoxSide::LowerX,
-                                         BoundingBoxSide::LowerY,
-                                         BoundingBoxSide::LowerZ,
-                                         BoundingBoxSide::UpperX,
-                                         BoundingBoxSide::UpperY,
-                                         BoundingBoxSide::UpperZ};
     BoundaryConditions boundaries = openBoundaries();
-    if (face != FarZoneBox::NoFace) boundaries.setBoundaryType(sides[face], BoundaryConditions::PEC);
+    const auto side = static_cast<BoundingBoxSide>(face % 3 * 2 + face / 3);
+    if (face != FarZoneBox::NoFace) boundaries.setBoundaryType(side, BoundaryConditions::PEC);
     boundaries.cacheVariables();
     return boundaries;
 }

@@ -18,9 +18,10 @@ double inDecibels(double powerRatio) { return 10.0 * std::log10(powerRatio); }
 
 /// From the phase reference to the farthest corner of the box; an image lies no farther.
 double radiusOf(const FieldsOnSSFarZoneBox& fields) {
-    return std::hypot(std::max(std::abs(fields.getXDistanceToX()), std::abs(fields.getXDistanceToXUpper())),
-                      std::max(std::abs(fields.getYDistanceToY()), std::abs(fields.getYDistanceToYUpper())),
-                      std::max(std::abs(fields.getZDistanceToZ()), std::abs(fields.getZDistanceToZUpper())));
+    const auto reach = [&](std::size_t n) {
+        return std::max(std::abs(fields.axis(n).toLowerFace), std::abs(fields.axis(n).toUpperFace));
+    };
+    return std::hypot(reach(0), reach(1), reach(2));
 }
 
 /// Polar angles in the middles of equal intervals, with the weights of Fejer's first rule: exact for polynomials in the

@@ -71,8 +71,8 @@ void checkValues(const QString& path, const FieldsOnSSFarZoneBox& fields) {
 /// Fields that turn within a cell mean nothing, and their pattern would take more directions than anybody waits for.
 void checkCells(const QString& geometryPath, const FieldsOnSSFarZoneBox& fields, float frequency) {
     const double waveLength = waveLengthAt(frequency);
-    for (const auto* sizes : {&fields.getXDeltas(), &fields.getYDeltas(), &fields.getZDeltas()}) {
-        for (const float size : *sizes) {
+    for (std::size_t n = 0; n < 3; ++n) {
+        for (const float size : fields.axis(n).deltas) {
             if (2.0 * std::abs(static_cast<double>(size)) <= waveLength) continue;
             throw FileProblem(
                 geometryPath,

@@ -6,7 +6,6 @@
 
 #include "Quantity.h"
 #include "Text.h"
-#include "files/GridAxes.h"
 #include "findings/LineForm.h"
 #include "quarn/quarn.h"
 
@@ -14,14 +13,13 @@ namespace quarn::tool {
 
 namespace {
 
-void addUnusableSize(QStringList& errors, const Grid& grid, const GridAxis& axis) {
-    const std::uint32_t cells = (grid.*axis.getNumberOfCells)();
-    for (std::uint32_t i = 0; i < cells; ++i) {
-        const float size = (grid.*axis.getDelta)(i);
+void addUnusableSize(QStringList& errors, const Grid::Axis& axis, const QString& name) {
+    for (std::uint32_t i = 0; i < axis.cells(); ++i) {
+        const float size = axis.electricDelta(i);
         if (std::isfinite(size) && size > 0.0F) continue;
         errors << text("Cell %1 along %2 has the unusable size %3 m.")
                       .arg(i)
-                      .arg(QLatin1String(axis.name), numberText(static_cast<double>(size)));
+                      .arg(name, numberText(static_cast<double>(size)));
         return;
     }
 }
@@ -73,11 +71,11 @@ void removeRepeatedSizes(std::vector<BlockLine>& lines, BlockNumbers& numbers) {
 
 QStringList errorsIn(const LoadedGeometry& loaded) {
     QStringList errors;
-    for (const GridAxis& axis : gridAxes) {
-        if ((loaded.grid.*axis.getNumberOfCells)() == 0) {
-            errors << text("The grid has no cells along %1.").arg(QLatin1String(axis.name));
-        }
-        addUnusableSize(errors, loaded.grid, axis);
+    for (std::size_t n = 0; n < 3; ++n) {
+        const QString name(QLatin1Char("xyz"[n]));
+        const Grid::Axis& axis = loaded.grid.axis(n);
+        if (axis.cells() == 0) errors << text("The grid has no cells along %1.").arg(name);
+        addUnusableSize(errors, axis, name);
     }
     const std::size_t electric = loaded.geometry.getElectricMaterials().size();
     const std::size_t magnetic = loaded.geometry.getMagneticMaterials().size();

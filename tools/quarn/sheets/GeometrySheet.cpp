@@ -5,7 +5,6 @@
 #include "Console.h"
 #include "Quantity.h"
 #include "files/GeometryOnDisk.h"
-#include "files/GridAxes.h"
 #include "quarn/quarn.h"
 
 namespace quarn::tool {
@@ -13,28 +12,24 @@ namespace quarn::tool {
 namespace {
 
 // The grid's upper bound is the near side of the last cell; users expect the far side.
-QString axisText(const Grid& grid, const GridAxis& axis) {
-    const std::uint32_t cells = (grid.*axis.getNumberOfCells)();
-    if (cells == 0) return "no cells";
-    float smallest = (grid.*axis.getDelta)(0);
+QString axisText(const Grid::Axis& axis) {
+    if (axis.cells() == 0) return text("no cells");
+    float smallest = axis.electricDelta(0);
     float largest = smallest;
-    for (std::uint32_t i = 1; i < cells; ++i) {
-        const float size = (grid.*axis.getDelta)(i);
+    for (std::uint32_t i = 1; i < axis.cells(); ++i) {
+        const float size = axis.electricDelta(i);
         smallest = std::min(smallest, size);
         largest = std::max(largest, size);
     }
-    const double end = (grid.*axis.getUpperBound)() + static_cast<double>((grid.*axis.getDelta)(cells - 1));
+    const double end = axis.upperBound() + static_cast<double>(axis.electricDelta(axis.cells() - 1));
     const QString sizes = smallest == largest ? withPrefix(smallest, "m") : rangeText(smallest, largest, "m");
     return text("%1, cells of %2").arg(rangeText((grid.*axis.getOrigin)(), end, "m"), sizes);
 }
 
 void addGrid(Sheet& sheet, const Grid& grid) {
     sheet.add("Grid",
-              text("%1 x %2 x %3 cells")
-                  .arg(grid.getNumberOfUserCellsInX())
-                  .arg(grid.getNumberOfUserCellsInY())
-                  .arg(grid.getNumberOfUserCellsInZ()));
-    for (const GridAxis& axis : gridAxes) sheet.addDetail(text(axis.name), axisText(grid, axis));
+              text("%1 x %2 x %3 cells").arg(grid.axis(0).cells()).arg(grid.axis(1).cells()).arg(grid.axis(2).cells()));
+    for (std::size_t n = 0; n < 3; ++n) sheet.addDetail(QString(QLatin1Char("xyz"[n])), axisText(grid.axis(n)));
 }
 
 constexpr Named<Material::MaterialType> kinds[] = {
