@@ -4,18 +4,15 @@
 #include <QTextStream>
 
 #include "quarn/BoundaryConditions.h"
-#include "quarn/v6ProjectFile.h"
+#include "quarn/OwnedProject.h"
 
-/// A project that can be saved, to which benchmarks add what they measure. It owns that.
+/// A project that can be saved, to which benchmarks add what they measure.
 class SavedProject {
 public:
     SavedProject() {
         constexpr auto cpml = quarn::BoundaryConditions::CPML;
         m_project.setBoundaryConditions(new quarn::BoundaryConditions(cpml, cpml, cpml, cpml, cpml, cpml, 8));
     }
-    ~SavedProject() { quarn::deleteContents(m_project); }
-    SavedProject(const SavedProject&) = delete;
-    SavedProject& operator=(const SavedProject&) = delete;
 
     QByteArray save() {
         QByteArray bytes;
@@ -25,5 +22,5 @@ public:
     }
 
 protected:
-    quarn::v6ProjectFile m_project;
+    quarn::OwnedProject m_project;
 };

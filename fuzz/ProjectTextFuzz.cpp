@@ -8,18 +8,15 @@
 #include "MemoryBound.h"
 #include "TextStreams.h"
 #include "quarn/BoundaryConditions.h"
-#include "quarn/v6ProjectFile.h"
+#include "quarn/OwnedProject.h"
 
 namespace {
 
 using fuzz::require;
 
-class Project : public quarn::v6ProjectFile {
+class Project : public quarn::OwnedProject {
 public:
     explicit Project(QTextStream& input) { isLoaded = loadFromStream(input, errors); }
-    ~Project() { deleteContents(*this); }
-    Project(const Project&) = delete;
-    Project& operator=(const Project&) = delete;
 
     // Without boundary conditions a project cannot be saved. The modeling units of a file as it is written are not
     // read.

@@ -6,20 +6,11 @@
 #include <QTextStream>
 #include <string>
 
-#include "quarn/v6ProjectFile.h"
+#include "quarn/OwnedProject.h"
 
 inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
 
 namespace quarn::test {
-
-/// A project that owns what it points to, as somebody has to delete the contents of a loaded file.
-class OwningProject : public v6ProjectFile {
-public:
-    OwningProject() = default;
-    OwningProject(const OwningProject&) = delete;
-    OwningProject& operator=(const OwningProject&) = delete;
-    ~OwningProject() { deleteContents(*this); }
-};
 
 /// Names a parameterised test after its row.
 template <class Row>

@@ -44,6 +44,7 @@
 #include "quarn/NearZoneMultiFieldPoint.h"
 #include "quarn/NearZoneMultiFieldPointResult.h"
 #include "quarn/NearZonePoint.h"
+#include "quarn/OwnedProject.h"
 #include "quarn/PlaneWave.h"
 #include "quarn/PostProcessSSFarZoneFields.h"
 #include "quarn/ProgressReporter.h"

@@ -22,7 +22,7 @@ QString savedSections(v6ProjectFile& project) {
 
 void expectLoads(const QString& file, const QString& savedShortForm) {
     onBothStreams(file, [&](QTextStream& stream) {
-        OwningProject project;
+        OwnedProject project;
         QStringList errors;
         EXPECT_TRUE(project.loadFromStream(stream, errors));
         EXPECT_EQ(savedSections(project), expanded(savedShortForm));
@@ -186,7 +186,7 @@ void describePorts(v6ProjectFile& project) {
 
 TEST(CircuitSections, every_kind_and_line_type_is_written_and_read_back) {
     using B = BoundaryConditions;
-    OwningProject project;
+    OwnedProject project;
     project.setBoundaryConditions(new B(B::CPML, B::CPML, B::CPML, B::CPML, B::CPML, B::CPML, 8));
     describeComponents(project);
     describePorts(project);
@@ -200,7 +200,7 @@ TEST(CircuitSections, static_voltages_need_no_manager) {
     const QString section =
         "ComponentsPorts{ PortType 0; StaticVoltageInfo{ Residual 2; ConductorThreshold 1; MaximumIterations 3; } "
         "StaticVoltagePoint{ XLocation 4; YLocation 5; ZLocation 6; Voltage 7; } } ";
-    OwningProject project;
+    OwnedProject project;
     load(project, fileOf(""));
     StaticVoltageList noVoltages;
     project.setStaticVoltageList(&noVoltages);
@@ -216,7 +216,7 @@ TEST(CircuitSections, static_voltages_need_no_manager) {
 TEST(CircuitSections, cut_off_anywhere) {
     const QString text = fileOf(components + ports);
     for (int size = 0; size < text.size(); size += 3) {
-        OwningProject project;
+        OwnedProject project;
         load(project, text.left(size));
         const auto* manager = project.getComponentManager();
         EXPECT_LE(manager ? manager->getNumberOfComponents() : 0, 9U);
@@ -228,7 +228,7 @@ TEST(CircuitSections, later_blocks_replace_those_of_the_same_load_only) {
     ComponentManager ownManager({&own}, false, -1);
     WaveGuidePortManager ownPorts;
     StaticVoltageList ownVoltages;
-    OwningProject project;
+    OwnedProject project;
     project.setComponentManager(&ownManager);
     project.setWaveGuidePortManager(&ownPorts);
     project.setStaticVoltageList(&ownVoltages);
@@ -240,7 +240,7 @@ TEST(CircuitSections, later_blocks_replace_those_of_the_same_load_only) {
 }
 
 TEST(CircuitSections, cleared_components_and_ports_stay_alive) {
-    OwningProject project;
+    OwnedProject project;
     load(project, fileOf(components + ports));
     const auto listed = project.getComponentManager()->getComponents();
     const auto listedPorts = project.getWaveGuidePortManager()->getWaveguidePorts();
@@ -254,7 +254,7 @@ TEST(CircuitSections, cleared_components_and_ports_stay_alive) {
 }
 
 TEST(CircuitSections, port_lines_are_read_for_s_blocks) {
-    OwningProject project;
+    OwnedProject project;
     load(
         project,
         fileOf(
@@ -286,7 +286,7 @@ TEST(CircuitSections, the_last_active_record_is_the_active_port) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        OwningProject project;
+        OwnedProject project;
         load(project, fileOf("ComponentsPorts{ " + row.block + "} "));
         const auto& manager = *project.getComponentManager();
         EXPECT_EQ(manager.getActivePort(), row.activePort);
@@ -430,7 +430,7 @@ const Row waveGuideRows[] = {
 INSTANTIATE_TEST_SUITE_P(Rows, WaveGuideRecord, testing::ValuesIn(waveGuideRows), rowName<Row>);
 
 TEST(CircuitSections, waveguide_values_that_have_no_text) {
-    OwningProject project;
+    OwnedProject project;
     load(project, fileOf("WaveGuidePorts{ PortData{ } } "));
     auto* port = project.getWaveGuidePortManager()->getWaveGuidePort(0);
     port->setWaveGuidePortType(WaveGuidePort::WaveGuidePortType(7));

@@ -307,7 +307,7 @@ const QString noWaveforms = "error: No waveform has been specified.";
 const QString noTermination = "error: No termination criteria has been specified.";
 
 TEST(ProjectValidity, components_and_static_voltages_are_excitations) {
-    OwningProject project;
+    OwnedProject project;
     auto* voltages = new StaticVoltageList(0, 1, 1, {});
     project.setStaticVoltageList(voltages);
     EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noExcitation, noTermination})) << "no voltage is given";
@@ -329,7 +329,7 @@ TEST(ProjectValidity, components_and_static_voltages_are_excitations) {
 }
 
 TEST(ProjectValidity, copies_share_components_and_ports) {
-    OwningProject source;
+    OwnedProject source;
     source.setComponentManager(new Manager({new Feed(feedOf("f", 50, 0, 0))}, false, 0));
     source.setWaveGuidePortManager(new WaveGuidePortManager({new WaveGuidePort}));
     source.setStaticVoltageList(new StaticVoltageList(1, 2, 3, {{4, 5, 6, 7}}));

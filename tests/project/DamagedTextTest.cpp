@@ -19,7 +19,7 @@ using Rewrite = QByteArray (*)(const QByteArray& bytes);
 QByteArray rewrittenProject(const QByteArray& bytes) {
     QTextStream input(bytes);
     QStringList errors;
-    OwningProject project;
+    OwnedProject project;
     if (!project.loadFromStream(input, errors)) return {};
     if (!project.getBoundaryConditions()) {
         constexpr auto any = BoundaryConditions::PEC;

@@ -8,8 +8,8 @@ using B = BoundaryConditions;
 using Units = QPair<QString, double>;
 
 TEST(ProjectModel, defaults) {
-    EXPECT_EQ(OwningProject().getDisplayUnits(), Units("m", 1.0));
-    EXPECT_EQ(OwningProject().getModelingUnits(), Units("m", 1.0));
+    EXPECT_EQ(OwnedProject().getDisplayUnits(), Units("m", 1.0));
+    EXPECT_EQ(OwnedProject().getModelingUnits(), Units("m", 1.0));
     ProjectFile base;
     EXPECT_EQ(base.getDisplayUnits(), Units("", 0.0));
     EXPECT_EQ(base.getEngine(), Engine::FDTD);
@@ -30,7 +30,7 @@ void expectCopy(const T* a, const T* b) {
 
 template <class Wave>
 void expectDeepCopy(Wave* wave) {
-    OwningProject source;
+    OwnedProject source;
     describe(source);
     delete static_cast<TFSFPlaneWave*>(source.getPlaneWave());
     source.setPlaneWave(wave);
@@ -56,7 +56,7 @@ TEST(ProjectModel, copy_constructor_copies_objects_and_shares_waveforms) {
 }
 
 TEST(ProjectModel, assignment_shares_the_objects) {
-    OwningProject source;
+    OwnedProject source;
     describe(source);
     v6ProjectFile other;
     delete other.getDFTParameters();
@@ -79,7 +79,7 @@ TEST(ProjectModel, contents_are_deleted_once_and_forgotten) {
 
 // The address sanitizer sees what is left.
 TEST(ProjectModel, copies_and_their_loaded_contents_are_deleted) {
-    OwningProject source;
+    OwnedProject source;
     v6ProjectFile copy(source);
     load(copy, expanded("Version 8; FDTDProject{ RequestResults{ DFTParameters{ NormalizeFields; } } }"));
     EXPECT_NE(*copy.getDFTParameters(), *source.getDFTParameters());
@@ -101,7 +101,7 @@ TEST(ProjectModel, waves_that_were_sliced_are_plain) {
 
 TEST(ProjectModel, load_replaces_objects_of_the_caller_without_deleting_them) {
     B boundaries(B::PEC, B::PEC, B::PEC, B::PEC, B::PEC, B::PEC, 1);
-    OwningProject project;
+    OwnedProject project;
     project.setBoundaryConditions(&boundaries);
     load(project, expanded("Version 8; FDTDProject{ RunParameters{ OuterBoundaries{ } OuterBoundaries{ } } }"));
     EXPECT_NE(project.getBoundaryConditions(), &boundaries);

@@ -15,7 +15,7 @@ using A = AmbientConditions;
 
 void expectLoads(const QString& text, const QString& savedText) {
     onBothStreams(text, [&](QTextStream& stream) {
-        OwningProject project;
+        OwnedProject project;
         QStringList errors;
         EXPECT_TRUE(project.loadFromStream(stream, errors));
         EXPECT_EQ(saved(project), savedText);
@@ -23,7 +23,7 @@ void expectLoads(const QString& text, const QString& savedText) {
 }
 
 TEST(ProjectText, every_section_is_written_in_order_and_read_back) {
-    OwningProject project;
+    OwnedProject project;
     describe(project);
     EXPECT_EQ(saved(project), golden);
     for (const QString& text : {golden, QString(golden).replace("\n", "\r\n"), golden.chopped(1)}) {
@@ -191,7 +191,7 @@ TEST(ProjectText, first_line_decides_on_the_version) {
         SCOPED_TRACE(row.line);
         QString text = QString(golden).replace("Version 8", row.line);
         QTextStream stream(&text, QIODevice::ReadOnly);
-        OwningProject project;
+        OwnedProject project;
         QStringList errors;
         const bool supported = project.loadFromStream(stream, errors);
         EXPECT_EQ(supported, row.major <= 8);
@@ -211,7 +211,7 @@ TEST(ProjectText, first_line_decides_on_the_version) {
 TEST(ProjectText, outer_block_names_the_engine_and_is_the_only_one_read) {
     const QString inches = "Display{ Name inch; Conversion 0.025399999999999999; } Modeling{ ";
     const QString fem = fileOf("", "", inches + "Name mm; Conversion 0.001; } ", "FEMProject");
-    OwningProject project;
+    OwnedProject project;
     project.setModelingUnits({"mm", 0.001});
     load(project, fem);
     EXPECT_EQ(project.getEngine(), Engine::FEM);
@@ -222,14 +222,14 @@ TEST(ProjectText, outer_block_names_the_engine_and_is_the_only_one_read) {
     const QString foo = expanded("Version 8; Foo{ RunParameters{ OuterBoundaries{ } } }");
     const QString closed = expanded("Version 8; FDTDProject{ }"), lower = QString(golden).replace("FDTDP", "fdtdP");
     for (const QString& text : {QString(), "Version 8\nfoo\n" + golden, lower, foo + golden, closed + golden.mid(10)}) {
-        OwningProject other;
+        OwnedProject other;
         load(other, text);
         EXPECT_EQ(other.getBoundaryConditions(), nullptr) << text.left(40).toStdString();
     }
 }
 
 TEST(ProjectText, load_resets_some_settings_and_keeps_or_extends_others) {
-    OwningProject project;
+    OwnedProject project;
     project.setUseUsersCFL(true);
     project.setUseExplicitlySuppliedTimestep(true);
     project.setSaveFieldsOnFarZoneBoxForPostProcessing(false);
@@ -252,7 +252,7 @@ TEST(ProjectText, load_resets_some_settings_and_keeps_or_extends_others) {
 }
 
 TEST(ProjectText, members_that_a_save_does_not_show) {
-    OwningProject project, other;
+    OwnedProject project, other;
     const QString minimum = "ConvergenceRequireMinimumNumberOfTimeSteps; ConvergenceMinimumNumberOfTimeSteps 500; ";
     load(project,
          fileOf("UseTimestep 2; UseUsersCFL 0.5; AmbientConditions{ } Convergence{ " + minimum + "} ", "", ""));
@@ -270,7 +270,7 @@ TEST(ProjectText, damaged_first_line_hides_nothing_behind_it) {
     QTextStream stream(damagedAtFirst);
     stream.setCodec("UTF-8");
     QStringList errors;
-    OwningProject project;
+    OwnedProject project;
     EXPECT_TRUE(project.loadFromStream(stream, errors));
     EXPECT_EQ(project.getDisplayUnits().first, "km");
 }
@@ -278,7 +278,7 @@ TEST(ProjectText, damaged_first_line_hides_nothing_behind_it) {
 TEST(ProjectText, stream_in_error_is_reset_and_not_read) {
     onBothStreams("Version 8\n" + expanded("FDTDProject{ Units{ Display{ Name km; } } } "), [](QTextStream& stream) {
         stream.setStatus(QTextStream::ReadPastEnd);
-        OwningProject project;
+        OwnedProject project;
         QStringList errors;
         EXPECT_TRUE(project.loadFromStream(stream, errors));
         EXPECT_EQ(project.getDisplayUnits().first, "m");
@@ -287,7 +287,7 @@ TEST(ProjectText, stream_in_error_is_reset_and_not_read) {
 }
 
 TEST(ProjectText, null_waveforms_are_passed_over) {
-    OwningProject project;
+    OwnedProject project;
     const auto pec = BoundaryConditions::PEC;
     project.setBoundaryConditions(new BoundaryConditions(pec, pec, pec, pec, pec, pec, 0));
     project.getWaveforms() = {nullptr, new Waveform(Waveform::Step, 64, 0, {}, {})};
@@ -297,7 +297,7 @@ TEST(ProjectText, null_waveforms_are_passed_over) {
 }
 
 TEST(ProjectText, deeply_nested_and_repeated_blocks) {
-    OwningProject nested, repeated;
+    OwnedProject nested, repeated;
     load(nested, fileOf(QString("foo{ ").repeated(100000) + QString("} ").repeated(100000) + cfl, "", ""));
     EXPECT_TRUE(nested.getUseUsersCFL());
     const int run = golden.indexOf("begin_<OuterB"), dft = golden.indexOf("begin_<DFT");
@@ -308,7 +308,7 @@ TEST(ProjectText, deeply_nested_and_repeated_blocks) {
 }
 
 TEST(ProjectText, save_that_fails) {
-    OwningProject project;
+    OwnedProject project;
     QTemporaryDir directory;
     QFile file(directory.filePath("project"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -346,7 +346,7 @@ void expectSavesAndLoadsFiles() {
     QFile file(directory.filePath("project.fdtd")), result(file.fileName());
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     QTextStream stream(&file);
-    OwningProject project;
+    OwnedProject project;
     describe(project);
     EXPECT_EQ(saved(project), golden);
     EXPECT_FALSE(project.save(file.fileName(), stream, file)) << "always";
@@ -354,7 +354,7 @@ void expectSavesAndLoadsFiles() {
     const QByteArray bytes = result.readAll();
     EXPECT_EQ(bytes, golden.toUtf8());
     for (const QByteArray& text : {bytes, QByteArray(bytes).replace("\n", "\r\n")}) {
-        OwningProject loaded;
+        OwnedProject loaded;
         EXPECT_EQ(loadFromFile(loaded, text, file.fileName(), file.fileName(), true), QStringList());
         EXPECT_EQ(saved(loaded), golden);
     }
@@ -378,7 +378,7 @@ TEST(ProjectFiles, saved_and_loaded_in_any_locale) {
 TEST(ProjectFiles, refused_when_the_version_is_unsupported_or_the_file_is_gone) {
     QTemporaryDir directory;
     const QString path = directory.filePath("Prüfung Ω.fdtd");
-    OwningProject project;
+    OwnedProject project;
     EXPECT_EQ(loadFromFile(project, golden.toUtf8(), path, path, true), QStringList()) << "a name beyond ASCII";
     deleteContents(project);
     EXPECT_EQ(loadFromFile(project, golden.toUtf8(), path, path + ".gone", false), QStringList());

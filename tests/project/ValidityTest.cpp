@@ -112,7 +112,7 @@ TEST(Validity, td_afs_criteria_are_checked_for_s_parameters_and_fdtd) {
 }
 
 TEST(Validity, project_checks_its_parts_in_order) {
-    OwningProject project;
+    OwnedProject project;
     EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noExcitation, noTermination}));
     project.setTdAfsTerminationCriteria(new TdAfsTerminationCriteria);
     EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noExcitation}));
