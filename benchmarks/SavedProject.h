@@ -4,7 +4,7 @@
 #include <QTextStream>
 
 #include "quarn/BoundaryConditions.h"
-#include "quarn/v6ProjectFile.h"
+#include "quarn/OwnedProject.h"
 
 /// A project that can be saved. Benchmarks add the objects that they measure; the project owns them.
 class SavedProject {
@@ -13,9 +13,6 @@ public:
         constexpr auto cpml = quarn::BoundaryConditions::CPML;
         m_project.setBoundaryConditions(new quarn::BoundaryConditions(cpml, cpml, cpml, cpml, cpml, cpml, 8));
     }
-    ~SavedProject() { quarn::deleteContents(m_project); }
-    SavedProject(const SavedProject&) = delete;
-    SavedProject& operator=(const SavedProject&) = delete;
 
     QByteArray save() {
         QByteArray bytes;
@@ -25,5 +22,5 @@ public:
     }
 
 protected:
-    quarn::v6ProjectFile m_project;
+    quarn::OwnedProject m_project;
 };

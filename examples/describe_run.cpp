@@ -9,7 +9,7 @@ int main(int argc, char** argv) {
     using namespace quarn;
     if (argc != 2) return 2;
 
-    v6ProjectFile project;
+    OwnedProject project;
     project.setDisplayUnits({"mm", 1e-3});
     const auto cpml = BoundaryConditions::CPML;
     project.setBoundaryConditions(new BoundaryConditions(cpml, cpml, cpml, cpml, cpml, cpml, 8));
@@ -27,6 +27,5 @@ int main(int argc, char** argv) {
         QTextStream stream(&file);
         failed = project.saveToStream(stream);  // true when the stream is in error
     }
-    deleteContents(project);
     return failed ? 1 : 0;
 }

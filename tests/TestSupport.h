@@ -7,20 +7,11 @@
 #include <stdexcept>
 #include <string>
 
-#include "quarn/v6ProjectFile.h"
+#include "quarn/OwnedProject.h"
 
 inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
 
 namespace quarn::test {
-
-/// A project that owns the objects it points to.
-class OwningProject : public v6ProjectFile {
-public:
-    OwningProject() = default;
-    OwningProject(const OwningProject&) = delete;
-    OwningProject& operator=(const OwningProject&) = delete;
-    ~OwningProject() { deleteContents(*this); }
-};
 
 /// Names a parameterised test after its row.
 template <class Row>
@@ -65,7 +56,7 @@ inline QString saved(v6ProjectFile& project) {
 }
 
 /// Loads a project from both kinds of stream and compares the text that `textOf` returns for it.
-template <class Project = OwningProject, class TextOf>
+template <class Project = OwnedProject, class TextOf>
 void expectLoads(const QString& file, const QString& expected, TextOf textOf) {
     onBothStreams(file, [&](QTextStream& stream) {
         Project project;

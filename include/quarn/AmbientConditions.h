@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "quarn/BoundingBoxSide.h"
+#include "quarn/Description.h"
 #include "quarn/Export.h"
 
 namespace quarn {
@@ -36,9 +38,11 @@ public:
     friend bool operator!=(const AmbientConditions& a, const AmbientConditions& b) { return !(a == b); }
 
 private:
-    SpecificationType m_types[6] = {};
+    friend struct blocktext::Description<AmbientConditions>;
+
+    std::array<SpecificationType, 6> m_types{};
     float m_backgroundTemperature;
-    float m_coefficients[6] = {};
+    std::array<float, 6> m_coefficients{};
 };
 
 }  // namespace quarn

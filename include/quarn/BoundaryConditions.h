@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QStringList>
+#include <array>
 #include <cstdint>
 
 #include "quarn/BoundingBoxSide.h"
+#include "quarn/Description.h"
 #include "quarn/Engine.h"
 #include "quarn/Export.h"
 
@@ -45,10 +47,10 @@ public:
 
     /// The grading of the absorbing layers, which is fixed and not part of the project file: the polynomial orders of
     /// the conductivity profile and of the alpha profile, and the largest kappa and alpha.
-    float getPML_M() const { return m_pmlM; }
-    float getPMLKappaMax() const { return m_pmlKappaMax; }
-    float getPMLAlphaMax() const { return m_pmlAlphaMax; }
-    float getPML_Ma() const { return m_pmlMa; }
+    float getPML_M() const { return 4.0F; }
+    float getPMLKappaMax() const { return 1.0F; }
+    float getPMLAlphaMax() const { return 0.0F; }
+    float getPML_Ma() const { return 2.0F; }
 
     bool useScanAngle() const { return m_useScanAngle; }
     float getPhi() const { return m_phi; }
@@ -61,11 +63,11 @@ public:
     /// Updates the following six answers from the types of the sides. Symmetry planes count in none of them.
     void cacheVariables();
     int getNumberOfPECBoundaries() const { return m_numberOfPECBoundaries; }
-    bool hasLiaoBoundary() const { return m_hasLiao; }
-    bool hasCPMLBoundary() const { return m_hasCPML; }
-    bool hasPECBoundary() const { return m_hasPEC; }
-    bool hasPMCBoundary() const { return m_hasPMC; }
-    bool hasPeriodicBoundary() const { return m_hasPeriodic; }
+    bool hasLiaoBoundary() const { return hasCached(Liao); }
+    bool hasCPMLBoundary() const { return hasCached(CPML); }
+    bool hasPECBoundary() const { return hasCached(PEC); }
+    bool hasPMCBoundary() const { return hasCached(PMC); }
+    bool hasPeriodicBoundary() const { return hasCached(Periodic); }
 
     /// Appends findings about the absorbing layers; there are none for the FDTD engine.
     void checkValidity(QStringList& errors, QStringList& warnings, Engine engine) const;
@@ -74,24 +76,19 @@ public:
     friend bool operator!=(const BoundaryConditions& a, const BoundaryConditions& b) { return !(a == b); }
 
 private:
-    bool hasSideOfType(BoundaryType type) const;
+    friend struct blocktext::Description<BoundaryConditions>;
 
-    BoundaryType m_types[6];
+    bool hasCached(BoundaryType type) const { return (m_cachedTypes >> type & 1U) != 0; }
+
+    std::array<BoundaryType, 6> m_types;
     std::int32_t m_numberOfPMLLayers;
-    float m_pmlM = 4.0F;
-    float m_pmlKappaMax = 1.0F;
-    float m_pmlAlphaMax = 0.0F;
-    float m_pmlMa = 2.0F;
     bool m_useScanAngle = false;
     float m_phi = 0.0F;
     float m_theta = 0.0F;
     float m_frequency = 0.0F;
+    bool m_takesWaveformFrequency = false;  // what a file asks for while it is read
     std::int32_t m_numberOfPECBoundaries = 0;
-    bool m_hasLiao = false;
-    bool m_hasCPML = false;
-    bool m_hasPEC = false;
-    bool m_hasPMC = false;
-    bool m_hasPeriodic = false;
+    std::uint32_t m_cachedTypes = 0;  // a bit for each type that a side has, symmetry planes left out
 };
 
 }  // namespace quarn

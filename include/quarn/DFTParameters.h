@@ -2,6 +2,9 @@
 
 #include <cstdint>
 
+#include "quarn/Description.h"
+#include "quarn/Export.h"
+
 namespace quarn {
 
 /// How fields are sampled for the discrete Fourier transform of steady-state results.
@@ -14,12 +17,12 @@ public:
     bool normalizeFields() const { return m_normalizeFields; }
     std::uint32_t getSamplingInterval() const { return m_samplingInterval; }
 
-    friend bool operator==(const DFTParameters& a, const DFTParameters& b) {
-        return a.m_normalizeFields == b.m_normalizeFields && a.m_samplingInterval == b.m_samplingInterval;
-    }
+    QUARN_EXPORT friend bool operator==(const DFTParameters& a, const DFTParameters& b);
     friend bool operator!=(const DFTParameters& a, const DFTParameters& b) { return !(a == b); }
 
 private:
+    friend struct blocktext::Description<DFTParameters>;
+
     bool m_normalizeFields;
     std::uint32_t m_samplingInterval;
 };

@@ -3,6 +3,7 @@
 #include <QString>
 #include <cstdint>
 
+#include "quarn/Description.h"
 #include "quarn/Export.h"
 
 namespace quarn {
@@ -21,9 +22,9 @@ public:
     /// The angles of incidence are in degrees, the amplitude in V/m.
     PlaneWave(float theta, float phi, float amplitude, Polarization polarization, const QString& outputFileName);
     PlaneWave(const PlaneWave& other);
-    PlaneWave& operator=(const PlaneWave& other);
+    PlaneWave& operator=(const PlaneWave& other) = default;
 
-    int getType() const { return m_type; }
+    int getType() const { return m_type.value; }
     float getTheta() const { return m_theta; }
     float getPhi() const { return m_phi; }
     float getAmplitude() const { return m_amplitude; }
@@ -40,11 +41,22 @@ protected:
     PlaneWave(Type type, const PlaneWave& other);
 
 private:
-    std::int32_t m_type;
-    float m_theta;
-    float m_phi;
-    float m_amplitude;
-    Polarization m_polarization;
+    friend struct blocktext::Description<PlaneWave>;
+
+    /// Assignment leaves it, since an object never changes its class.
+    struct FixedType {
+        std::int32_t value;
+
+        explicit FixedType(Type type) : value(type) {}
+        FixedType(const FixedType&) = default;
+        FixedType& operator=(const FixedType&) { return *this; }
+    };
+
+    FixedType m_type;
+    float m_theta = 0.0F;
+    float m_phi = 0.0F;
+    float m_amplitude = 0.0F;
+    Polarization m_polarization = Phi;
     QString m_outputFileName;
 };
 
@@ -67,6 +79,8 @@ public:
     friend bool operator!=(const TFSFPlaneWave& a, const TFSFPlaneWave& b) { return !(a == b); }
 
 private:
+    friend struct blocktext::Description<PlaneWave>;
+
     bool m_xLower = false;
     bool m_yLower = false;
     bool m_zLower = false;
@@ -95,6 +109,8 @@ public:
     friend bool operator!=(const GaussianBeam& a, const GaussianBeam& b) { return !(a == b); }
 
 private:
+    friend struct blocktext::Description<PlaneWave>;
+
     float m_xFocus = 0.0F;
     float m_yFocus = 0.0F;
     float m_zFocus = 0.0F;

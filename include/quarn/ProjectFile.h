@@ -168,7 +168,7 @@ protected:
     float m_explicitlySuppliedTimestep = 0.0F;
     bool m_useUsersCFL = false;
     float m_cfl = 1.0F;
-    DFTParameters* m_dftParameters;
+    DFTParameters* m_dftParameters = nullptr;
     std::vector<SteadyStateFrequency> m_steadyStateFrequencies;
     SteadyStateStorageMethod m_steadyStateStorageMethod = Memory;
     bool m_saveFieldsOnFarZoneBox = true;
@@ -194,11 +194,20 @@ protected:
     std::vector<SARPlane*> m_sarPlaneRequests;
 
 private:
+    friend struct ProjectContents;
+
     bool hasActivePort() const;
 
     // What a constructor allocated, until setDFTParameters() replaces it or deleteContents() deletes it: a load may put
-    // other parameters in its place.
-    DFTParameters* m_ownDFTParameters = nullptr;
+    // other parameters in its place. Assignment leaves it, since the object that allocated it goes on to know it.
+    struct OwnParameters {
+        DFTParameters* pointer = nullptr;
+
+        OwnParameters() = default;
+        OwnParameters(const OwnParameters&) {}
+        OwnParameters& operator=(const OwnParameters&) { return *this; }
+    };
+    OwnParameters m_ownDFTParameters;
 };
 
 /// Deletes everything that the project points to, components and ports included, each object once, and leaves the

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "quarn/Description.h"
 #include "quarn/Engine.h"
 #include "quarn/Export.h"
 
@@ -35,6 +36,8 @@ public:
     friend bool operator!=(const TdAfsTerminationCriteria& a, const TdAfsTerminationCriteria& b) { return !(a == b); }
 
 private:
+    friend struct blocktext::Description<TdAfsTerminationCriteria>;
+
     ConvergenceType m_convergenceType = Energy;
     InterpolationType m_interpolationType = Interpolation;
     float m_startFrequency = 1e9F;

@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <cstdint>
 
+#include "quarn/Description.h"
 #include "quarn/Engine.h"
 #include "quarn/Export.h"
 
@@ -28,7 +29,7 @@ public:
     std::uint32_t getMaximumWallClockSeconds() const { return m_maximumWallClockSeconds; }
     bool convergenceEnabled() const { return m_convergenceEnabled; }
     bool flatLineDetectionEnabled() const { return m_flatLineDetectionEnabled; }
-    bool wallClockEnabled() const { return m_wallClockEnabled; }
+    bool wallClockEnabled() const { return m_maximumWallClockSeconds != 0; }
     float getThreshhold() const { return m_threshold; }
     int getTimestepSamplingInterval() const { return m_timestepSamplingInterval; }
     int getWindowSize() const { return m_windowSize; }
@@ -41,12 +42,13 @@ public:
     friend bool operator!=(const TerminationCriteria& a, const TerminationCriteria& b) { return !(a == b); }
 
 private:
+    friend struct blocktext::Description<TerminationCriteria>;
+
     std::uint32_t m_minimumTimesteps;
     std::uint32_t m_maximumTimesteps;
     std::uint32_t m_maximumWallClockSeconds;
     bool m_convergenceEnabled = false;
     bool m_flatLineDetectionEnabled = true;
-    bool m_wallClockEnabled;
     float m_threshold = -40.0F;
     std::int32_t m_timestepSamplingInterval = 5;
     std::int32_t m_windowSize = 5;

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "quarn/Description.h"
 #include "quarn/Engine.h"
 #include "quarn/Export.h"
 
@@ -54,6 +55,8 @@ public:
     friend bool operator!=(const Waveform& a, const Waveform& b) { return !(a == b); }
 
 private:
+    friend struct blocktext::Description<Waveform>;
+
     WaveformShape m_shape;
     float m_pulseWidth;
     float m_frequency;

@@ -45,6 +45,7 @@
 #include "quarn/NearZoneMultiFieldPoint.h"
 #include "quarn/NearZoneMultiFieldPointResult.h"
 #include "quarn/NearZonePoint.h"
+#include "quarn/OwnedProject.h"
 #include "quarn/PhysicalConstants.h"
 #include "quarn/PlaneWave.h"
 #include "quarn/PostProcessSSFarZoneFields.h"

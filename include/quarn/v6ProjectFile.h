@@ -15,17 +15,15 @@ class QTextStream;
 
 namespace quarn {
 
-class DelimManager;
-
 /// A project that can be written as the engine's project text file and read back.
 ///
 /// Saving: the whole text is made before the first byte is written, and a project without boundary conditions is
 /// refused with a std::runtime_error then, with nothing written.
 ///
-/// Loading: fills this object's members with new objects, which the caller owns from then on (see deleteContents());
-/// objects that were there before are replaced and not deleted, waveforms, steady-state frequencies and requests are
-/// added to those that are there. Unknown blocks and keys are skipped. A value that a damaged file lacks keeps its
-/// former value or takes its default; only an unsupported version is refused.
+/// Loading: fills this object's members with new objects, which the caller owns from then on: OwnedProject deletes
+/// them, and so does deleteContents(). Objects that were there before are replaced and not deleted; waveforms,
+/// steady-state frequencies and requests are added to those that are there. Unknown blocks and keys are skipped. A value
+/// that a damaged file lacks keeps its former value or takes its default; only an unsupported version is refused.
 class QUARN_EXPORT v6ProjectFile : public ProjectFile {
 public:
     v6ProjectFile();
@@ -72,40 +70,10 @@ public:
     static QString OuterBoundaryTypeToDescriptor(BoundaryConditions::BoundaryType type);
 
 private:
+    friend struct ProjectContents;
+
     bool acceptsVersionOf(QTextStream& stream, QStringList& errors);
     void loadBlocks(QTextStream& stream, const QString& path);
-    QString textOfBlocks();
-
-    bool StreamIn(DelimManager& delim);
-    bool StreamOut(const QString& path, const QString& text);
-    bool StreamInUnits(DelimManager& delim);
-    bool StreamOutUnits(DelimManager& delim);
-    bool StreamInRunParameters(DelimManager& delim);
-    bool StreamOutRunParameters(DelimManager& delim);
-    bool StreamInRequestResults(DelimManager& delim);
-    bool StreamOutRequestResults(DelimManager& delim);
-
-    bool StreamInBoundaryConditions(DelimManager& delim);
-    bool StreamOutBoundaryConditions(DelimManager& delim);
-    bool StreamInAmbientConditions(DelimManager& delim);
-    bool StreamOutAmbientConditions(DelimManager& delim);
-    bool StreamInComponentsPorts(DelimManager& delim);
-    bool StreamOutComponentsPorts(DelimManager& delim);
-    bool StreamInWaveGuidePorts(DelimManager& delim);
-    bool StreamOutWaveGuidePorts(DelimManager& delim);
-    bool StreamInTerminationCriteria(DelimManager& delim);
-    bool StreamOutTerminationCriteria(DelimManager& delim);
-    bool StreamInV6Convergence(DelimManager& delim);
-    bool StreamInSourceType(DelimManager& delim);
-    bool StreamOutSourceType(DelimManager& delim);
-    bool StreamInWaveform(DelimManager& delim);
-    bool StreamOutWaveform(DelimManager& delim);
-    bool StreamInDFTParameters(DelimManager& delim);
-    bool StreamOutDFTParameters(DelimManager& delim);
-    bool StreamInSteadyStateFrequencies(DelimManager& delim);
-
-    template <class Member, class Object>
-    void install(Member*& member, Object object);
 
     QString m_geometryName;
     std::uint32_t m_majorFileVersion = 0;

@@ -212,6 +212,11 @@ constexpr auto choice(Key key, Access access, Value value) {
     return lineOf(ChoiceLine<Access, Value>(key, access, value))
         .where([access, value](const auto& object) { return valueIn(object, access) == value; }, "where chosen");
 }
+/// A key alone, one of a table of values and keys.
+template <class Access, class Value, std::size_t count>
+constexpr auto oneKeyOf(const NameTable<Value, count>& keys, Access access) {
+    return lineOf(ChoiceOfKeys<Access, Value, count>(access, keys));
+}
 /// A line for each entry of a list.
 template <class Access, class Form = OneValue>
 constexpr auto entries(Key key, Access access, Form form = {}) {
@@ -230,6 +235,11 @@ constexpr auto dropped(Key key, int words) { return lineOf(DroppedLine(key, word
 template <class Access>
 constexpr auto unwritten(Access access) {
     return lineOf(UnwrittenMember<Access>(access));
+}
+/// An inner block for some of the members.
+template <class Content>
+constexpr auto group(Content content) {
+    return lineOf(GroupOfLines<Content>(content));
 }
 /// An inner block for a member, with a label on its open line where others have the same name.
 template <class Access, class Content>
@@ -286,6 +296,12 @@ struct Block {
         return findsBlocks ? walkContent<true>(delim, unknown, content) : walkContent<false>(delim, unknown, content);
     }
 
+    /// Offers a word to the lines, for readers that walk the block by hand.
+    Offer offerWord(QStringView word, QTextStream& in, Object& object) const {
+        const auto offer = [&](const auto& line) { return line.readWord(word, in, object, unreadable); };
+        return std::apply([&](const auto&... each) { return detail::offerToEach(offer, each...); }, lines);
+    }
+
     /// Compares the members that count for equality.
     bool areEqual(const Object& a, const Object& b) const {
         return std::apply([&](const auto&... line) { return (line.areEqual(a, b) && ...); }, lines);
@@ -293,8 +309,14 @@ struct Block {
 
     /// Adds the block to the reference of the format. The values of `blank` are the defaults.
     void describeTo(FormatBuilder& builder, const Object& blank) const {
+        describeTo(builder, blank, [] {});
+    }
+    /// `addMore` adds what is read and written by hand behind the lines.
+    template <class AddMore>
+    void describeTo(FormatBuilder& builder, const Object& blank, AddMore addMore) const {
         builder.begin(name);
         std::apply([&](const auto&... line) { (line.describeTo(builder, blank, lines), ...); }, lines);
+        addMore();
         builder.end();
     }
 
@@ -308,23 +330,15 @@ private:
 
         Offer block(const QString& found, const QString& value) {
             const auto offer = [&](const auto& line) { return line.readBlock(found, value, delim, object); };
-            const Offer answer = offerToLines(offer);
+            const auto offerToLines = [&](const auto&... each) { return detail::offerToEach(offer, each...); };
+            const Offer answer = std::apply(offerToLines, description.lines);
             return answer == Offer::Unknown ? handlers.block(found, value) : answer;
         }
         Offer word(QStringView word, QTextStream& in) {
-            const auto offer = [&](const auto& line) {
-                return line.readWord(word, in, object, description.unreadable);
-            };
-            const Offer answer = offerToLines(offer);
+            const Offer answer = description.offerWord(word, in, object);
             return answer == Offer::Unknown ? handlers.word(word, in) : answer;
         }
         Offer line(QTextStream& in) { return handlers.line(in); }
-
-        template <class Offered>
-        Offer offerToLines(Offered offer) {
-            return std::apply([&](const auto&... each) { return detail::offerToEach(offer, each...); },
-                              description.lines);
-        }
     };
 };
 

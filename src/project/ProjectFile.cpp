@@ -1,6 +1,6 @@
 #include "quarn/ProjectFile.h"
 
-#include "project/Contents.h"
+#include "project/ProjectContents.h"
 #include "quarn/AmbientConditions.h"
 #include "quarn/BoundaryConditions.h"
 #include "quarn/ComponentManager.h"
@@ -26,83 +26,56 @@ template <class T>
 T* copyOf(const T* object) {
     return object ? new T(*object) : nullptr;
 }
-
-PlaneWave* copyOfPlaneWave(PlaneWave* wave) {
-    return wave ? withItsClass(wave, [](auto* object) -> PlaneWave* { return copyOf(object); }) : nullptr;
+PlaneWave* copyOf(PlaneWave* wave) {
+    return wave ? withItsClass(wave, [](auto* object) -> PlaneWave* { return copyOf(std::as_const(object)); })
+                : nullptr;
 }
 
-template <class T>
-void deleteAndClear(T*& object) {
-    destroy(object);
-    object = nullptr;
-}
+/// Gives a project objects of its own; what lists point to stays shared.
+struct Copy {
+    template <class T>
+    void operator()(T*& object) const {
+        object = copyOf(object);
+    }
+    template <class T>
+    void operator()(std::vector<T>&) const {}
+};
 
-template <class T>
-void deleteAndClear(std::vector<T*>& objects) {
-    destroyEach(objects);
-    objects.clear();
-}
+struct DeleteAndClear {
+    template <class T>
+    void operator()(T*& object) const {
+        destroy(object);
+        object = nullptr;
+    }
+    template <class T>
+    void operator()(std::vector<T*>& objects) const {
+        destroyEach(objects);
+        objects.clear();
+    }
+    template <class T>
+    void operator()(std::vector<T>& values) const {
+        values.clear();
+    }
+};
 
 }  // namespace
 
-ProjectFile::ProjectFile() : m_dftParameters(new DFTParameters(false, 1)), m_ownDFTParameters(m_dftParameters) {}
+ProjectFile::ProjectFile() : m_dftParameters(new DFTParameters(false, 1)) {
+    m_ownDFTParameters.pointer = m_dftParameters;
+}
 
 ProjectFile::ProjectFile(const ProjectFile& other) {
     *this = other;
-    m_dftParameters = copyOf(other.m_dftParameters);
-    m_ownDFTParameters = m_dftParameters;
-    m_terminationCriteria = copyOf(other.m_terminationCriteria);
-    m_tdAfsTerminationCriteria = copyOf(other.m_tdAfsTerminationCriteria);
-    m_boundaryConditions = copyOf(other.m_boundaryConditions);
-    m_ambientConditions = copyOf(other.m_ambientConditions);
-    m_staticVoltageList = copyOf(other.m_staticVoltageList);
-    m_componentManager = copyOf(other.m_componentManager);
-    m_waveGuidePortManager = copyOf(other.m_waveGuidePortManager);
-    m_planeWave = copyOfPlaneWave(other.m_planeWave);
-    m_sarAveragingRequest = copyOf(other.m_sarAveragingRequest);
-    m_temperatureRiseRequest = copyOf(other.m_temperatureRiseRequest);
+    ProjectContents::forEach(*this, Copy());
+    m_ownDFTParameters.pointer = m_dftParameters;
 }
 
-ProjectFile& ProjectFile::operator=(const ProjectFile& other) {
-    m_displayUnits = other.m_displayUnits;
-    m_modelingUnits = other.m_modelingUnits;
-    m_engine = other.m_engine;
-    m_pathToGeometryFile = other.m_pathToGeometryFile;
-    m_useExplicitlySuppliedTimestep = other.m_useExplicitlySuppliedTimestep;
-    m_explicitlySuppliedTimestep = other.m_explicitlySuppliedTimestep;
-    m_useUsersCFL = other.m_useUsersCFL;
-    m_cfl = other.m_cfl;
-    m_dftParameters = other.m_dftParameters;
-    m_steadyStateFrequencies = other.m_steadyStateFrequencies;
-    m_steadyStateStorageMethod = other.m_steadyStateStorageMethod;
-    m_saveFieldsOnFarZoneBox = other.m_saveFieldsOnFarZoneBox;
-    m_computeSystemDissipatedPower = other.m_computeSystemDissipatedPower;
-    m_areaSourceFile = other.m_areaSourceFile;
-    m_terminationCriteria = other.m_terminationCriteria;
-    m_tdAfsTerminationCriteria = other.m_tdAfsTerminationCriteria;
-    m_boundaryConditions = other.m_boundaryConditions;
-    m_ambientConditions = other.m_ambientConditions;
-    m_staticVoltageList = other.m_staticVoltageList;
-    m_componentManager = other.m_componentManager;
-    m_waveGuidePortManager = other.m_waveGuidePortManager;
-    m_planeWave = other.m_planeWave;
-    m_waveforms = other.m_waveforms;
-    m_steadyStateFarZoneRequests = other.m_steadyStateFarZoneRequests;
-    m_transientFarZoneRequests = other.m_transientFarZoneRequests;
-    m_nearZoneIndexedPoints = other.m_nearZoneIndexedPoints;
-    m_nearZoneInterpolatedPoints = other.m_nearZoneInterpolatedPoints;
-    m_multiPointFieldRequests = other.m_multiPointFieldRequests;
-    m_sarAveragingRequest = other.m_sarAveragingRequest;
-    m_temperatureRiseRequest = other.m_temperatureRiseRequest;
-    m_hacRequests = other.m_hacRequests;
-    m_sarPlaneRequests = other.m_sarPlaneRequests;
-    return *this;
-}
+ProjectFile& ProjectFile::operator=(const ProjectFile& other) = default;
 
 ProjectFile::~ProjectFile() = default;
 
 void ProjectFile::setDFTParameters(DFTParameters* parameters) {
-    if (m_dftParameters == m_ownDFTParameters) m_ownDFTParameters = nullptr;
+    if (m_dftParameters == m_ownDFTParameters.pointer) m_ownDFTParameters.pointer = nullptr;
     m_dftParameters = parameters;
 }
 
@@ -151,28 +124,10 @@ void ProjectFile::checkValidity(QStringList& errors, QStringList& warnings) cons
 }
 
 void deleteContents(ProjectFile& project) {
-    if (project.m_ownDFTParameters != project.m_dftParameters) delete project.m_ownDFTParameters;
-    project.m_ownDFTParameters = nullptr;
-    deleteAndClear(project.m_dftParameters);
-    deleteAndClear(project.m_terminationCriteria);
-    deleteAndClear(project.m_tdAfsTerminationCriteria);
-    deleteAndClear(project.m_boundaryConditions);
-    deleteAndClear(project.m_ambientConditions);
-    deleteAndClear(project.m_staticVoltageList);
-    deleteAndClear(project.m_componentManager);
-    deleteAndClear(project.m_waveGuidePortManager);
-    deleteAndClear(project.m_planeWave);
-    deleteAndClear(project.m_waveforms);
-    deleteAndClear(project.m_sarAveragingRequest);
-    deleteAndClear(project.m_temperatureRiseRequest);
-    deleteAndClear(project.m_hacRequests);
-    deleteAndClear(project.m_sarPlaneRequests);
-    project.m_steadyStateFarZoneRequests.clear();
-    project.m_transientFarZoneRequests.clear();
-    project.m_nearZoneIndexedPoints.clear();
-    project.m_nearZoneInterpolatedPoints.clear();
-    project.m_multiPointFieldRequests.clear();
-    project.m_steadyStateFrequencies.clear();
+    DFTParameters*& own = project.m_ownDFTParameters.pointer;
+    if (own != project.m_dftParameters) delete own;
+    own = nullptr;
+    ProjectContents::forEach(project, DeleteAndClear());
 }
 
 }  // namespace quarn

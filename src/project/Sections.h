@@ -1,69 +1,66 @@
 #pragma once
 
 #include <QLatin1String>
-#include <QString>
-#include <memory>
-#include <vector>
 
-#include "project/Contents.h"
-#include "quarn/AmbientConditions.h"
+#include "blocktext/FormatBuilder.h"
+#include "blocktext/LineShapes.h"
 #include "quarn/BoundaryConditions.h"
-#include "quarn/DFTParameters.h"
-#include "quarn/PlaneWave.h"
-#include "quarn/ProjectFile.h"
-#include "quarn/TdAfsTerminationCriteria.h"
-#include "quarn/TerminationCriteria.h"
-#include "quarn/Waveform.h"
 
-/// The sections of the project file that carry the run settings: for each a writer of the whole block and a reader of
-/// what follows the block's open line, side by side in one file with the keys they share. Writers return whether the
-/// stream is in order. Readers return new objects, never null unless stated.
+/// The sections of the project file. Each is one block: its functions stand side by side in one file and are called
+/// StreamOut and StreamIn with the section's name behind. The tables of the frame (v6ProjectFileFrames.cpp) say in what
+/// order they stand.
 namespace quarn {
 
 class DelimManager;
+class v6ProjectFile;
 
-bool writeBoundaryConditions(DelimManager& delim, const BoundaryConditions& conditions);
-std::unique_ptr<BoundaryConditions> readBoundaryConditions(DelimManager& delim,
-                                                           const std::vector<Waveform*>& waveforms);
+struct Section {
+    QLatin1String name;
+
+    /// Whether a reader that returns false ends the block around.
+    blocktext::Unreadable unreadable;
+
+    /// Writes the whole block, or nothing where the project has nothing for it. Null where the block is only read.
+    bool (*write)(DelimManager& delim, const v6ProjectFile& project);
+
+    /// Reads what follows the open line. Returns whether the stream is in order.
+    bool (*read)(DelimManager& delim, v6ProjectFile& project);
+
+    /// Adds the block to the reference of the format; null where it is not described yet.
+    void (*describe)(blocktext::FormatBuilder& builder);
+};
+
+extern const Section unitsSection;
+
+/// The run settings.
+extern const Section boundaryConditionsSection, ambientConditionsSection, terminationCriteriaSection,
+    v6ConvergenceSection, sourceTypeSection, waveformSection;
+
+/// How fields are sampled for steady-state results, and at which frequencies.
+extern const Section dftParametersSection, steadyStateFrequenciesSection;
+
+/// Components and ports.
+extern const Section componentsPortsSection, waveGuidePortsSection;
+
+/// The requested results.
+extern const Section indexedPointsSection, interpolatedPointsSection, multiPointFieldRequestsSection,
+    rawSARPlanesSection, temperatureRiseSection, sarAveragingSection, farZoneRequestsSection, hacRequestsSection;
+
+/// The DFT settings of older files, within their waveform section; never written.
+bool StreamInV6DFTParameters(DelimManager& delim, v6ProjectFile& project);
+void describeV6DFTParameters(blocktext::FormatBuilder& builder);
+
 QLatin1String boundaryTypeName(BoundaryConditions::BoundaryType type);
 BoundaryConditions::BoundaryType boundaryTypeOf(QStringView name);
 
-bool writeAmbientConditions(DelimManager& delim, const AmbientConditions& conditions);
-std::unique_ptr<AmbientConditions> readAmbientConditions(DelimManager& delim);
+/// Writes the block of the whole project, which bears the name of its engine.
+void StreamOutProject(DelimManager& delim, const v6ProjectFile& project);
 
-/// The criteria of a block, and the TD-AFS criteria of the block within it: null where there is none.
-struct TerminationSection {
-    std::unique_ptr<TerminationCriteria> criteria;
-    std::unique_ptr<TdAfsTerminationCriteria> tdAfsCriteria;
-};
-bool writeTerminationCriteria(DelimManager& delim, const TerminationCriteria& criteria,
-                              const TdAfsTerminationCriteria* tdAfsCriteria);
-TerminationSection readTerminationCriteria(DelimManager& delim);
+/// Reads what follows the open line of a project's block, or what an earlier call has left of it. False where the name
+/// is not that of a project.
+bool StreamInProject(const QString& name, DelimManager& delim, v6ProjectFile& project);
 
-/// Null when the block does not ask for a minimum number of timesteps. This block is never written.
-std::unique_ptr<TerminationCriteria> readV6Convergence(DelimManager& delim);
-
-bool writeDFTParameters(DelimManager& delim, const DFTParameters& parameters);
-std::unique_ptr<DFTParameters> readDFTParameters(DelimManager& delim);
-
-using SteadyStateFrequencies = std::vector<ProjectFile::SteadyStateFrequency>;
-void writeSteadyStateFrequencies(DelimManager& delim, const SteadyStateFrequencies& frequencies);
-void readSteadyStateFrequencies(DelimManager& delim, SteadyStateFrequencies& frequencies);
-
-/// The DFT settings of older files, within their waveform section; never written.
-std::unique_ptr<DFTParameters> readV6DFTParameters(DelimManager& delim, SteadyStateFrequencies& frequencies);
-
-/// The number of samples of a user-defined waveform comes from the criteria where there are any.
-bool writeWaveforms(DelimManager& delim, const std::vector<Waveform*>& waveforms, const TerminationCriteria* criteria);
-
-/// Appends the section's waveforms and steady-state frequencies; the DFT parameters of an older file, if any, replace
-/// `dftParameters`. False when those could not be read.
-bool readWaveforms(DelimManager& delim, std::vector<Waveform*>& waveforms,
-                   std::unique_ptr<DFTParameters>& dftParameters, SteadyStateFrequencies& frequencies);
-
-bool writeSourceType(DelimManager& delim, const PlaneWave& wave, const QString& areaSourceFile);
-
-/// Null when the section holds no complete plane wave. The name is set where the section has one.
-PlaneWavePointer readSourceType(DelimManager& delim, QString& areaSourceFile);
+/// All blocks of the project file, in file order.
+void describeProjectBlocks(blocktext::FormatBuilder& builder);
 
 }  // namespace quarn

@@ -14,8 +14,23 @@ namespace {
 
 constexpr unsigned int newestVersion = 8;
 const QLatin1String versionLine("Version 8\n");
-const QLatin1String fdtdProject("FDTDProject");
-const QLatin1String femProject("FEMProject");
+
+// Appends what belongs below the version line.
+bool appendTo(const QString& path, const QString& text) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) return false;
+    const QByteArray bytes = text.toUtf8();
+    return file.write(bytes) == bytes.size() && file.flush();
+}
+
+QString textOfBlocks(const v6ProjectFile& project) {
+    QString text;
+    QTextStream stream(&text, QIODevice::WriteOnly);
+    stream.setRealNumberPrecision(17);
+    DelimManager delim(stream, QString());
+    StreamOutProject(delim, project);
+    return text;
+}
 
 }  // namespace
 
@@ -28,22 +43,8 @@ v6ProjectFile::v6ProjectFile(const v6ProjectFile& other) = default;
 v6ProjectFile& v6ProjectFile::operator=(const v6ProjectFile& other) = default;
 v6ProjectFile::~v6ProjectFile() = default;
 
-// Everything below the version line.
-QString v6ProjectFile::textOfBlocks() {
-    QString text;
-    QTextStream stream(&text, QIODevice::WriteOnly);
-    stream.setRealNumberPrecision(17);
-    DelimManager delim(stream, QString());
-    delim.BeginDelim(m_engine == Engine::FEM ? femProject : fdtdProject, QString(), QString());
-    StreamOutUnits(delim);
-    StreamOutRunParameters(delim);
-    StreamOutRequestResults(delim);
-    delim.EndDelim();
-    return text;
-}
-
 bool v6ProjectFile::saveToStream(QTextStream& stream) {
-    const QString text = textOfBlocks();
+    const QString text = textOfBlocks(*this);
     stream.setCodec("UTF-8");
     stream.setRealNumberPrecision(17);
     stream << versionLine << text;
@@ -52,19 +53,12 @@ bool v6ProjectFile::saveToStream(QTextStream& stream) {
 }
 
 bool v6ProjectFile::save(const QString& path, QTextStream& stream, QFile& file) {
-    const QString text = textOfBlocks();
+    const QString text = textOfBlocks(*this);
     stream << versionLine;
     stream.flush();
     file.close();
-    StreamOut(path, text);
+    appendTo(path, text);
     return false;
-}
-
-bool v6ProjectFile::StreamOut(const QString& path, const QString& text) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) return false;
-    const QByteArray bytes = text.toUtf8();
-    return file.write(bytes) == bytes.size() && file.flush();
 }
 
 void v6ProjectFile::getFileVersion(QTextStream& stream, unsigned int& major, unsigned int& minor) {
@@ -124,15 +118,7 @@ void v6ProjectFile::loadBlocks(QTextStream& stream, const QString& path) {
     QString name, value, description;
     if (!delim.IsDelim(name, value, description)) return;
     while (delim.ContinueReading()) {
-        if (name == fdtdProject) {
-            StreamIn(delim);
-            m_engine = Engine::FDTD;
-        } else if (name == femProject) {
-            StreamIn(delim);
-            m_engine = Engine::FEM;
-        } else if (!delim.SeekToEndOfDelim()) {
-            break;
-        }
+        if (!StreamInProject(name, delim, *this) && !delim.SeekToEndOfDelim()) break;
     }
     m_createdByLoad.clear();
 }

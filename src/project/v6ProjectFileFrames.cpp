@@ -1,20 +1,10 @@
-// The frames of the project file: in what order the sections of a block are written, and which block name and which key
-// goes to which reader.
+// The frames of the project file: one table for each block that holds sections, in the order in which they are written.
 
-#include <stdexcept>
-
-#include "blocktext/BlockWalker.h"
-#include "blocktext/BlockWriter.h"
-#include "circuit/CircuitSections.h"
+#include "blocktext/BlockDescription.h"
+#include "project/ProjectContents.h"
 #include "project/Sections.h"
-#include "quarn/FarZoneRequest.h"
-#include "quarn/HACRequest.h"
-#include "quarn/MultiPointFieldRequest.h"
-#include "quarn/NearZoneMultiFieldPoint.h"
+#include "quarn/OwnedProject.h"
 #include "quarn/SARAveragingRequest.h"
-#include "quarn/TemperatureRiseRequest.h"
-#include "quarn/v6ProjectFile.h"
-#include "results/RequestSections.h"
 
 namespace quarn {
 
@@ -22,280 +12,145 @@ using namespace blocktext;
 
 namespace {
 
-namespace key {
-constexpr auto Units = "Units"_key;
-constexpr auto Display = "Display"_key;
-constexpr auto Modeling = "Modeling"_key;
-constexpr auto Name = "Name"_key;
-constexpr auto Conversion = "Conversion"_key;
+using P = v6ProjectFile;
 
-constexpr auto RunParameters = "RunParameters"_key;
-constexpr auto OuterBoundaries = "OuterBoundaries"_key;
-constexpr auto AmbientConditions = "AmbientConditions"_key;
-constexpr auto ComponentsPorts = "ComponentsPorts"_key;
-constexpr auto WaveGuidePorts = "WaveGuidePorts"_key;
-constexpr auto TerminationCriteria = "TerminationCriteria"_key;
-constexpr auto SourceType = "SourceType"_key;
-constexpr auto Waveform = "Waveform"_key;
-constexpr auto Convergence = "Convergence"_key;
-constexpr auto UseTimestep = "UseTimestep"_key;
-constexpr auto UseUsersCFL = "UseUsersCFL"_key;
+/// A section as a row of a table.
+struct SectionRow : LineShape {
+    const Section* section;
 
-constexpr auto RequestResults = "RequestResults"_key;
-constexpr auto MultiFieldIndexedPoint = "MultiFieldIndexedPoint"_key;
-constexpr auto MultiFieldInterpolatedPoint = "MultiFieldInterpolatedPoint"_key;
-constexpr auto MultiPointFieldRequest = "MultiPointFieldRequest"_key;
-constexpr auto RawSARPlanes = "RawSARPlanes"_key;
-constexpr auto TemperatureRiseRequest = "TemperatureRiseRequest"_key;
-constexpr auto SARAveraging = "SARAveraging"_key;
-constexpr auto FarZoneRequests = "FarZoneRequests"_key;
-constexpr auto HACRequest = "HACRequest"_key;
-constexpr auto DFTParameters = "DFTParameters"_key;
-constexpr auto SteadyStateFrequencies = "SteadyStateFrequencies"_key;
-constexpr auto StorageIsMemory = "SteadyStateStorageMethodIsMemory"_key;
-constexpr auto StorageIsHardDisk = "SteadyStateStorageMethodIsHardDisk"_key;
-constexpr auto DontSaveFarZoneBoxFile = "DontSaveFarZoneBoxFile"_key;
-constexpr auto DontComputeSystemDissipatedPower = "DontComputeSystemDissipatedPower"_key;
-}  // namespace key
+    explicit constexpr SectionRow(const Section& s) : section(&s) {}
 
-void writeUnits(DelimManager& delim, QLatin1String name, const QPair<QString, double>& units) {
-    const WrittenBlock block(delim, name);
-    putLine(delim, key::Name, units.first);
-    putLine(delim, key::Conversion, units.second);
+    void write(DelimManager& delim, const P& project) const { section->write(delim, project); }
+    Offer readBlock(const QString& name, const QString&, DelimManager& delim, P& project) const {
+        if (name != section->name) return Offer::Unknown;
+        return afterReading(section->read(delim, project), section->unreadable);
+    }
+    void describeTo(FormatBuilder& builder, const P&, FormatLine line) const {
+        line.key = section->name;
+        line.kind = QStringLiteral("block");
+        builder.add(line);
+        if (section->describe) section->describe(builder);
+    }
+    static QString usuallyWritten() { return QStringLiteral("where the project has it"); }
+};
+constexpr auto row(const Section& section) { return lineOf(SectionRow(section)); }
+
+// The timestep goes before the Courant factor.
+constexpr auto runParameters = [] {
+    constexpr auto timestep = property(&P::getExplicitlySuppliedTimestep, [](P& project, float seconds) {
+        project.setExplicitlySuppliedTimestep(seconds);
+        project.setUseExplicitlySuppliedTimestep(true);
+    });
+    constexpr auto courantFactor = property(&P::getCFL, [](P& project, float factor) {
+        project.setCFL(factor);
+        project.setUseUsersCFL(true);
+    });
+    constexpr auto usesCourantFactor = [](const P& project) {
+        return project.getUseUsersCFL() && !project.getUseExplicitlySuppliedTimestep();
+    };
+    return describe<P>(
+        "RunParameters",
+        Unknown::DropLine,
+        Unreadable::KeepsValue,
+        row(boundaryConditionsSection),
+        row(ambientConditionsSection),
+        row(componentsPortsSection),
+        row(waveGuidePortsSection),
+        row(terminationCriteriaSection),
+        row(sourceTypeSection),
+        row(waveformSection),
+        row(v6ConvergenceSection).onlyRead(),
+        value("UseTimestep", timestep).in("s").where(&P::getUseExplicitlySuppliedTimestep, "where in use"),
+        value("UseUsersCFL", courantFactor).where(usesCourantFactor, "where in use without a timestep"));
+}();
+
+constexpr NameTable<P::SteadyStateStorageMethod, 2> storageMethods{{
+    {P::HardDisk, "SteadyStateStorageMethodIsHardDisk"_key},
+    {P::Memory, "SteadyStateStorageMethodIsMemory"_key},
+}};
+
+// The settings of steady-state results, and HAC requests, are written only where there are such results.
+constexpr auto requestResults = [] {
+    constexpr auto withFrequencies = [](auto line) {
+        return line.where([](const P& project) { return !project.getSteadyStateFrequencies().empty(); },
+                          "with steady-state frequencies");
+    };
+    constexpr auto storage = property(&P::getSteadyStateStorageMethod, &P::setSteadyStateStorageMethod);
+    constexpr auto dropsBoxFile =
+        property([](const P& project) { return !project.saveFieldsOnFarZoneBoxForPostProcessing(); },
+                 [](P& project, bool drops) { project.setSaveFieldsOnFarZoneBoxForPostProcessing(!drops); });
+    constexpr auto skipsPower =
+        property([](const P& project) { return !project.computeSystemDissipatedPower(); },
+                 [](P& project, bool skips) { project.setComputeSystemDissipatedPower(!skips); });
+    return describe<P>("RequestResults",
+                       Unknown::DropLine,
+                       Unreadable::KeepsValue,
+                       row(indexedPointsSection),
+                       row(interpolatedPointsSection),
+                       row(multiPointFieldRequestsSection),
+                       row(rawSARPlanesSection),
+                       row(temperatureRiseSection),
+                       row(sarAveragingSection),
+                       row(farZoneRequestsSection),
+                       withFrequencies(row(dftParametersSection)),
+                       withFrequencies(oneKeyOf(storageMethods, storage)),
+                       withFrequencies(flag("DontSaveFarZoneBoxFile", dropsBoxFile)),
+                       withFrequencies(flag("DontComputeSystemDissipatedPower", skipsPower)),
+                       withFrequencies(row(steadyStateFrequenciesSection)),
+                       withFrequencies(row(hacRequestsSection)));
+}();
+
+bool StreamOutRunParameters(DelimManager& delim, const P& project) { return runParameters.write(delim, project); }
+
+bool StreamInRunParameters(DelimManager& delim, P& project) {
+    project.setUseExplicitlySuppliedTimestep(false);
+    project.setUseUsersCFL(false);
+    runParameters.read(delim, project);
+    return isOk(delim);
 }
 
-// A request that could not be read is left out.
-template <class Request>
-void appendRead(DelimManager& delim, std::vector<Request>& requests, bool (*read)(DelimManager&, Request&)) {
-    Request request;
-    if (read(delim, request)) requests.push_back(std::move(request));
+bool StreamOutRequestResults(DelimManager& delim, const P& project) { return requestResults.write(delim, project); }
+
+// A setting counts only where it is the whole line.
+bool StreamInRequestResults(DelimManager& delim, P& project) {
+    project.setSaveFieldsOnFarZoneBoxForPostProcessing(true);
+    ProjectContents::install(project, std::unique_ptr<SARAveragingRequest>());
+    requestResults.read(delim, project, onLine([&](QString line) {
+                            stripEscapeCharacters(line);
+                            requestResults.offerWord(line, delim.GetStream(), project);
+                        }));
+    return isOk(delim);
 }
+
+const Section runParametersSection{
+    runParameters.name, Unreadable::Fails, StreamOutRunParameters, StreamInRunParameters, [](FormatBuilder& builder) {
+        runParameters.describeTo(builder, OwnedProject());
+    }};
+
+const Section requestResultsSection{requestResults.name,
+                                    Unreadable::Fails,
+                                    StreamOutRequestResults,
+                                    StreamInRequestResults,
+                                    [](FormatBuilder& builder) { requestResults.describeTo(builder, OwnedProject()); }};
+
+constexpr auto fdtdProject = describe<P>("FDTDProject", Unknown::DropLine, Unreadable::KeepsValue, row(unitsSection),
+                                         row(runParametersSection), row(requestResultsSection));
+constexpr auto femProject = fdtdProject.named("FEMProject");
 
 }  // namespace
 
-/// Puts what a load has read into its member. What was there before stays alive, unless this load created it.
-template <class Member, class Object>
-void v6ProjectFile::install(Member*& member, Object object) {
-    if (m_createdByLoad.erase(member)) destroy(member);
-    member = object.release();
-    m_createdByLoad.insert(member);
+void StreamOutProject(DelimManager& delim, const P& project) {
+    const auto& block = project.getEngine() == Engine::FEM ? femProject : fdtdProject;
+    block.write(delim, project);
 }
 
-bool v6ProjectFile::StreamIn(DelimManager& delim) {
-    walkBlock(delim,
-              Unknown::DropLine,
-              onBlock(key::Units, [&] { return StreamInUnits(delim); }),
-              onBlock(key::RunParameters, [&] { return StreamInRunParameters(delim); }),
-              onBlock(key::RequestResults, [&] { return StreamInRequestResults(delim); }));
-    return isOk(delim);
+bool StreamInProject(const QString& name, DelimManager& delim, P& project) {
+    if (name != fdtdProject.name && name != femProject.name) return false;
+    fdtdProject.read(delim, project);
+    project.setEngine(name == femProject.name ? Engine::FEM : Engine::FDTD);
+    return true;
 }
 
-bool v6ProjectFile::StreamOutUnits(DelimManager& delim) {
-    const WrittenBlock block(delim, key::Units);
-    writeUnits(delim, key::Display, m_displayUnits);
-    writeUnits(delim, key::Modeling, m_modelingUnits);
-    return isOk(delim);
-}
-
-// The two inner blocks are entered without a walk of their own, so that the close line of the first of them ends this
-// reader. Of a file as it is written only the display units are read therefore: the modeling units stay as they are.
-bool v6ProjectFile::StreamInUnits(DelimManager& delim) {
-    auto* units = &m_displayUnits;
-    walkBlock(delim,
-              Unknown::DropLine,
-              onBlock(key::Display, [&] { units = &m_displayUnits; }),
-              onBlock(key::Modeling, [&] { units = &m_modelingUnits; }),
-              onWord(key::Name, [&](QTextStream& in) { readValue(in, units->first); }),
-              onWord(key::Conversion, [&](QTextStream& in) { readValue(in, units->second); }));
-    return isOk(delim);
-}
-
-bool v6ProjectFile::StreamOutRunParameters(DelimManager& delim) {
-    const WrittenBlock block(delim, key::RunParameters);
-    StreamOutBoundaryConditions(delim);
-    StreamOutAmbientConditions(delim);
-    StreamOutComponentsPorts(delim);
-    StreamOutWaveGuidePorts(delim);
-    StreamOutTerminationCriteria(delim);
-    StreamOutSourceType(delim);
-    StreamOutWaveform(delim);
-    if (m_useExplicitlySuppliedTimestep) {
-        putLine(delim, key::UseTimestep, m_explicitlySuppliedTimestep);
-    } else if (m_useUsersCFL) {
-        putLine(delim, key::UseUsersCFL, m_cfl);
-    }
-    return isOk(delim);
-}
-
-bool v6ProjectFile::StreamInRunParameters(DelimManager& delim) {
-    m_useExplicitlySuppliedTimestep = false;
-    m_useUsersCFL = false;
-    const auto readAndUse = [](float& value, bool& use) {
-        return [&value, &use](QTextStream& in) {
-            readValue(in, value);
-            use = true;
-        };
-    };
-    walkBlock(delim,
-              Unknown::DropLine,
-              onBlock(key::OuterBoundaries, [&] { return StreamInBoundaryConditions(delim); }),
-              onBlock(key::AmbientConditions, [&] { return StreamInAmbientConditions(delim); }),
-              onBlock(key::ComponentsPorts, [&] { return StreamInComponentsPorts(delim); }),
-              onBlock(key::WaveGuidePorts, [&] { return StreamInWaveGuidePorts(delim); }),
-              onBlock(key::TerminationCriteria, [&] { StreamInTerminationCriteria(delim); }),
-              onBlock(key::SourceType, [&] { return StreamInSourceType(delim); }),
-              onBlock(key::Waveform, [&] { return StreamInWaveform(delim); }),
-              onBlock(key::Convergence, [&] { return StreamInV6Convergence(delim); }),
-              onWord(key::UseTimestep, readAndUse(m_explicitlySuppliedTimestep, m_useExplicitlySuppliedTimestep)),
-              onWord(key::UseUsersCFL, readAndUse(m_cfl, m_useUsersCFL)));
-    return isOk(delim);
-}
-
-// The settings of steady-state results, and HAC requests, are written only where there are such results.
-bool v6ProjectFile::StreamOutRequestResults(DelimManager& delim) {
-    const WrittenBlock block(delim, key::RequestResults);
-    for (const auto& point : m_nearZoneIndexedPoints) writeIndexedPoint(delim, point);
-    for (const auto& point : m_nearZoneInterpolatedPoints) writeInterpolatedPoint(delim, point);
-    for (const auto& request : m_multiPointFieldRequests) writeMultiPointFieldRequest(delim, request);
-    writeRawSARPlanes(delim, m_sarPlaneRequests);
-    if (m_temperatureRiseRequest) m_temperatureRiseRequest->streamOut(delim);
-    if (m_sarAveragingRequest) m_sarAveragingRequest->streamOut(delim);
-    writeFarZoneRequests(delim, m_steadyStateFarZoneRequests, m_transientFarZoneRequests);
-    if (m_steadyStateFrequencies.empty()) return isOk(delim);
-    StreamOutDFTParameters(delim);
-    putLine(delim, m_steadyStateStorageMethod == HardDisk ? key::StorageIsHardDisk : key::StorageIsMemory);
-    putFlag(delim, key::DontSaveFarZoneBoxFile, !m_saveFieldsOnFarZoneBox);
-    putFlag(delim, key::DontComputeSystemDissipatedPower, !m_computeSystemDissipatedPower);
-    writeSteadyStateFrequencies(delim, m_steadyStateFrequencies);
-    for (const HACRequest* request : m_hacRequests) {
-        if (request) writeHACRequest(delim, *request);
-    }
-    return isOk(delim);
-}
-
-bool v6ProjectFile::StreamInRequestResults(DelimManager& delim) {
-    m_saveFieldsOnFarZoneBox = true;
-    install(m_sarAveragingRequest, std::unique_ptr<SARAveragingRequest>());
-    const auto readSetting = [&](QString line) {
-        stripEscapeCharacters(line);
-        if (line == key::StorageIsMemory) m_steadyStateStorageMethod = Memory;
-        if (line == key::StorageIsHardDisk) m_steadyStateStorageMethod = HardDisk;
-        if (line == key::DontSaveFarZoneBoxFile) m_saveFieldsOnFarZoneBox = false;
-        if (line == key::DontComputeSystemDissipatedPower) m_computeSystemDissipatedPower = false;
-    };
-    walkBlock(
-        delim,
-        Unknown::DropLine,
-        onBlock(key::MultiFieldIndexedPoint, [&] { appendRead(delim, m_nearZoneIndexedPoints, readIndexedPoint); }),
-        onBlock(key::MultiFieldInterpolatedPoint,
-                [&] { appendRead(delim, m_nearZoneInterpolatedPoints, readInterpolatedPoint); }),
-        onBlock(key::MultiPointFieldRequest,
-                [&] { appendRead(delim, m_multiPointFieldRequests, readMultiPointFieldRequest); }),
-        onBlock(key::RawSARPlanes, [&] { readRawSARPlanes(delim, m_sarPlaneRequests); }),
-        onBlock(key::TemperatureRiseRequest,
-                [&] { install(m_temperatureRiseRequest, std::make_unique<quarn::TemperatureRiseRequest>(delim)); }),
-        onBlock(key::SARAveraging,
-                [&] { install(m_sarAveragingRequest, std::make_unique<SARAveragingRequest>(delim)); }),
-        onBlock(key::FarZoneRequests,
-                [&] { readFarZoneRequests(delim, m_steadyStateFarZoneRequests, m_transientFarZoneRequests); }),
-        onBlock(key::DFTParameters, [&] { StreamInDFTParameters(delim); }),
-        onBlock(key::HACRequest, [&] { m_hacRequests.push_back(readHACRequest(delim).release()); }),
-        onBlock(key::SteadyStateFrequencies, [&] { StreamInSteadyStateFrequencies(delim); }),
-        onLine(readSetting));
-    return isOk(delim);
-}
-
-bool v6ProjectFile::StreamOutBoundaryConditions(DelimManager& delim) {
-    if (!m_boundaryConditions) {
-        throw std::runtime_error(
-            "quarn::v6ProjectFile::StreamOutBoundaryConditions: boundary condition have not been set");
-    }
-    return writeBoundaryConditions(delim, *m_boundaryConditions);
-}
-
-bool v6ProjectFile::StreamInBoundaryConditions(DelimManager& delim) {
-    install(m_boundaryConditions, readBoundaryConditions(delim, m_waveforms));
-    return isOk(delim);
-}
-
-bool v6ProjectFile::StreamOutAmbientConditions(DelimManager& delim) {
-    return m_ambientConditions && writeAmbientConditions(delim, *m_ambientConditions);
-}
-
-bool v6ProjectFile::StreamInAmbientConditions(DelimManager& delim) {
-    install(m_ambientConditions, readAmbientConditions(delim));
-    return isOk(delim);
-}
-
-bool v6ProjectFile::StreamOutComponentsPorts(DelimManager& delim) {
-    return writeComponentsPorts(delim, m_componentManager, m_staticVoltageList);
-}
-
-bool v6ProjectFile::StreamInComponentsPorts(DelimManager& delim) {
-    auto [manager, staticVoltages] = readComponentsPorts(delim);
-    install(m_staticVoltageList, std::move(staticVoltages));
-    install(m_componentManager, std::move(manager));
-    return isOk(delim);
-}
-
-bool v6ProjectFile::StreamOutWaveGuidePorts(DelimManager& delim) {
-    return m_waveGuidePortManager && writeWaveGuidePorts(delim, *m_waveGuidePortManager);
-}
-
-bool v6ProjectFile::StreamInWaveGuidePorts(DelimManager& delim) {
-    install(m_waveGuidePortManager, readWaveGuidePorts(delim));
-    return isOk(delim);
-}
-
-bool v6ProjectFile::StreamOutTerminationCriteria(DelimManager& delim) {
-    return m_terminationCriteria && writeTerminationCriteria(delim, *m_terminationCriteria, m_tdAfsTerminationCriteria);
-}
-
-bool v6ProjectFile::StreamInTerminationCriteria(DelimManager& delim) {
-    auto [criteria, tdAfsCriteria] = readTerminationCriteria(delim);
-    if (!tdAfsCriteria && !m_tdAfsTerminationCriteria) tdAfsCriteria = std::make_unique<TdAfsTerminationCriteria>();
-    if (tdAfsCriteria) install(m_tdAfsTerminationCriteria, std::move(tdAfsCriteria));
-    install(m_terminationCriteria, std::move(criteria));
-    return isOk(delim);
-}
-
-bool v6ProjectFile::StreamInV6Convergence(DelimManager& delim) {
-    if (auto criteria = readV6Convergence(delim)) install(m_terminationCriteria, std::move(criteria));
-    return isOk(delim);
-}
-
-bool v6ProjectFile::StreamOutSourceType(DelimManager& delim) {
-    return m_planeWave && writeSourceType(delim, *m_planeWave, m_areaSourceFile);
-}
-
-bool v6ProjectFile::StreamInSourceType(DelimManager& delim) {
-    if (auto wave = readSourceType(delim, m_areaSourceFile)) install(m_planeWave, std::move(wave));
-    return isOk(delim);
-}
-
-bool v6ProjectFile::StreamOutWaveform(DelimManager& delim) {
-    return !m_waveforms.empty() && writeWaveforms(delim, m_waveforms, m_terminationCriteria);
-}
-
-bool v6ProjectFile::StreamInWaveform(DelimManager& delim) {
-    std::unique_ptr<quarn::DFTParameters> dftParameters;
-    const bool completed = readWaveforms(delim, m_waveforms, dftParameters, m_steadyStateFrequencies);
-    if (dftParameters) install(m_dftParameters, std::move(dftParameters));
-    return completed;
-}
-
-bool v6ProjectFile::StreamOutDFTParameters(DelimManager& delim) {
-    return m_dftParameters && writeDFTParameters(delim, *m_dftParameters);
-}
-
-bool v6ProjectFile::StreamInDFTParameters(DelimManager& delim) {
-    install(m_dftParameters, readDFTParameters(delim));
-    return isOk(delim);
-}
-
-bool v6ProjectFile::StreamInSteadyStateFrequencies(DelimManager& delim) {
-    readSteadyStateFrequencies(delim, m_steadyStateFrequencies);
-    return isOk(delim);
-}
+void describeProjectBlocks(FormatBuilder& builder) { fdtdProject.describeTo(builder, OwnedProject()); }
 
 }  // namespace quarn

@@ -181,7 +181,7 @@ void describePorts(v6ProjectFile& project) {
 
 TEST(CircuitSections, EveryKindAndLineTypeIsWrittenAndReadBack) {
     using B = BoundaryConditions;
-    OwningProject project;
+    OwnedProject project;
     project.setBoundaryConditions(new B(B::CPML, B::CPML, B::CPML, B::CPML, B::CPML, B::CPML, 8));
     describeComponents(project);
     describePorts(project);
@@ -195,7 +195,7 @@ TEST(CircuitSections, StaticVoltagesNeedNoManager) {
     const QString section =
         "ComponentsPorts{ PortType 0; StaticVoltageInfo{ Residual 2; ConductorThreshold 1; MaximumIterations 3; } "
         "StaticVoltagePoint{ XLocation 4; YLocation 5; ZLocation 6; Voltage 7; } } ";
-    OwningProject project;
+    OwnedProject project;
     load(project, fileOf(""));
     StaticVoltageList noVoltages;
     project.setStaticVoltageList(&noVoltages);
@@ -211,7 +211,7 @@ TEST(CircuitSections, StaticVoltagesNeedNoManager) {
 TEST(CircuitSections, LoadsTextTruncatedAnywhere) {
     const QString text = fileOf(components + ports);
     for (int size = 0; size < text.size(); size += 3) {
-        OwningProject project;
+        OwnedProject project;
         load(project, text.left(size));
         const auto* manager = project.getComponentManager();
         EXPECT_LE(manager ? manager->getNumberOfComponents() : 0, 9U);
@@ -223,7 +223,7 @@ TEST(CircuitSections, LaterBlocksReplaceOnlyThoseOfTheSameLoad) {
     ComponentManager ownManager({&own}, false, -1);
     WaveGuidePortManager ownPorts;
     StaticVoltageList ownVoltages;
-    OwningProject project;
+    OwnedProject project;
     project.setComponentManager(&ownManager);
     project.setWaveGuidePortManager(&ownPorts);
     project.setStaticVoltageList(&ownVoltages);
@@ -235,7 +235,7 @@ TEST(CircuitSections, LaterBlocksReplaceOnlyThoseOfTheSameLoad) {
 }
 
 TEST(CircuitSections, ClearedComponentsAndPortsStayAlive) {
-    OwningProject project;
+    OwnedProject project;
     load(project, fileOf(components + ports));
     const auto listed = project.getComponentManager()->getComponents();
     const auto listedPorts = project.getWaveGuidePortManager()->getWaveguidePorts();
@@ -249,7 +249,7 @@ TEST(CircuitSections, ClearedComponentsAndPortsStayAlive) {
 }
 
 TEST(CircuitSections, PortLinesAreReadForSBlocks) {
-    OwningProject project;
+    OwnedProject project;
     load(
         project,
         fileOf(
@@ -281,7 +281,7 @@ TEST(CircuitSections, TheLastActiveRecordIsTheActivePort) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        OwningProject project;
+        OwnedProject project;
         load(project, fileOf("ComponentsPorts{ " + row.block + "} "));
         const auto& manager = *project.getComponentManager();
         EXPECT_EQ(manager.getActivePort(), row.activePort);
@@ -420,7 +420,7 @@ TEST(CircuitSections, ComponentRecordsAreSavedInCanonicalForm) {
 TEST(CircuitSections, WaveGuideRecordsAreSavedInCanonicalForm) { expectSaves(waveGuideRows, "WaveGuidePorts"); }
 
 TEST(CircuitSections, WaveGuideValuesWithoutATextAreOmittedOrDefaulted) {
-    OwningProject project;
+    OwnedProject project;
     load(project, fileOf("WaveGuidePorts{ PortData{ } } "));
     auto* port = project.getWaveGuidePortManager()->getWaveGuidePort(0);
     port->setWaveGuidePortType(WaveGuidePort::WaveGuidePortType(7));

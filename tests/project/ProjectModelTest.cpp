@@ -8,8 +8,8 @@ using B = BoundaryConditions;
 using Units = QPair<QString, double>;
 
 TEST(ProjectModel, HasDefaults) {
-    EXPECT_EQ(OwningProject().getDisplayUnits(), Units("m", 1.0));
-    EXPECT_EQ(OwningProject().getModelingUnits(), Units("m", 1.0));
+    EXPECT_EQ(OwnedProject().getDisplayUnits(), Units("m", 1.0));
+    EXPECT_EQ(OwnedProject().getModelingUnits(), Units("m", 1.0));
     ProjectFile base;
     EXPECT_EQ(base.getDisplayUnits(), Units("", 0.0));
     EXPECT_EQ(base.getEngine(), Engine::FDTD);
@@ -30,7 +30,7 @@ void expectCopy(const T* a, const T* b) {
 
 template <class Wave>
 void expectDeepCopy(Wave* wave) {
-    OwningProject source;
+    OwnedProject source;
     describe(source);
     delete static_cast<TFSFPlaneWave*>(source.getPlaneWave());
     source.setPlaneWave(wave);
@@ -73,7 +73,7 @@ TEST(ProjectModel, CopyConstructorCopiesObjectsAndSharesWaveformsComponentsAndPo
 }
 
 TEST(ProjectModel, AssignmentSharesTheObjects) {
-    OwningProject source;
+    OwnedProject source;
     describe(source);
     v6ProjectFile other;
     delete other.getDFTParameters();
@@ -96,7 +96,7 @@ TEST(ProjectModel, ContentsAreDeletedOnceAndPointersReset) {
 
 // The address sanitizer detects objects that are left.
 TEST(ProjectModel, CopiesAndTheirLoadedContentsAreDeleted) {
-    OwningProject source;
+    OwnedProject source;
     v6ProjectFile copy(source);
     load(copy, expanded("Version 8; FDTDProject{ RequestResults{ DFTParameters{ NormalizeFields; } } }"));
     EXPECT_NE(*copy.getDFTParameters(), *source.getDFTParameters());
@@ -118,7 +118,7 @@ TEST(ProjectModel, SlicedWavesBecomePlainPlaneWaves) {
 
 TEST(ProjectModel, LoadReplacesObjectsOfTheCallerWithoutDeletingThem) {
     B boundaries(B::PEC, B::PEC, B::PEC, B::PEC, B::PEC, B::PEC, 1);
-    OwningProject project;
+    OwnedProject project;
     project.setBoundaryConditions(&boundaries);
     load(project, expanded("Version 8; FDTDProject{ RunParameters{ OuterBoundaries{ } OuterBoundaries{ } } }"));
     EXPECT_NE(project.getBoundaryConditions(), &boundaries);

@@ -14,7 +14,7 @@ namespace {
 using A = AmbientConditions;
 
 TEST(ProjectText, EverySectionIsWrittenInOrderAndReadBack) {
-    OwningProject project;
+    OwnedProject project;
     describe(project);
     EXPECT_EQ(saved(project), golden);
     for (const QString& text : {golden, QString(golden).replace("\n", "\r\n"), golden.chopped(1)}) {
@@ -182,7 +182,7 @@ TEST(ProjectText, FirstLineDeterminesTheVersion) {
         SCOPED_TRACE(row.line);
         QString text = QString(golden).replace("Version 8", row.line);
         QTextStream stream(&text, QIODevice::ReadOnly);
-        OwningProject project;
+        OwnedProject project;
         QStringList errors;
         const bool supported = project.loadFromStream(stream, errors);
         EXPECT_EQ(supported, row.major <= 8);
@@ -202,7 +202,7 @@ TEST(ProjectText, FirstLineDeterminesTheVersion) {
 TEST(ProjectText, OuterBlockNamesTheEngineAndIsTheOnlyOneRead) {
     const QString inches = "Display{ Name inch; Conversion 0.025399999999999999; } Modeling{ ";
     const QString fem = fileOf("", "", inches + "Name mm; Conversion 0.001; } ", "FEMProject");
-    OwningProject project;
+    OwnedProject project;
     project.setModelingUnits({"mm", 0.001});
     load(project, fem);
     EXPECT_EQ(project.getEngine(), Engine::FEM);
@@ -213,14 +213,14 @@ TEST(ProjectText, OuterBlockNamesTheEngineAndIsTheOnlyOneRead) {
     const QString foo = expanded("Version 8; Foo{ RunParameters{ OuterBoundaries{ } } }");
     const QString closed = expanded("Version 8; FDTDProject{ }"), lower = QString(golden).replace("FDTDP", "fdtdP");
     for (const QString& text : {QString(), "Version 8\nfoo\n" + golden, lower, foo + golden, closed + golden.mid(10)}) {
-        OwningProject other;
+        OwnedProject other;
         load(other, text);
         EXPECT_EQ(other.getBoundaryConditions(), nullptr) << text.left(40).toStdString();
     }
 }
 
 TEST(ProjectText, LoadResetsSomeSettingsAndKeepsOrExtendsOthers) {
-    OwningProject project;
+    OwnedProject project;
     project.setUseUsersCFL(true);
     project.setUseExplicitlySuppliedTimestep(true);
     project.setSaveFieldsOnFarZoneBoxForPostProcessing(false);
@@ -243,7 +243,7 @@ TEST(ProjectText, LoadResetsSomeSettingsAndKeepsOrExtendsOthers) {
 }
 
 TEST(ProjectText, LoadSetsMembersThatAreNotSaved) {
-    OwningProject project, other;
+    OwnedProject project, other;
     const QString minimum = "ConvergenceRequireMinimumNumberOfTimeSteps; ConvergenceMinimumNumberOfTimeSteps 500; ";
     load(project,
          fileOf("UseTimestep 2; UseUsersCFL 0.5; AmbientConditions{ } Convergence{ " + minimum + "} ", "", ""));
@@ -261,7 +261,7 @@ TEST(ProjectText, DamagedFirstLineDoesNotHideTheBlocks) {
     QTextStream stream(damagedAtFirst);
     stream.setCodec("UTF-8");
     QStringList errors;
-    OwningProject project;
+    OwnedProject project;
     EXPECT_TRUE(project.loadFromStream(stream, errors));
     EXPECT_EQ(project.getDisplayUnits().first, "km");
 }
@@ -269,7 +269,7 @@ TEST(ProjectText, DamagedFirstLineDoesNotHideTheBlocks) {
 TEST(ProjectText, StreamInErrorIsResetAndNotRead) {
     onBothStreams("Version 8\n" + expanded("FDTDProject{ Units{ Display{ Name km; } } } "), [](QTextStream& stream) {
         stream.setStatus(QTextStream::ReadPastEnd);
-        OwningProject project;
+        OwnedProject project;
         QStringList errors;
         EXPECT_TRUE(project.loadFromStream(stream, errors));
         EXPECT_EQ(project.getDisplayUnits().first, "m");
@@ -278,7 +278,7 @@ TEST(ProjectText, StreamInErrorIsResetAndNotRead) {
 }
 
 TEST(ProjectText, NullWaveformsAreIgnored) {
-    OwningProject project;
+    OwnedProject project;
     const auto pec = BoundaryConditions::PEC;
     project.setBoundaryConditions(new BoundaryConditions(pec, pec, pec, pec, pec, pec, 0));
     project.getWaveforms() = {nullptr, new Waveform(Waveform::Step, 64, 0, {}, {})};
@@ -288,7 +288,7 @@ TEST(ProjectText, NullWaveformsAreIgnored) {
 }
 
 TEST(ProjectText, LoadsDeeplyNestedAndRepeatedBlocks) {
-    OwningProject nested, repeated;
+    OwnedProject nested, repeated;
     load(nested, fileOf(QString("foo{ ").repeated(100000) + QString("} ").repeated(100000) + cfl, "", ""));
     EXPECT_TRUE(nested.getUseUsersCFL());
     const int run = golden.indexOf("begin_<OuterB"), dft = golden.indexOf("begin_<DFT");
@@ -299,7 +299,7 @@ TEST(ProjectText, LoadsDeeplyNestedAndRepeatedBlocks) {
 }
 
 TEST(ProjectText, FailedSaveWritesNothing) {
-    OwningProject project;
+    OwnedProject project;
     QTemporaryDir directory;
     QFile file(directory.filePath("project"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -337,7 +337,7 @@ void expectSavesAndLoadsFiles() {
     QFile file(directory.filePath("project.fdtd")), result(file.fileName());
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     QTextStream stream(&file);
-    OwningProject project;
+    OwnedProject project;
     describe(project);
     EXPECT_EQ(saved(project), golden);
     EXPECT_FALSE(project.save(file.fileName(), stream, file)) << "save always returns false";
@@ -345,7 +345,7 @@ void expectSavesAndLoadsFiles() {
     const QByteArray bytes = result.readAll();
     EXPECT_EQ(bytes, golden.toUtf8());
     for (const QByteArray& text : {bytes, QByteArray(bytes).replace("\n", "\r\n")}) {
-        OwningProject loaded;
+        OwnedProject loaded;
         EXPECT_EQ(loadFromFile(loaded, text, file.fileName(), file.fileName(), true), QStringList());
         EXPECT_EQ(saved(loaded), golden);
     }
@@ -369,7 +369,7 @@ TEST(ProjectFiles, AreSavedAndLoadedInAnyLocale) {
 TEST(ProjectFiles, AreRefusedWhenUnsupportedOrMissing) {
     QTemporaryDir directory;
     const QString path = directory.filePath("Prüfung Ω.fdtd");
-    OwningProject project;
+    OwnedProject project;
     EXPECT_EQ(loadFromFile(project, golden.toUtf8(), path, path, true), QStringList()) << "a name beyond ASCII";
     deleteContents(project);
     EXPECT_EQ(loadFromFile(project, golden.toUtf8(), path, path + ".gone", false), QStringList());

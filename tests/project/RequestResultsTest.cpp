@@ -10,7 +10,7 @@ namespace {
 using B = BoundaryConditions;
 
 /// A project with the boundary conditions that saving requires.
-class Project : public OwningProject {
+class Project : public OwnedProject {
 public:
     Project() { setBoundaryConditions(new B(B::CPML, B::CPML, B::CPML, B::CPML, B::CPML, B::CPML, 8)); }
 };
@@ -253,7 +253,7 @@ void expectLines(const std::vector<Request>& requests, const QString& lines, Put
         const QString& expected = expectedLines[static_cast<int>(i) - 1];
         EXPECT_EQ(added.join("; "), expected);
         Project project;
-        OwningProject loaded;
+        OwnedProject loaded;
         put(project, requests[i]);
         load(loaded, saved(project));
         EXPECT_EQ(get(loaded) == requests[i], !expected.isEmpty()) << expected.toStdString();

@@ -99,7 +99,7 @@ TEST(Validity, TdAfsCriteriaAreCheckedForSParametersAndFDTD) {
 }
 
 TEST(Validity, ProjectChecksItsPartsInOrder) {
-    OwningProject project;
+    OwnedProject project;
     EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noExcitation, noTermination}));
     project.setTdAfsTerminationCriteria(new TdAfsTerminationCriteria);
     EXPECT_EQ(findingsOf(project), (QStringList{noBoundaries, noExcitation}));

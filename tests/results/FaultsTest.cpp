@@ -24,7 +24,7 @@ namespace {
 constexpr int manyRecords = 100000;  // more than any buffer holds
 
 bool writesProject(const QString& path) {
-    OwningProject project;
+    OwnedProject project;
     describe(project);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly)) return false;

@@ -3,19 +3,11 @@
 #include <QByteArray>
 #include <QString>
 
-#include "quarn/ProjectFile.h"
-#include "quarn/v6ProjectFile.h"
+#include "quarn/OwnedProject.h"
 
 namespace quarn::tool {
 
-/// A project that owns what it points to, whether a load created it or somebody handed it over.
-class OwnedProject : public v6ProjectFile {
-public:
-    OwnedProject() = default;
-    ~OwnedProject() { deleteContents(*this); }
-    OwnedProject(const OwnedProject&) = delete;
-    OwnedProject& operator=(const OwnedProject&) = delete;
-};
+using quarn::OwnedProject;
 
 /// A project and the text that it was loaded from.
 struct LoadedProject {
