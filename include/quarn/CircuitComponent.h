@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "quarn/Cartesian3D.h"
+#include "quarn/Description.h"
 #include "quarn/Engine.h"
 #include "quarn/Export.h"
 #include "quarn/TermType.h"
@@ -208,6 +209,9 @@ protected:
     Calibration m_calibration = KeepSelfKeepMutual;
     bool m_isPort;
     QString m_outputFilename;
+
+private:
+    friend struct blocktext::Description<CircuitComponent>;
 };
 
 QUARN_EXPORT bool operator==(const CircuitComponent::Pin& a, const CircuitComponent::Pin& b);

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "quarn/Description.h"
 #include "quarn/Engine.h"
 #include "quarn/Export.h"
 
@@ -47,6 +48,8 @@ public:
     friend bool operator!=(const StaticVoltageList& a, const StaticVoltageList& b) { return !(a == b); }
 
 private:
+    friend struct blocktext::Description<StaticVoltageList>;
+
     double m_conductorThreshold = 0.01;
     double m_residualThreshold = 100.0;
     std::uint32_t m_maximumIterations = 5000;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "quarn/Cartesian3D.h"
+#include "quarn/Description.h"
 #include "quarn/Engine.h"
 #include "quarn/Export.h"
 #include "quarn/TermType.h"
@@ -76,6 +77,8 @@ public:
     QString qstr() const;
 
 private:
+    friend struct blocktext::Description<WaveGuidePort>;
+
     WaveGuidePortType m_portType = Voltage;
     double m_amplitude = 1.0;
     double m_phase = 0.0;

@@ -53,22 +53,24 @@ struct Where {
     }
 };
 
-/// Where a member, of which another line of the block tells, has a value.
-template <class Access, class Value>
+/// Where a member, of which another line of the block tells, has one of the values.
+template <class Access, class... Values>
 struct OnlyFor {
     Access access;
-    Value value;
+    std::tuple<Values...> values;
 
     template <class Object>
     bool holds(const Object& object) const {
-        return valueIn(object, access) == value;
+        const auto isOneOf = [&](const auto&... each) { return ((valueIn(object, access) == each) || ...); };
+        return std::apply(isOneOf, values);
     }
     template <class... Lines>
     QString text(const std::tuple<Lines...>& lines) const {
         QString text = QStringLiteral("with");
         const auto addFrom = [&](const auto& line) {
-            if constexpr (std::decay_t<decltype(line.shape)>::canBeCondition) {
-                if (line.shape.isFor(access)) text += u' ' + line.shape.conditionText(value);
+            if constexpr (std::decay_t<decltype(line.shape)>::template canBeCondition<Access>) {
+                const auto condition = [&](const auto&... each) { return line.shape.conditionText(each...); };
+                if (line.shape.isFor(access)) text += u' ' + std::apply(condition, values);
             }
         };
         std::apply([&](const auto&... line) { (addFrom(line), ...); }, lines);
@@ -115,14 +117,14 @@ struct Line {
     constexpr auto where(Predicate predicate, const char* words) const {
         return with(Where<Predicate>{predicate, words}, show);
     }
-    /// Writes the line where the flag is set, or the value is the given one.
+    /// Writes the line where the flag is set, or the value is one of the given ones.
     template <class Access>
     constexpr auto onlyWith(Access flag) const {
         return onlyFor(flag, true);
     }
-    template <class Access, class Value>
-    constexpr auto onlyFor(Access access, Value value) const {
-        return with(OnlyFor<Access, Value>{access, value}, show);
+    template <class Access, class... Values>
+    constexpr auto onlyFor(Access access, Values... values) const {
+        return with(OnlyFor<Access, Values...>{access, {values...}}, show);
     }
     constexpr auto unlessEmpty() const {
         const auto access = shape.access;

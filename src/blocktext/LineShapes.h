@@ -30,7 +30,8 @@ struct LineShape {
         return Offer::Unknown;
     }
     static QString usuallyWritten() { return QStringLiteral("always"); }
-    static constexpr bool canBeCondition = false;  ///< whether conditionText(value) says what the line must tell
+    template <class>
+    static constexpr bool canBeCondition = false;  ///< whether other lines can depend on the member
 };
 
 /// A shape with a member behind it.
@@ -45,11 +46,8 @@ struct MemberShape : LineShape {
         return valueIn(a, access) == valueIn(b, access);
     }
     /// Whether `other` leads to the same member.
-    template <class Other>
-    constexpr bool isFor(const Other& other) const {
-        if constexpr (!std::is_same_v<Access, Other>) {
-            return false;
-        } else if constexpr (std::is_empty_v<Access>) {
+    constexpr bool isFor(const Access& other) const {
+        if constexpr (std::is_empty_v<Access>) {
             return true;
         } else {
             return access == other;
@@ -89,10 +87,13 @@ struct ValueLine : MemberShape<Access> {
         line.defaultValue = form.defaultText(valueIn(blank, this->access));
         builder.add(line);
     }
-    static constexpr bool canBeCondition = true;
-    template <class Value>
-    QString conditionText(const Value& value) const {
-        return key + QLatin1String(" ") + form.defaultText(value);
+    template <class Other>
+    static constexpr bool canBeCondition = std::is_same_v<Access, Other>;
+    template <class... Values>
+    QString conditionText(const Values&... values) const {
+        QStringList texts;
+        (texts << ... << form.defaultText(values));
+        return key + QLatin1String(" ") + texts.join(QLatin1String(" or "));
     }
 };
 
@@ -121,9 +122,10 @@ struct FlagLine : MemberShape<Access> {
         builder.add(line);
     }
     static QString usuallyWritten() { return QStringLiteral("where set"); }
-    static constexpr bool canBeCondition = true;
-    template <class Value>
-    QString conditionText(const Value&) const {
+    template <class Other>
+    static constexpr bool canBeCondition = std::is_same_v<Access, Other>;
+    template <class... Values>
+    QString conditionText(const Values&...) const {
         return key;
     }
 };
@@ -246,10 +248,6 @@ struct UnboundLine : LineShape {
     template <class Object>
     static bool areEqual(const Object&, const Object&) {
         return true;
-    }
-    template <class Other>
-    static constexpr bool isFor(const Other&) {
-        return false;
     }
 };
 

@@ -10,6 +10,7 @@
 #include <optional>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 
 #include "blocktext/NameTable.h"
 #include "blocktext/TextValues.h"
@@ -79,6 +80,27 @@ struct Element {
 template <class Array>
 constexpr Element<Array> element(Array array, std::size_t index) {
     return {array, index};
+}
+
+/// A member that a block begins anew, so that nothing remains of an earlier block of the same name.
+template <class Access>
+struct Anew {
+    Access access;
+
+    template <class Object>
+    constexpr const auto& operator()(const Object& object) const {
+        return std::invoke(access, object);
+    }
+    template <class Object>
+    auto& operator()(Object& object) const {
+        auto& value = std::invoke(access, object);
+        value = std::decay_t<decltype(value)>();
+        return value;
+    }
+};
+template <class Access>
+constexpr Anew<Access> anew(Access access) {
+    return {access};
 }
 
 /// The value in an object: `access` is a pointer to a member, a function that returns a reference, a Property,
@@ -342,5 +364,101 @@ constexpr NameFrom<Value, count> nameFrom(const NameTable<Value, count>& table, 
                                           Value unknown) {
     return {{}, &table, otherwise, unknown};
 }
+
+/// A name that is the whole rest of the line.
+template <class Names>
+struct WholeName : Names {
+    template <class Value>
+    bool read(QTextStream& in, Value& value) const {
+        value = valueOf(*this->table, readRestOfLine(in), this->unknown.value_or(value));
+        return true;
+    }
+};
+template <class Names>
+constexpr WholeName<Names> wholeName(Names names) {
+    return {names};
+}
+
+/// The numbers of an enumeration's values in the file.
+template <class Value, std::size_t count>
+using NumberTable = std::array<std::pair<Value, int>, count>;
+
+/// The number of an enumeration's value. A number that the table does not have reads as `unknown`. A value that it does
+/// not have is written as the number of `unknown`, or not at all where that has none either.
+template <class Value, std::size_t count>
+struct NumberFrom : Form {
+    const NumberTable<Value, count>* table;
+    Value unknown;
+
+    std::optional<int> numberOf(Value value) const {
+        std::optional<int> otherwise;
+        for (const auto& entry : *table) {
+            if (entry.first == value) return entry.second;
+            if (entry.first == unknown) otherwise = entry.second;
+        }
+        return otherwise;
+    }
+    bool isWritable(Value value) const { return numberOf(value).has_value(); }
+    void write(QTextStream& out, Value value) const { out << *numberOf(value); }
+    bool read(QTextStream& in, Value& value) const {
+        int number = 0;
+        if (!readValue(in, number)) return false;
+        value = unknown;
+        for (const auto& entry : *table) {
+            if (entry.second == number) value = entry.first;
+        }
+        return true;
+    }
+    QString defaultText(Value value) const { return isWritable(value) ? QString::number(*numberOf(value)) : QString(); }
+    template <class>
+    QString kind() const {
+        QStringList numbers;
+        for (const auto& entry : *table) numbers << QString::number(entry.second);
+        return numbers.join(QLatin1String(" or "));
+    }
+};
+template <class Value, std::size_t count>
+constexpr NumberFrom<Value, count> numberFrom(const NumberTable<Value, count>& table, Value unknown) {
+    return {{}, &table, unknown};
+}
+
+/// A number that counts from 0 in memory and from 1 in the file.
+struct CountedFromOne : Form {
+    static void write(QTextStream& out, unsigned index) { out << index + 1; }
+    static bool read(QTextStream& in, unsigned& index) {
+        int number = 0;
+        const bool isRead = readValue(in, number);
+        if (isRead) index = static_cast<unsigned>(number) - 1;
+        return isRead;
+    }
+    static QString defaultText(unsigned index) { return QString::number(index + 1); }
+    template <class>
+    static QString kind() {
+        return OneValue::kind<int>();
+    }
+};
+
+/// A number that an object may lack; its line is left out then.
+struct OptionalNumber : Form {
+    template <class Number>
+    static bool isWritable(const std::optional<Number>& number) {
+        return number.has_value();
+    }
+    template <class Number>
+    static void write(QTextStream& out, const std::optional<Number>& number) {
+        out << *number;
+    }
+    template <class Number>
+    static bool read(QTextStream& in, std::optional<Number>& number) {
+        Number found{};
+        const bool isRead = readValue(in, found);
+        if (isRead) number = found;
+        return isRead;
+    }
+    template <class Value>
+    static QString kind() {
+        return OneValue::kind<typename Value::value_type>();
+    }
+};
 
 }  // namespace quarn::blocktext

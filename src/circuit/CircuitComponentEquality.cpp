@@ -54,7 +54,8 @@ bool operator==(const Component::ImpedanceLine& a, const Component::ImpedanceLin
     return circuit::impedanceLineBlock.areEqual(a, b);
 }
 
-// Objects of different classes are never equal, even where nothing that is listed tells them apart.
+// Objects of different classes are never equal, even where nothing that is listed tells them apart. The members are
+// listed here, since neither they nor the order of their reports are those of the file.
 bool operator==(const Component& a, const Component& b) {
     const auto kind = member("m_circuitComponentType", kindOf, KindOnItsLine());
     if (typeid(a) != typeid(b)) return areEqual(a, b, kind);

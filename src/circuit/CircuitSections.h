@@ -7,11 +7,14 @@
 #include "quarn/WaveGuidePort.h"
 
 /// The sections of the project file that carry circuit components and waveguide ports: for each a writer of the whole
-/// block and a reader of what follows the block's open line. Writers return whether the stream is in order. Readers
-/// return new objects, never null.
+/// block, a reader of what follows the block's open line, and the block for the reference of the format. Writers return
+/// whether the stream is in order. Readers return new objects, never null.
 namespace quarn {
 
 class DelimManager;
+namespace blocktext {
+class FormatBuilder;
+}
 
 /// What a section holds. The caller owns the components that the manager lists.
 struct ComponentsPorts {
@@ -23,8 +26,10 @@ struct ComponentsPorts {
 bool writeComponentsPorts(DelimManager& delim, const ComponentManager* manager,
                           const StaticVoltageList* staticVoltages);
 ComponentsPorts readComponentsPorts(DelimManager& delim);
+void describeComponentsPorts(blocktext::FormatBuilder& builder);
 
 bool writeWaveGuidePorts(DelimManager& delim, const WaveGuidePortManager& manager);
 std::unique_ptr<WaveGuidePortManager> readWaveGuidePorts(DelimManager& delim);
+void describeWaveGuidePorts(blocktext::FormatBuilder& builder);
 
 }  // namespace quarn

@@ -19,6 +19,9 @@ constexpr blocktext::NameTable<TermType, 7> termTypes{{
     {TermType::Tristate, "Tristate"_key},
 }};
 
+constexpr auto termType = blocktext::nameFrom(termTypes, "Zundefined"_key);
+constexpr auto portTermType = blocktext::nameFrom(termTypes, "Zundefined"_key, TermType::InputOutput);
+
 constexpr blocktext::NameTable<Component::CircuitComponentType, 8> componentTypes{{
     {Component::PassiveLoad, "PassiveLoad"_key},
     {Component::SeriesVoltage, "SeriesVoltage"_key},
@@ -47,7 +50,7 @@ constexpr blocktext::NameTable<Component::Calibration, 4> calibrations{{
     {Component::RemoveSelfKeepMutual, "RemoveSelfKeepMutual"_key},
     {Component::AutomaticCalibration, "AutomaticCalibration"_key},
 }};
-constexpr auto undefinedCalibration = "Undefined"_key;
+constexpr auto calibration = blocktext::nameFrom(calibrations, "Undefined"_key);
 
 constexpr blocktext::NameTable<Component::ElementArrangement, 2> arrangements{{
     {Component::Parallel, "Parallel"_key},
@@ -70,8 +73,8 @@ constexpr auto pinGroupSignal =
     blocktext::nameFrom(pinGroupSignals, "UnknownPinGroupSignalType"_key, Component::PinGroup::UnknownSignal);
 
 inline QLatin1String of(Component::CircuitComponentType type) { return nameOf(componentTypes, type, ""_key); }
-inline QLatin1String of(Component::Calibration value) { return nameOf(calibrations, value, undefinedCalibration); }
+inline QLatin1String of(Component::Calibration value) { return calibration.nameIn(value); }
 inline QLatin1String of(Component::ElementArrangement value) { return nameOf(arrangements, value, ""_key); }
-inline QLatin1String of(TermType type) { return nameOf(termTypes, type, "Zundefined"_key); }
+inline QLatin1String of(TermType type) { return termType.nameIn(type); }
 
 }  // namespace quarn::names

@@ -1,225 +1,255 @@
-#include "blocktext/BlockWalker.h"
-#include "blocktext/BlockWriter.h"
+#include <deque>
+
 #include "circuit/CircuitSections.h"
-#include "circuit/ComponentKindSection.h"
+#include "circuit/ComponentRecord.h"
 #include "circuit/ImpedanceLineBlock.h"
-#include "quarn/ComponentKinds.h"
+#include "circuit/ManagerOf.h"
 
 namespace quarn {
 
 using namespace blocktext;
+using circuit::CapacitorCoefficients;
+using circuit::DiodeParameters;
+using circuit::KindValues;
+using circuit::PortLine;
+using circuit::ReadComponent;
+using circuit::SwitchProgram;
+using circuit::WrittenComponent;
 
 namespace {
 
-namespace key {
-constexpr auto ComponentsPorts = "ComponentsPorts"_key;
-constexpr auto PortType = "PortType"_key;
-constexpr auto NumberOfFeeds = "NumberOfFeeds"_key;
-constexpr auto NumberOfPorts = "NumberOfPorts"_key;
-constexpr auto FeedData = "FeedData"_key;
-constexpr auto ComponentName = "ComponentName"_key;
-constexpr auto EndPoint = "EndPoint"_key;
-constexpr auto ImpedanceLine = "ImpedanceLine"_key;
-constexpr auto XLocation = "XLocation"_key;
-constexpr auto YLocation = "YLocation"_key;
-constexpr auto ZLocation = "ZLocation"_key;
-constexpr auto CellEdgeDirection = "CellEdgeDirection"_key;
-constexpr auto IsPort = "IsPort"_key;
-constexpr auto FileName = "FileName"_key;
-constexpr auto TermType = "TermType"_key;
-constexpr auto Calibration = "Calibration"_key;
-constexpr auto NonlinearCapacitor = "NonlinearCapacitor"_key;
-constexpr auto StaticVoltageInfo = "StaticVoltageInfo"_key;
-constexpr auto Residual = "Residual"_key;
-constexpr auto ConductorThreshold = "ConductorThreshold"_key;
-constexpr auto MaximumIterations = "MaximumIterations"_key;
-constexpr auto StaticVoltagePoint = "StaticVoltagePoint"_key;
-constexpr auto Voltage = "Voltage"_key;
-}  // namespace key
+using Component = CircuitComponent;
 
-using Components = std::vector<std::unique_ptr<CircuitComponent>>;
+constexpr NumberTable<Component::ComponentDirection, 3> directions{
+    {{Component::X, 0}, {Component::Y, 1}, {Component::Z, 2}}};
+constexpr NumberTable<Component::Polarity, 2> polarities{{{Component::Positive, 1}, {Component::Negative, -1}}};
+constexpr NumberTable<Component::ElementArrangement, 2> arrangements{
+    {{Component::Series, 1}, {Component::Parallel, 2}}};
+constexpr NumberTable<Switch::State, 2> switchStates{{{Switch::Open, 0}, {Switch::Closed, 1}}};
 
-// The file counts cells from 1.
-void writeLocation(DelimManager& delim, QLatin1String word, unsigned index) { putLine(delim, word, index + 1); }
+constexpr auto switchBlock = [] {
+    using P = SwitchProgram;
+    using T = Switch::Transition;
+    return describe<P>("ProgrammableSwitch",
+                       Unknown::DropLine,
+                       Unreadable::KeepsValue,
+                       value("initial_state", &P::initialState, numberFrom(switchStates, Switch::Open)),
+                       entries("switch", &P::transitions, parts(&T::start, &T::duration)));
+}();
 
-auto onLocation(QLatin1String word, unsigned& index) {
-    return onWord(word, [&index](QTextStream& in) {
-        int number = 0;
-        if (readValue(in, number)) index = static_cast<unsigned>(number) - 1;
-    });
-}
+constexpr auto diodeBlock = [] {
+    using D = DiodeParameters;
+    return describe<D>("Diode",
+                       Unknown::DropLine,
+                       Unreadable::KeepsValue,
+                       value("Is", &D::saturationCurrent).in("A"),
+                       value("n", &D::emissionCoefficient),
+                       value("Vj", &D::junctionPotential).in("V"),
+                       value("Cj", &D::depletionCapacitance).in("F"),
+                       value("td", &D::transitTime).in("s"),
+                       value("m", &D::gradingCoefficient),
+                       value("FC", &D::forwardCoefficient));
+}();
 
-void writeComponent(DelimManager& delim, const CircuitComponent& component, int& nonlinearCapacitors) {
-    const WrittenBlock block(delim, key::FeedData);
-    putLine(delim, key::ComponentName, component.getComponentName());
-    for (const auto& point : component.getEndPoints()) circuit::pointBlock("EndPoint").write(delim, point);
-    for (const auto& line : component.getImpedanceLines()) circuit::impedanceLineBlock.write(delim, line);
-    writeLocation(delim, key::XLocation, component.getXIndex());
-    writeLocation(delim, key::YLocation, component.getYIndex());
-    writeLocation(delim, key::ZLocation, component.getZIndex());
-    const unsigned direction = component.getComponentDirection();
-    if (direction <= CircuitComponent::Z) putLine(delim, key::CellEdgeDirection, direction);
-    if (component.isPort()) putLine(delim, key::IsPort);
-    putLine(delim, key::FileName, component.getOutputFilename());
-    writeKind(delim, component, nonlinearCapacitors);
-    putLine(delim, key::TermType, names::of(component.termType()));
-    putLine(delim, key::Calibration, names::of(component.calibration()));
-}
+constexpr auto portLineBlock = [] {
+    return describe<PortLine>("PortLineMap",
+                              Unknown::DropLine,
+                              Unreadable::KeepsValue,
+                              value("Port", &PortLine::port, OptionalNumber()),
+                              value("Line", &PortLine::line, OptionalNumber()));
+}();
+
+constexpr auto coefficientsBlock = [] {
+    using C = CapacitorCoefficients;
+    return describe<C>("NonlinearCapacitor",
+                       Unknown::DropLine,
+                       Unreadable::KeepsValue,
+                       value("er1", &C::c1),
+                       value("er2", &C::c2),
+                       value("es", &C::vs),
+                       value("e0", &C::vc),
+                       value("a1", &C::a1),
+                       value("a2", &C::a2),
+                       value("a3", &C::a3));
+}();
+
+}  // namespace
+
+template <>
+struct blocktext::Description<CircuitComponent> {
+    using C = CircuitComponent;
+    using K = KindValues;
+
+    struct BaseOf {
+        template <class Record>
+        constexpr auto& operator()(Record& record) const {
+            return record.base;
+        }
+    };
+    // A member of the component that a record holds or refers to.
+    template <class Member>
+    static constexpr auto ofBase(Member member) {
+        return path(BaseOf(), member);
+    }
+
+    // The polarity stands before the impedance or behind it, as the kind has it.
+    template <class Record>
+    static constexpr auto block() {
+        constexpr auto polarity = value("Polarity", &K::polarity, numberFrom(polarities, C::Negative));
+        constexpr auto withImpedance = [](auto line) {
+            return line.onlyFor(&K::source, K::passiveLoad, K::voltageFeed, K::currentFeed);
+        };
+        constexpr auto ofFeeds = [](auto line) { return line.onlyFor(&K::source, K::voltageFeed, K::currentFeed); };
+        return describe<Record>(
+            "FeedData",
+            Unknown::DropLine,
+            Unreadable::KeepsValue,
+            text("ComponentName", ofBase(&C::m_componentName)),
+            innerBlocks(ofBase(&C::m_endPoints), circuit::pointBlock("EndPoint")),
+            innerBlocks(ofBase(&C::m_impLines), circuit::impedanceLineBlock),
+            value("XLocation", ofBase(&C::m_xIndex), CountedFromOne()),
+            value("YLocation", ofBase(&C::m_yIndex), CountedFromOne()),
+            value("ZLocation", ofBase(&C::m_zIndex), CountedFromOne()),
+            value("CellEdgeDirection", ofBase(&C::m_componentDirection), numberFrom(directions, C::UndefinedDirection)),
+            flag("IsPort", ofBase(&C::m_isPort)),
+            text("FileName", ofBase(&C::m_outputFilename)),
+            value("Source", &K::source).where([](const K& kind) { return kind.source >= 0; }, "unless lumped"),
+            polarity.onlyFor(&K::source, K::voltageFeed, K::currentFeed, K::programmableSwitch, K::diode),
+            value("Resistance", &K::resistance)
+                .onlyFor(&K::source, K::passiveLoad, K::voltageFeed, K::currentFeed, K::nonlinearCapacitor)
+                .in("ohm"),
+            withImpedance(value("Inductance", &K::inductance)).in("H"),
+            withImpedance(value("Capacitance", &K::capacitance)).in("F"),
+            value("NonlinearCapIndex", &K::capacitorIndex).onlyFor(&K::source, K::nonlinearCapacitor),
+            polarity.onlyFor(&K::source, K::passiveLoad, K::nonlinearCapacitor).onlyWritten(),
+            ofFeeds(value("Amplitude", &K::amplitude)).in("V or A"),
+            ofFeeds(value("Phase", &K::phase)).in("rad"),
+            ofFeeds(value("Delay", &K::delay)),
+            withImpedance(value("Type", &K::arrangement, numberFrom(arrangements, C::Parallel))),
+            flag("IsActive", &K::isActive, " "),
+            value("WaveformIndex", &K::waveformIndex).onlyWith(&K::isActive),
+            text("FieldExcitationFilename", &K::fieldExcitationFilename).unlessEmpty(),
+            value("FieldExcitationMeshNum", &K::fieldExcitationMeshNum)
+                .where([](const K& kind) { return kind.fieldExcitationMeshNum >= 0; }, "unless negative"),
+            value("FieldExcitationModeNum", &K::fieldExcitationModeNum)
+                .where([](const K& kind) { return kind.fieldExcitationModeNum >= 0; }, "unless negative"),
+            value("SwitchTimeStep", path(&K::singleTransition, &Switch::Transition::start)).onlyRead(),
+            value("SwitchDuration", path(&K::singleTransition, &Switch::Transition::duration)).onlyRead(),
+            innerBlock(&K::switchProgram, switchBlock).onlyFor(&K::source, K::programmableSwitch),
+            innerBlock(&K::diodeParameters, diodeBlock).onlyFor(&K::source, K::diode),
+            text("SFileName", &K::sFileName).onlyFor(&K::source, K::sBlock),
+            innerBlocks(&K::portLines, portLineBlock).onlyRead(),
+            value("TermType", ofBase(&C::m_termType), names::termType),
+            value("Calibration", ofBase(&C::m_calibration), names::calibration));
+    }
+};
+
+template <>
+struct blocktext::Description<StaticVoltageList> {
+    using List = StaticVoltageList;
+    using Point = List::VoltagePoint;
+
+    static constexpr auto settings() {
+        return describe<List>("StaticVoltageInfo",
+                              Unknown::DropLine,
+                              Unreadable::KeepsValue,
+                              value("Residual", &List::m_residualThreshold),
+                              value("ConductorThreshold", &List::m_conductorThreshold),
+                              value("MaximumIterations", &List::m_maximumIterations));
+    }
+    static constexpr auto point() {
+        return describe<Point>("StaticVoltagePoint",
+                               Unknown::DropLine,
+                               Unreadable::KeepsValue,
+                               value("XLocation", &Point::x),
+                               value("YLocation", &Point::y),
+                               value("ZLocation", &Point::z),
+                               value("Voltage", &Point::voltage).in("V"));
+    }
+    static constexpr auto points = &List::m_points;
+};
+
+namespace {
+
+// What a reader finds. Records stand in a deque, since one that moves would be copied.
+struct Section {
+    int portType = 0;
+    int count = 0;  // of feeds or ports, which older files give
+    std::deque<ReadComponent> components;
+    std::vector<CapacitorCoefficients> capacitors;
+    StaticVoltageList voltages;
+};
+
+constexpr auto settingsBlock = Description<StaticVoltageList>::settings();
+constexpr auto pointBlock = Description<StaticVoltageList>::point();
+
+constexpr auto portTypeLine = value("PortType", &Section::portType);
+constexpr auto sectionBlock = [] {
+    constexpr auto hasVoltages = [](const Section& section) { return !section.voltages.getPoints().empty(); };
+    return describe<Section>("ComponentsPorts",
+                             Unknown::DropLine,
+                             Unreadable::KeepsValue,
+                             portTypeLine,
+                             value("NumberOfFeeds", &Section::count).onlyRead(),
+                             value("NumberOfPorts", &Section::count).onlyRead(),
+                             innerBlocks(&Section::components, Description<CircuitComponent>::block<ReadComponent>()),
+                             innerBlocks(&Section::capacitors, coefficientsBlock),
+                             innerBlock(&Section::voltages, settingsBlock).where(hasVoltages, "with static voltages"),
+                             innerBlocks(path(&Section::voltages, Description<StaticVoltageList>::points), pointBlock));
+}();
 
 void writeComponents(DelimManager& delim, const ComponentManager& manager) {
-    int nonlinearCapacitors = 0;
+    constexpr auto block = Description<CircuitComponent>::block<WrittenComponent>();
+    int capacitors = 0;
     for (const CircuitComponent* component : manager.getComponents()) {
-        writeComponent(delim, *component, nonlinearCapacitors);
+        block.write(delim, circuit::recordOf(*component, capacitors));
     }
     for (const CircuitComponent* component : manager.getComponents()) {
         if (const auto* capacitor = dynamic_cast<const NonlinearCapacitor*>(component)) {
-            const WrittenBlock coefficients(delim, key::NonlinearCapacitor);
-            writeCoefficients(delim, *capacitor);
+            coefficientsBlock.write(delim, circuit::coefficientsOf(*capacitor));
         }
     }
 }
 
-// A block of a component as it was read; the coefficients of nonlinear capacitors come later in the file.
-struct Record {
-    QString name = QStringLiteral("noname");
-    std::vector<tavrix::Cartesian3D> endPoints;
-    std::vector<CircuitComponent::ImpedanceLine> impedanceLines;
-    unsigned x = 0;
-    unsigned y = 0;
-    unsigned z = 0;
-    int direction = CircuitComponent::UndefinedDirection;
-    bool isPort = false;
-    QString fileName;
-    TermType termType = TermType::InputOutput;
-    CircuitComponent::Calibration calibration = CircuitComponent::KeepSelfKeepMutual;
-    KindRecord kind;
-};
-
-void readRecord(DelimManager& delim, Record& record) {
-    walkKind(
-        delim,
-        record.kind,
-        onText(key::ComponentName, record.name),
-        onBlock(key::EndPoint, [&] { circuit::pointBlock("EndPoint").read(delim, record.endPoints.emplace_back()); }),
-        onBlock(key::ImpedanceLine,
-                [&] { circuit::impedanceLineBlock.read(delim, record.impedanceLines.emplace_back()); }),
-        onLocation(key::XLocation, record.x),
-        onLocation(key::YLocation, record.y),
-        onLocation(key::ZLocation, record.z),
-        onValue(key::CellEdgeDirection, record.direction),
-        onFlag(key::IsPort, record.isPort),
-        onText(key::FileName, record.fileName),
-        onName(key::TermType, names::termTypes, record.termType),
-        onName(key::Calibration, names::calibrations, record.calibration));
-}
-
-std::unique_ptr<CircuitComponent> componentOf(const Record& record,
-                                              const std::vector<CapacitorCoefficients>& capacitors) {
-    const bool hasDirection = record.direction >= 0 && record.direction <= 2;
-    CircuitComponent base(record.name,
-                          record.endPoints,
-                          record.impedanceLines,
-                          record.x,
-                          record.y,
-                          record.z,
-                          hasDirection ? static_cast<CircuitComponent::ComponentDirection>(record.direction)
-                                       : CircuitComponent::UndefinedDirection,
-                          record.isPort);
-    base.setTermType(record.termType);
-    base.setCalibration(record.calibration);
-    base.setOutputFilename(record.fileName);
-    return makeComponent(base, record.kind, capacitors);
-}
-
 // The active port is the position of the last active record's component. A record without a component does not count.
-std::unique_ptr<ComponentManager> managerOf(const std::vector<Record>& records,
-                                            const std::vector<CapacitorCoefficients>& capacitors,
-                                            bool computeSParameters) {
-    Components components;
+std::unique_ptr<ComponentManager> managerOf(const Section& section) {
+    const bool computesSParameters = section.portType != 0;
+    std::vector<std::unique_ptr<CircuitComponent>> components;
     int activePort = -1;
-    for (const Record& record : records) {
-        auto component = componentOf(record, capacitors);
+    for (const ReadComponent& record : section.components) {
+        auto component = circuit::componentOf(record, section.capacitors);
         if (!component) continue;
-        if (computeSParameters && record.kind.isActive) activePort = static_cast<int>(components.size());
+        if (computesSParameters && record.isActive) activePort = static_cast<int>(components.size());
         components.push_back(std::move(component));
     }
-    std::vector<CircuitComponent*> pointers;
-    for (const auto& component : components) pointers.push_back(component.get());
-    auto manager = std::make_unique<ComponentManager>(pointers, computeSParameters, activePort);
-    for (auto& component : components) static_cast<void>(component.release());
-    return manager;
-}
-
-void writeStaticVoltages(DelimManager& delim, const StaticVoltageList& voltages) {
-    {
-        const WrittenBlock block(delim, key::StaticVoltageInfo);
-        putLine(delim, key::Residual, voltages.getVoltageResidualThreshhold());
-        putLine(delim, key::ConductorThreshold, voltages.getVoltageConductorThreshhold());
-        putLine(delim, key::MaximumIterations, voltages.getMaximumIterations());
-    }
-    for (const auto& point : voltages.getPoints()) {
-        const WrittenBlock block(delim, key::StaticVoltagePoint);
-        putLine(delim, key::XLocation, point.x);
-        putLine(delim, key::YLocation, point.y);
-        putLine(delim, key::ZLocation, point.z);
-        putLine(delim, key::Voltage, point.voltage);
-    }
-}
-
-void readStaticVoltageInfo(DelimManager& delim, StaticVoltageList& voltages) {
-    double residual = voltages.getVoltageResidualThreshhold();
-    double conductor = voltages.getVoltageConductorThreshhold();
-    unsigned iterations = voltages.getMaximumIterations();
-    walkBlock(delim,
-              Unknown::DropLine,
-              onValue(key::Residual, residual),
-              onValue(key::ConductorThreshold, conductor),
-              onValue(key::MaximumIterations, iterations));
-    voltages.setVoltageResidualThreshhold(residual);
-    voltages.setVoltageConductorThreshhold(conductor);
-    voltages.setMaximumIterations(iterations);
-}
-
-void readStaticVoltagePoint(DelimManager& delim, StaticVoltageList& voltages) {
-    StaticVoltageList::VoltagePoint point;
-    walkBlock(delim,
-              Unknown::DropLine,
-              onValue(key::XLocation, point.x),
-              onValue(key::YLocation, point.y),
-              onValue(key::ZLocation, point.z),
-              onValue(key::Voltage, point.voltage));
-    voltages.addPoint(point);
+    return circuit::managerOf<ComponentManager>(std::move(components), computesSParameters, activePort);
 }
 
 }  // namespace
 
+// A record is made and written for one component at a time, so that the section is not written as a whole.
 bool writeComponentsPorts(DelimManager& delim, const ComponentManager* manager,
                           const StaticVoltageList* staticVoltages) {
     const bool hasStaticVoltages = staticVoltages && !staticVoltages->getPoints().empty();
     if (!manager && !hasStaticVoltages) return false;
-    const WrittenBlock block(delim, key::ComponentsPorts);
-    putLine(delim, key::PortType, manager && manager->computeSParameters() ? 1 : 0);
+    const WrittenBlock block(delim, sectionBlock.name);
+    Section head;
+    head.portType = manager && manager->computeSParameters() ? 1 : 0;
+    portTypeLine.write(delim, head);
     if (manager) writeComponents(delim, *manager);
-    if (hasStaticVoltages) writeStaticVoltages(delim, *staticVoltages);
+    if (hasStaticVoltages) {
+        settingsBlock.write(delim, *staticVoltages);
+        for (const auto& point : staticVoltages->getPoints()) pointBlock.write(delim, point);
+    }
     return isOk(delim);
 }
 
 ComponentsPorts readComponentsPorts(DelimManager& delim) {
-    std::vector<Record> records;
-    std::vector<CapacitorCoefficients> capacitors;
-    int portType = 0;
-    int countToIgnore = 0;
-    auto voltages = std::make_unique<StaticVoltageList>();
-    walkBlock(delim,
-              Unknown::DropLine,
-              onValue(key::PortType, portType),
-              onValue(key::NumberOfFeeds, countToIgnore),
-              onValue(key::NumberOfPorts, countToIgnore),
-              onBlock(key::FeedData, [&] { readRecord(delim, records.emplace_back()); }),
-              onBlock(key::NonlinearCapacitor, [&] { capacitors.push_back(readCoefficients(delim)); }),
-              onBlock(key::StaticVoltageInfo, [&] { readStaticVoltageInfo(delim, *voltages); }),
-              onBlock(key::StaticVoltagePoint, [&] { readStaticVoltagePoint(delim, *voltages); }));
-    return {managerOf(records, capacitors, portType != 0), std::move(voltages)};
+    Section section;
+    sectionBlock.read(delim, section);
+    return {managerOf(section), std::make_unique<StaticVoltageList>(std::move(section.voltages))};
 }
+
+void describeComponentsPorts(FormatBuilder& builder) { sectionBlock.describeTo(builder, Section()); }
 
 }  // namespace quarn

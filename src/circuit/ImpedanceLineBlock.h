@@ -73,9 +73,6 @@ inline constexpr NameTable<int, 5> lineTypes{{
 
 inline constexpr auto impedanceLineBlock = [] {
     using Line = CircuitComponent::ImpedanceLine;
-    constexpr auto hasInjectionLines = [](const Line& line) {
-        return line.type == Line::Coaxial || line.type == Line::Bundle;
-    };
     return describe<Line>(
         "ImpedanceLine",
         Unknown::DropLine,
@@ -90,8 +87,8 @@ inline constexpr auto impedanceLineBlock = [] {
         innerBlocks(&Line::sheetCorners, pointBlock("CornerPoint"))
             .onlyFor(&Line::type, Line::Sheet)
             .reports("quarn::CircuitComponent::ImpedanceLine::sheetCorners"),
-        innerBlock(&Line::center, pointBlock("Center")).onlyFor(&Line::type, Line::Coaxial).notCompared(),
-        innerBlock(&Line::normal, pointBlock("Normal")).onlyFor(&Line::type, Line::Coaxial).notCompared(),
+        innerBlock(anew(&Line::center), pointBlock("Center")).onlyFor(&Line::type, Line::Coaxial).notCompared(),
+        innerBlock(anew(&Line::normal), pointBlock("Normal")).onlyFor(&Line::type, Line::Coaxial).notCompared(),
         innerBlock(&Line::radius1, bareValues<double>("Radius1", Unreadable::KeepsValue))
             .onlyFor(&Line::type, Line::Coaxial)
             .notCompared(),
@@ -99,7 +96,7 @@ inline constexpr auto impedanceLineBlock = [] {
             .onlyFor(&Line::type, Line::Coaxial)
             .notCompared(),
         innerBlocks(&Line::injectionLines, segmentBlock<Line::Segment>("InjectionLine"))
-            .where(hasInjectionLines, "with LineType Coaxial or Bundle")
+            .onlyFor(&Line::type, Line::Coaxial, Line::Bundle)
             .reports("quarn::CircuitComponent::ImpedanceLine::injectionLines"),
         innerBlocks(&Line::pinGroups, pinGroupBlock)
             .onlyFor(&Line::type, Line::MultiPin)

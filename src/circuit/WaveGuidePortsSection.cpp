@@ -1,122 +1,74 @@
-#include "blocktext/BlockWalker.h"
-#include "blocktext/BlockWriter.h"
+#include <deque>
+
 #include "circuit/CircuitSections.h"
-#include "circuit/ComponentNames.h"
 #include "circuit/ImpedanceLineBlock.h"
+#include "circuit/ManagerOf.h"
 #include "circuit/WaveGuideNames.h"
 
 namespace quarn {
 
 using namespace blocktext;
 
+template <>
+struct blocktext::Description<WaveGuidePort> {
+    using P = WaveGuidePort;
+    static constexpr auto block() {
+        constexpr auto isNeitherModalNorVoltage = [](const P& port) {
+            return port.m_portType != P::Modal && port.m_portType != P::Voltage;
+        };
+        return describe<P>(
+            "PortData",
+            Unknown::DropLine,
+            Unreadable::KeepsValue,
+            choice("IsModal", &P::m_portType, P::Modal),
+            choice("IsVoltage", &P::m_portType, P::Voltage),
+            choice("IsCurrent", &P::m_portType, P::Current).where(isNeitherModalNorVoltage, "for any other type"),
+            value("PortNumber", &P::m_waveGuideNumber),
+            value("ModeNumber", &P::m_modeNumber),
+            value("Offset", &P::m_offset).in("m"),
+            value("ImpedanceType", &P::m_impedanceType, wholeName(nameFrom(names::impedanceTypes))),
+            value("Resistance", &P::m_refResistance).in("ohm"),
+            value("Amplitude", &P::m_amplitude),
+            value("Phase", &P::m_phase).in("rad"),
+            text("FileName", &P::m_outputFilename),
+            text("ModeName", &P::m_modeName),
+            value("TermType", &P::m_termType, names::portTermType),
+            innerBlock(anew(&P::m_snappedHead), circuit::pointBlock("SnappedHead")),
+            innerBlock(anew(&P::m_snappedTail), circuit::pointBlock("SnappedTail")),
+            innerBlocks(&P::m_planarPolygon, circuit::pointBlock("PolygonPoint")));
+    }
+};
+
 namespace {
 
-namespace key {
-constexpr auto WaveGuidePorts = "WaveGuidePorts"_key;
-constexpr auto PortData = "PortData"_key;
-constexpr auto IsModal = "IsModal"_key;
-constexpr auto IsVoltage = "IsVoltage"_key;
-constexpr auto IsCurrent = "IsCurrent"_key;
-constexpr auto PortNumber = "PortNumber"_key;
-constexpr auto ModeNumber = "ModeNumber"_key;
-constexpr auto Offset = "Offset"_key;
-constexpr auto ImpedanceType = "ImpedanceType"_key;
-constexpr auto Resistance = "Resistance"_key;
-constexpr auto Amplitude = "Amplitude"_key;
-constexpr auto Phase = "Phase"_key;
-constexpr auto FileName = "FileName"_key;
-constexpr auto ModeName = "ModeName"_key;
-constexpr auto TermType = "TermType"_key;
-constexpr auto SnappedHead = "SnappedHead"_key;
-constexpr auto SnappedTail = "SnappedTail"_key;
-constexpr auto PolygonPoint = "PolygonPoint"_key;
-}  // namespace key
+// A deque, since a port that moves would be copied.
+struct Section {
+    std::deque<WaveGuidePort> ports;
+};
 
-QLatin1String flagOf(WaveGuidePort::WaveGuidePortType type) {
-    if (type == WaveGuidePort::Modal) return key::IsModal;
-    return type == WaveGuidePort::Voltage ? key::IsVoltage : key::IsCurrent;
-}
-
-void writePort(DelimManager& delim, const WaveGuidePort& port) {
-    const WrittenBlock block(delim, key::PortData);
-    putLine(delim, flagOf(port.getWaveGuidePortType()));
-    putLine(delim, key::PortNumber, port.getWaveGuideNumber());
-    putLine(delim, key::ModeNumber, port.getWaveGuideModeNumber());
-    putLine(delim, key::Offset, port.getWaveGuideOffset());
-    const auto impedance = nameOf(names::impedanceTypes, port.getWaveGuideImpedanceType(), QLatin1String());
-    if (!impedance.isEmpty()) putLine(delim, key::ImpedanceType, impedance);
-    putLine(delim, key::Resistance, port.getWaveGuideRefResistance());
-    putLine(delim, key::Amplitude, port.getWaveGuideAmplitude());
-    putLine(delim, key::Phase, port.getWaveGuidePhase());
-    putLine(delim, key::FileName, port.getOutputFilename());
-    putLine(delim, key::ModeName, port.getWaveGuideModeName());
-    putLine(delim, key::TermType, names::of(port.termType()));
-    circuit::pointBlock("SnappedHead").write(delim, port.getSnappedHead());
-    circuit::pointBlock("SnappedTail").write(delim, port.getSnappedTail());
-    for (const auto& point : port.planarPolygon()) circuit::pointBlock("PolygonPoint").write(delim, point);
-}
-
-std::unique_ptr<WaveGuidePort> readPort(DelimManager& delim) {
-    auto port = std::make_unique<WaveGuidePort>();
-    auto type = port->getWaveGuidePortType();
-    auto impedance = port->getWaveGuideImpedanceType();
-    auto termType = port->termType();
-    std::vector<tavrix::Cartesian3D> polygon;
-    walkBlock(
-        delim,
-        Unknown::DropLine,
-        onChoice(key::IsModal, type, WaveGuidePort::Modal),
-        onChoice(key::IsVoltage, type, WaveGuidePort::Voltage),
-        onChoice(key::IsCurrent, type, WaveGuidePort::Current),
-        onSetting(key::PortNumber, *port, &WaveGuidePort::setWaveGuideNumber),
-        onSetting(key::ModeNumber, *port, &WaveGuidePort::setWaveGuideModeNumber),
-        onSetting(key::Offset, *port, &WaveGuidePort::setWaveGuideOffset),
-        onWord(key::ImpedanceType,
-               [&](QTextStream& in) { impedance = valueOf(names::impedanceTypes, readRestOfLine(in), impedance); }),
-        onSetting(key::Resistance, *port, &WaveGuidePort::setWaveGuideRefResistance),
-        onSetting(key::Amplitude, *port, &WaveGuidePort::setWaveGuideAmplitude),
-        onSetting(key::Phase, *port, &WaveGuidePort::setWaveGuidePhase),
-        onSetting(key::FileName, *port, &WaveGuidePort::setOutputFilename),
-        onSetting(key::ModeName, *port, &WaveGuidePort::setWaveGuideModeName),
-        onName(key::TermType, names::termTypes, termType, TermType::InputOutput),
-        onBlock(key::SnappedHead,
-                [&] {
-                    tavrix::Cartesian3D p;
-                    circuit::pointBlock("").read(delim, p);
-                    port->setSnappedHead(p);
-                }),
-        onBlock(key::SnappedTail,
-                [&] {
-                    tavrix::Cartesian3D p;
-                    circuit::pointBlock("").read(delim, p);
-                    port->setSnappedTail(p);
-                }),
-        onBlock(key::PolygonPoint, [&] { circuit::pointBlock("").read(delim, polygon.emplace_back()); }));
-    port->setWaveGuidePortType(type);
-    port->setWaveGuideImpedanceType(impedance);
-    port->setTermType(termType);
-    port->setPlanarPolygon(polygon);
-    return port;
-}
+constexpr auto portBlock = Description<WaveGuidePort>::block();
+constexpr auto sectionBlock = [] {
+    return describe<Section>(
+        "WaveGuidePorts", Unknown::DropLine, Unreadable::KeepsValue, innerBlocks(&Section::ports, portBlock));
+}();
 
 }  // namespace
 
 bool writeWaveGuidePorts(DelimManager& delim, const WaveGuidePortManager& manager) {
-    const WrittenBlock block(delim, key::WaveGuidePorts);
-    for (const WaveGuidePort* port : manager.getWaveguidePorts()) writePort(delim, *port);
+    const WrittenBlock block(delim, sectionBlock.name);
+    for (const WaveGuidePort* port : manager.getWaveguidePorts()) portBlock.write(delim, *port);
     return true;
 }
 
 // Ports keep the order of the file, and two ports of the same waveguide and mode are both kept.
 std::unique_ptr<WaveGuidePortManager> readWaveGuidePorts(DelimManager& delim) {
+    Section section;
+    sectionBlock.read(delim, section);
     std::vector<std::unique_ptr<WaveGuidePort>> ports;
-    walkBlock(delim, Unknown::DropLine, onBlock(key::PortData, [&] { ports.push_back(readPort(delim)); }));
-    std::vector<WaveGuidePort*> pointers;
-    pointers.reserve(ports.size());
-    for (const auto& port : ports) pointers.push_back(port.get());
-    auto manager = std::make_unique<WaveGuidePortManager>(pointers);
-    for (auto& port : ports) static_cast<void>(port.release());
-    return manager;
+    for (const auto& port : section.ports) ports.push_back(std::make_unique<WaveGuidePort>(port));
+    return circuit::managerOf<WaveGuidePortManager>(std::move(ports));
 }
+
+void describeWaveGuidePorts(FormatBuilder& builder) { sectionBlock.describeTo(builder, Section()); }
 
 }  // namespace quarn

@@ -19,7 +19,7 @@ namespace {
 
 /// A block for each request of a list. A request that could not be read is left out.
 template <class Request, bool (*write)(DelimManager&, const Request&), bool (*read)(DelimManager&, Request&)>
-constexpr Section eachOf(QLatin1String name, void (*describe)(FormatBuilder&) = nullptr) {
+constexpr Section eachOf(QLatin1String name, void (*describe)(FormatBuilder&)) {
     const auto writeAll = [](DelimManager& delim, const v6ProjectFile& project) {
         for (const auto& request : std::get<const std::vector<Request>&>(ProjectContents::of(project))) {
             write(delim, request);
@@ -37,7 +37,7 @@ constexpr Section eachOf(QLatin1String name, void (*describe)(FormatBuilder&) = 
 
 /// The block of a request that the project has or not, and that writes and reads itself.
 template <class Request>
-constexpr Section onlyOne(QLatin1String name, void (*describe)(FormatBuilder&) = nullptr) {
+constexpr Section onlyOne(QLatin1String name, void (*describe)(FormatBuilder&)) {
     const auto write = [](DelimManager& delim, const v6ProjectFile& project) {
         const Request* request = std::get<Request* const&>(ProjectContents::of(project));
         return request && request->streamOut(delim);
@@ -80,27 +80,27 @@ bool StreamInHACRequest(DelimManager& delim, v6ProjectFile& project) {
 }  // namespace
 
 const Section indexedPointsSection =
-    eachOf<NearZoneMultiFieldIndexedPoint, writeIndexedPoint, readIndexedPoint>("MultiFieldIndexedPoint"_key);
+    eachOf<NearZoneMultiFieldIndexedPoint, writeIndexedPoint, readIndexedPoint>(requestName::indexedPoint, describeIndexedPoint);
 
 const Section interpolatedPointsSection =
     eachOf<NearZoneMultiFieldInterpolatedPoint, writeInterpolatedPoint, readInterpolatedPoint>(
-        "MultiFieldInterpolatedPoint"_key);
+        requestName::interpolatedPoint, describeInterpolatedPoint);
 
 const Section multiPointFieldRequestsSection =
     eachOf<MultiPointFieldRequest, writeMultiPointFieldRequest, readMultiPointFieldRequest>(
-        "MultiPointFieldRequest"_key);
+        requestName::multiPointField, describeMultiPointField);
 
 const Section rawSARPlanesSection{
-    "RawSARPlanes"_key, Unreadable::KeepsValue, StreamOutRawSARPlanes, StreamInRawSARPlanes, nullptr};
+    requestName::rawSARPlanes, Unreadable::KeepsValue, StreamOutRawSARPlanes, StreamInRawSARPlanes, describeRawSARPlanes};
 
-const Section temperatureRiseSection = onlyOne<TemperatureRiseRequest>("TemperatureRiseRequest"_key);
+const Section temperatureRiseSection = onlyOne<TemperatureRiseRequest>(requestName::temperatureRise, describeTemperatureRise);
 
-const Section sarAveragingSection = onlyOne<SARAveragingRequest>("SARAveraging"_key);
+const Section sarAveragingSection = onlyOne<SARAveragingRequest>(requestName::sarAveraging, describeSARAveraging);
 
 const Section farZoneRequestsSection{
-    "FarZoneRequests"_key, Unreadable::KeepsValue, StreamOutFarZoneRequests, StreamInFarZoneRequests, nullptr};
+    requestName::farZone, Unreadable::KeepsValue, StreamOutFarZoneRequests, StreamInFarZoneRequests, describeFarZoneRequests};
 
 const Section hacRequestsSection{
-    "HACRequest"_key, Unreadable::KeepsValue, StreamOutHACRequests, StreamInHACRequest, nullptr};
+    requestName::hac, Unreadable::KeepsValue, StreamOutHACRequests, StreamInHACRequest, describeHACRequest};
 
 }  // namespace quarn

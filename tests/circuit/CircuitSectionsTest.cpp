@@ -250,10 +250,9 @@ TEST(CircuitSections, ClearedComponentsAndPortsStayAlive) {
 
 TEST(CircuitSections, PortLinesAreReadForSBlocks) {
     OwnedProject project;
-    load(
-        project,
-        fileOf(
-            "ComponentsPorts{ FeedData{ PortLineMap{ Port 1; Line 2; } PortLineMap{ Line 4; Port 3; } Source 9; } } "));
+    load(project,
+         fileOf("ComponentsPorts{ FeedData{ PortLineMap{ Port 1; Line 2; } PortLineMap{ Line 4; Port 3; } "
+                "PortLineMap{ Port 5; } PortLineMap{ Line 6; } Source 9; } } "));
     const auto* block = dynamic_cast<const SBlock*>(project.getComponentManager()->getComponent(0));
     ASSERT_TRUE(block);
     EXPECT_EQ(block->getPortMap(), (std::map<int, int>{{1, 2}, {3, 4}}));
@@ -341,7 +340,7 @@ const Row componentRows[] = {
     {"OtherSourcesMakeNoComponent", "FeedData{ } FeedData{ Source 8; } FeedData{ Source 10; } FeedData{ Source -1; }", ""},
     {"CellsCountFrom1InTheFile", "FeedData{ Source 0; XLocation 0; YLocation 7; ZLocation 1; CellEdgeDirection 1; }",
      record(loadOf(), "XLocation 0; YLocation 7; ZLocation 1; CellEdgeDirection 1; ")},
-    {"UnknownDirectionsAreNotSaved", "FeedData{ Source 0; CellEdgeDirection 3; } FeedData{ Source 0; CellEdgeDirection -1; }",
+    {"UnknownDirectionsAreNotSaved", "FeedData{ Source 0; CellEdgeDirection 1; CellEdgeDirection 3; } FeedData{ Source 0; CellEdgeDirection -1; }",
      record(loadOf()).repeated(2)},
     {"NamesAreTheTrimmedRestOfTheirLine", "FeedData{ ComponentName  a  b ; FileName \tc d ; Source 9; SFileName e f; }",
      record("Source 9; SFileName e f; ").replace("noname", "a  b").replace("FileName ; ", "FileName c d; ")},
@@ -373,11 +372,14 @@ const Row componentRows[] = {
     {"UnknownLineTypeHasNoExtent", "FeedData{ Source 0; ImpedanceLine{ Pin1 4; LineType Foo; Radius 3; MajorAxis{ X 1; } } }",
      blockWith("ImpedanceLine{ Pin0 -1; Pin1 4; } ")},
     {"LinePartsHaveDefaults", "FeedData{ Source 0; ImpedanceLine{ LineType MultiPin; PinGroup{ SignalType Ground; ModelType equal; Pin{ } foo{ Pin{ } } } } "
-     "ImpedanceLine{ LineType Cylindrical; } ImpedanceLine{ LineType Bundle; InjectionLine{ Z2 1; } } }",
+     "ImpedanceLine{ LineType Cylindrical; } ImpedanceLine{ LineType Bundle; InjectionLine{ Z2 1; } } "
+     "ImpedanceLine{ LineType Coaxial; Center{ X 1; } Center{ Y 2; } Normal{ Z 1; } Normal{ } } }",
      blockWith("ImpedanceLine{ Pin0 -1; Pin1 -1; LineType MultiPin; PinGroup{ Name ; SignalType UnknownPinGroupSignalType; "
                "ModelType UnknownPinGroupModelType; Pin{ Name <unnamed pin>; X 0; Y 0; Z 0; Weight 0; } } } "
                "ImpedanceLine{ Pin0 -1; Pin1 -1; LineType Cylindrical; Radius -1; } "
-               "ImpedanceLine{ Pin0 -1; Pin1 -1; LineType Bundle; InjectionLine{ X1 0; Y1 0; Z1 0; X2 0; Y2 0; Z2 1; } } ")},
+               "ImpedanceLine{ Pin0 -1; Pin1 -1; LineType Bundle; InjectionLine{ X1 0; Y1 0; Z1 0; X2 0; Y2 0; Z2 1; } } "
+               "ImpedanceLine{ Pin0 -1; Pin1 -1; LineType Coaxial; Center{ X 0; Y 2; Z 0; } Normal{ X 0; Y 0; Z 0; } "
+               "Radius1{ 0; } Radius2{ 0; } } ")},
     {"UnknownKeysAndBlocksAreSkipped", "NumberOfFeeds 3; NumberOfPorts 2; foo PortType 1; bar{ FeedData{ Source 0; } } "
      "FeedData{ foo Source 1; bar{ Source 1; } PortLineMap{ Port 1; Line 2; } Source 0; }", record(loadOf())},
     {"StaticVoltagesHaveDefaults", "StaticVoltagePoint{ } StaticVoltagePoint{ foo XLocation 9; YLocation 2; }",
@@ -403,7 +405,7 @@ const Row waveGuideRows[] = {
     {"LastFlagIsTheType", "PortData{ IsModal; IsCurrent; }", portWith("IsVoltage", "IsCurrent")},
     {"NamesAreTheTrimmedRestOfTheirLine", "PortData{ FileName  a b ; ModeName \tTE  10 ; }",
      portWith("noname", "TE  10").replace("FileName ;", "FileName a b;")},
-    {"PointsStartAtTheOrigin", "PortData{ SnappedTail{ Y 2; foo X 3; } SnappedHead{ Z 1; } }",
+    {"PointsStartAtTheOrigin", "PortData{ SnappedTail{ X 9; } SnappedTail{ Y 2; foo X 3; } SnappedHead{ Z 1; } }",
      portWith("SnappedHead{ X 0; Y 0; Z 0; } SnappedTail{ X 0; Y 0;", "SnappedHead{ X 0; Y 0; Z 1; } SnappedTail{ X 0; Y 2;")},
     {"UnknownKeysAndBlocksAreSkipped", "foo IsModal; bar{ PortData{ } } PortData{ foo IsModal; bar{ IsModal; SnappedHead{ X 1; } } PortNumber 5; }",
      portWith("PortNumber -1", "PortNumber 5")},
