@@ -120,14 +120,6 @@ decltype(auto) valueIn(const Object& object, const Separate<From, Into>& access)
 template <class Access, class Object>
 using ValueIn = std::decay_t<decltype(valueIn(std::declval<const Object&>(), std::declval<const Access&>()))>;
 
-/// The object itself, where it is the value.
-struct Itself {
-    template <class Object>
-    constexpr Object& operator()(Object& object) const {
-        return object;
-    }
-};
-
 /// Calls `read` with the value in an object, for reading into it, and returns the result.
 template <class Access, class Object, class Read>
 bool readInto(Object& object, const Access& access, Read read) {
@@ -140,7 +132,6 @@ bool readInto(Object& object, const Property<Get, Set>& access, Read read) {
     std::invoke(access.set, object, value);
     return isRead;
 }
-
 template <class From, class Into, class Object, class Read>
 bool readInto(Object& object, const Separate<From, Into>& access, Read read) {
     return read(std::invoke(access.into, object));

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QLatin1String>
 #include <memory>
 
+#include "blocktext/NameTable.h"
 #include "quarn/ComponentManager.h"
 #include "quarn/StaticVoltageList.h"
 #include "quarn/WaveGuidePort.h"
@@ -15,6 +17,13 @@ class DelimManager;
 namespace blocktext {
 class FormatBuilder;
 }
+
+/// The names of the blocks.
+namespace sectionName {
+using blocktext::operator""_key;
+inline constexpr auto componentsPorts = "ComponentsPorts"_key;
+inline constexpr auto waveGuidePorts = "WaveGuidePorts"_key;
+}  // namespace sectionName
 
 /// What a section holds. The caller owns the components that the manager lists.
 struct ComponentsPorts {

@@ -186,7 +186,7 @@ constexpr auto pointBlock = Description<StaticVoltageList>::point();
 constexpr auto portTypeLine = value("PortType", &Section::portType);
 constexpr auto sectionBlock = [] {
     constexpr auto hasVoltages = [](const Section& section) { return !section.voltages.getPoints().empty(); };
-    return describe<Section>("ComponentsPorts",
+    return describe<Section>(sectionName::componentsPorts,
                              Unknown::DropLine,
                              Unreadable::KeepsValue,
                              portTypeLine,

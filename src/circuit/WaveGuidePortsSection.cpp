@@ -48,8 +48,10 @@ struct Section {
 
 constexpr auto portBlock = Description<WaveGuidePort>::block();
 constexpr auto sectionBlock = [] {
-    return describe<Section>(
-        "WaveGuidePorts", Unknown::DropLine, Unreadable::KeepsValue, innerBlocks(&Section::ports, portBlock));
+    return describe<Section>(sectionName::waveGuidePorts,
+                             Unknown::DropLine,
+                             Unreadable::KeepsValue,
+                             innerBlocks(&Section::ports, portBlock));
 }();
 
 }  // namespace

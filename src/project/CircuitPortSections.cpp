@@ -34,10 +34,16 @@ bool StreamInWaveGuidePorts(DelimManager& delim, v6ProjectFile& project) {
 
 }  // namespace
 
-const Section componentsPortsSection{
-    "ComponentsPorts"_key, Unreadable::Fails, StreamOutComponentsPorts, StreamInComponentsPorts, nullptr};
+const Section componentsPortsSection{sectionName::componentsPorts,
+                                     Unreadable::Fails,
+                                     StreamOutComponentsPorts,
+                                     StreamInComponentsPorts,
+                                     describeComponentsPorts};
 
-const Section waveGuidePortsSection{
-    "WaveGuidePorts"_key, Unreadable::Fails, StreamOutWaveGuidePorts, StreamInWaveGuidePorts, nullptr};
+const Section waveGuidePortsSection{sectionName::waveGuidePorts,
+                                    Unreadable::Fails,
+                                    StreamOutWaveGuidePorts,
+                                    StreamInWaveGuidePorts,
+                                    describeWaveGuidePorts};
 
 }  // namespace quarn

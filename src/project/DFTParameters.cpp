@@ -46,7 +46,7 @@ constexpr auto frequencyList(Key name, Key key) {
     return describe<Frequencies>(name,
                                  Unknown::DropLine,
                                  Unreadable::KeepsValue,
-                                 entries(key, Itself(), parts(&Frequency::frequency, &Frequency::folder)).in("Hz"));
+                                 entries(key, itself, parts(&Frequency::frequency, &Frequency::folder)).in("Hz"));
 }
 constexpr auto frequencyFolders = frequencyList("SteadyStateFrequencies", "FrequencyFolder");
 

@@ -79,28 +79,35 @@ bool StreamInHACRequest(DelimManager& delim, v6ProjectFile& project) {
 
 }  // namespace
 
-const Section indexedPointsSection =
-    eachOf<NearZoneMultiFieldIndexedPoint, writeIndexedPoint, readIndexedPoint>(requestName::indexedPoint, describeIndexedPoint);
+const Section indexedPointsSection = eachOf<NearZoneMultiFieldIndexedPoint, writeIndexedPoint, readIndexedPoint>(
+    sectionName::indexedPoint, describeIndexedPoint);
 
 const Section interpolatedPointsSection =
     eachOf<NearZoneMultiFieldInterpolatedPoint, writeInterpolatedPoint, readInterpolatedPoint>(
-        requestName::interpolatedPoint, describeInterpolatedPoint);
+        sectionName::interpolatedPoint, describeInterpolatedPoint);
 
 const Section multiPointFieldRequestsSection =
     eachOf<MultiPointFieldRequest, writeMultiPointFieldRequest, readMultiPointFieldRequest>(
-        requestName::multiPointField, describeMultiPointField);
+        sectionName::multiPointField, describeMultiPointField);
 
-const Section rawSARPlanesSection{
-    requestName::rawSARPlanes, Unreadable::KeepsValue, StreamOutRawSARPlanes, StreamInRawSARPlanes, describeRawSARPlanes};
+const Section rawSARPlanesSection{sectionName::rawSARPlanes,
+                                  Unreadable::KeepsValue,
+                                  StreamOutRawSARPlanes,
+                                  StreamInRawSARPlanes,
+                                  describeRawSARPlanes};
 
-const Section temperatureRiseSection = onlyOne<TemperatureRiseRequest>(requestName::temperatureRise, describeTemperatureRise);
+const Section temperatureRiseSection =
+    onlyOne<TemperatureRiseRequest>(sectionName::temperatureRise, describeTemperatureRise);
 
-const Section sarAveragingSection = onlyOne<SARAveragingRequest>(requestName::sarAveraging, describeSARAveraging);
+const Section sarAveragingSection = onlyOne<SARAveragingRequest>(sectionName::sarAveraging, describeSARAveraging);
 
-const Section farZoneRequestsSection{
-    requestName::farZone, Unreadable::KeepsValue, StreamOutFarZoneRequests, StreamInFarZoneRequests, describeFarZoneRequests};
+const Section farZoneRequestsSection{sectionName::farZone,
+                                     Unreadable::KeepsValue,
+                                     StreamOutFarZoneRequests,
+                                     StreamInFarZoneRequests,
+                                     describeFarZoneRequests};
 
 const Section hacRequestsSection{
-    requestName::hac, Unreadable::KeepsValue, StreamOutHACRequests, StreamInHACRequest, describeHACRequest};
+    sectionName::hac, Unreadable::KeepsValue, StreamOutHACRequests, StreamInHACRequest, describeHACRequest};
 
 }  // namespace quarn

@@ -16,7 +16,7 @@ struct FarZoneRequests {
 };
 
 constexpr auto farZoneRequests = describe<FarZoneRequests>(
-    requestName::farZone, Unknown::DropLine, Unreadable::KeepsValue,
+    sectionName::farZone, Unknown::DropLine, Unreadable::KeepsValue,
     wholeInnerBlocks(&FarZoneRequests::steadyState, Description<FarZoneRequest>::block("SteadyState")),
     wholeInnerBlocks(&FarZoneRequests::transient, Description<FarZoneRequest>::block("Transient")));
 

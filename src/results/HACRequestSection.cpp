@@ -21,7 +21,7 @@ constexpr auto axis(Key key, Vector3D HACRequest::*vector) {
 constexpr auto hacRequest = [] {
     using R = HACRequest;
     using Point = tavrix::Cartesian3D;
-    return describeWords<R>(requestName::hac,
+    return describeWords<R>(sectionName::hac,
                             Unknown::DropWord,
                             Unreadable::KeepsValue,
                             value("Origin", &R::origin, parts(&Point::x, &Point::y, &Point::z)).in("m"),

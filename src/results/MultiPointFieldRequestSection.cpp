@@ -58,7 +58,7 @@ constexpr auto block() {
                                path(&Box::second, &ivec3::y),
                                path(&Box::second, &ivec3::z));
     return describe<C>(
-        requestName::multiPointField,
+        sectionName::multiPointField,
         Unknown::DropLine,
         Unreadable::KeepsValue,
         value("MinTimestep", in(&R::minTimestep)),

@@ -37,7 +37,7 @@ template <>
 struct blocktext::Description<NearZoneMultiFieldIndexedPoint> {
     using P = NearZoneMultiFieldIndexedPoint;
     static constexpr auto block() {
-        return describe<P>(requestName::indexedPoint,
+        return describe<P>(sectionName::indexedPoint,
                            Unknown::DropLine,
                            Unreadable::KeepsValue,
                            innerBlock(itself, Description<NearZoneMultiFieldPoint>::block()).notCompared(),
@@ -51,7 +51,7 @@ template <>
 struct blocktext::Description<NearZoneMultiFieldInterpolatedPoint> {
     using P = NearZoneMultiFieldInterpolatedPoint;
     static constexpr auto block() {
-        return describe<P>(requestName::interpolatedPoint,
+        return describe<P>(sectionName::interpolatedPoint,
                            Unknown::DropLine,
                            Unreadable::KeepsValue,
                            innerBlock(itself, Description<NearZoneMultiFieldPoint>::block()).notCompared(),

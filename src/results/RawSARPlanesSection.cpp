@@ -34,7 +34,7 @@ struct PlaneAndIndex : Form {
 
 using Planes = std::vector<SARPlane>;
 
-constexpr auto rawSARPlanes = describe<Planes>(requestName::rawSARPlanes, Unknown::Stop, Unreadable::KeepsValue,
+constexpr auto rawSARPlanes = describe<Planes>(sectionName::rawSARPlanes, Unknown::Stop, Unreadable::KeepsValue,
                                                entries("Plane", itself, partial(PlaneAndIndex())));
 
 }  // namespace

@@ -23,7 +23,7 @@ class NearZoneMultiFieldInterpolatedPoint;
 class SARPlane;
 
 /// The names of the blocks.
-namespace requestName {
+namespace sectionName {
 using blocktext::operator""_key;
 inline constexpr auto indexedPoint = "MultiFieldIndexedPoint"_key;
 inline constexpr auto interpolatedPoint = "MultiFieldInterpolatedPoint"_key;
@@ -33,7 +33,7 @@ inline constexpr auto temperatureRise = "TemperatureRiseRequest"_key;
 inline constexpr auto sarAveraging = "SARAveraging"_key;
 inline constexpr auto farZone = "FarZoneRequests"_key;
 inline constexpr auto hac = "HACRequest"_key;
-}  // namespace requestName
+}  // namespace sectionName
 
 /// Add the blocks to the reference of the format.
 void describeIndexedPoint(blocktext::FormatBuilder& builder);

@@ -13,7 +13,7 @@ struct blocktext::Description<SARAveragingRequest> {
     using R = SARAveragingRequest;
     static constexpr auto block() {
         return describeWords<R>(
-            requestName::sarAveraging,
+            sectionName::sarAveraging,
             Unknown::DropLine,
             Unreadable::KeepsValue,
             flag("average_one_gram", &R::m_compute1gAverage),

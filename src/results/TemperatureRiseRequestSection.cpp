@@ -28,7 +28,7 @@ struct blocktext::Description<TemperatureRiseRequest> {
     static constexpr auto block() {
         constexpr auto medium = Description<PhysicalParameters>::block();
         return describe<R>(
-            requestName::temperatureRise,
+            sectionName::temperatureRise,
             Unknown::DropLine,
             Unreadable::KeepsValue,
             innerBlock(&R::m_immersiveMediumParameters, medium, "Immersive"),
