@@ -114,16 +114,5 @@ TEST_F(FarZone, ReportsProgressFromNoneToAllDirections) {
     for (const Report& report : reports) EXPECT_EQ(report.total, angles.size());
 }
 
-TEST_F(FarZone, LeavesTheRecordsUnchangedWhenStopped) {
-    for (const int calls : {1, 2}) {
-        Records records(3);
-        int left = calls;
-        const PostProcessSSFarZoneFields processor(&fields, frequency, 0, 0);
-        EXPECT_FALSE(
-            processor.computeFields(sphere(10), records, [&](std::size_t, std::size_t) { return --left > 0; }));
-        EXPECT_EQ(records, Records(3));
-    }
-}
-
 }  // namespace
 }  // namespace quarn::test
