@@ -116,6 +116,14 @@ const Reading readings[] = {
     {"a_density_alone_makes_physical_parameters",
      expanded("materials{ normal_electric{ density 2; } }"),
      expanded("materials{ normal_electric{ density 2; TemperatureRiseMaterialParameters{} } }")},
+    {"the_last_block_of_physical_parameters_counts",
+     expanded("materials{ normal_electric{ TemperatureRiseMaterialParameters{ heat_capacity 1; } density 2;"
+              "TemperatureRiseMaterialParameters{ metabolic_heat 3; } } }"),
+     expanded("materials{ normal_electric{ density 2; TemperatureRiseMaterialParameters{ metabolic_heat 3; } } }")},
+    {"only_poles_that_the_material_has",
+     expanded("materials{ electric3poledebye{ relaxationTime 9; relaxationTime0 9; relaxationTime4 9;"
+              "relaxationTime11 9; relaxationTime2 1; } }"),
+     expanded("materials{ electric3poledebye{ relaxationTime2 1; } }")},
     {"a_file_that_breaks_off", maps + "begin_<Deltas> \nbegin_<DelX> \n0 1\n", maps},
 };
 INSTANTIATE_TEST_SUITE_P(GeometryFile, ReadAs, testing::ValuesIn(readings), rowName<Reading>);
