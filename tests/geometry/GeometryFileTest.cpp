@@ -99,6 +99,14 @@ const Reading readings[] = {
      expanded("materials{ normal_magnetic{ UseLossTangent ; LossTangent 2; } }")},
     {"DensityAloneCreatesPhysicalParameters", expanded("materials{ normal_electric{ density 2; } }"),
      expanded("materials{ normal_electric{ density 2; TemperatureRiseMaterialParameters{} } }")},
+    {"LastBlockOfPhysicalParametersCounts",
+     expanded("materials{ normal_electric{ TemperatureRiseMaterialParameters{ heat_capacity 1; } density 2;"
+              "TemperatureRiseMaterialParameters{ metabolic_heat 3; } } }"),
+     expanded("materials{ normal_electric{ density 2; TemperatureRiseMaterialParameters{ metabolic_heat 3; } } }")},
+    {"OnlyPolesThatTheMaterialHas",
+     expanded("materials{ electric3poledebye{ relaxationTime 9; relaxationTime0 9; relaxationTime4 9;"
+              "relaxationTime11 9; relaxationTime2 1; } }"),
+     expanded("materials{ electric3poledebye{ relaxationTime2 1; } }")},
     {"TruncatedFile", maps + "begin_<Deltas> \nbegin_<DelX> \n0 1\n", maps},
 };
 // clang-format on
