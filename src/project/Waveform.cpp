@@ -1,6 +1,5 @@
 #include "quarn/Waveform.h"
 
-#include <algorithm>
 #include <limits>
 #include <tuple>
 #include <utility>
