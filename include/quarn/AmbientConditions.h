@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "quarn/BoundingBoxSide.h"
@@ -27,11 +28,17 @@ public:
     void setBackgroundTemperature(float temperature) { m_backgroundTemperature = temperature; }
 
     /// The side must be one of the six; it is not checked.
-    SpecificationType getSpecificationType(BoundingBoxSide side) const { return m_types[static_cast<int>(side)]; }
-    void setSpecificationType(BoundingBoxSide side, SpecificationType type) { m_types[static_cast<int>(side)] = type; }
-    float getHeatTransferCoefficient(BoundingBoxSide side) const { return m_coefficients[static_cast<int>(side)]; }
+    SpecificationType getSpecificationType(BoundingBoxSide side) const {
+        return m_types[static_cast<std::size_t>(side)];
+    }
+    void setSpecificationType(BoundingBoxSide side, SpecificationType type) {
+        m_types[static_cast<std::size_t>(side)] = type;
+    }
+    float getHeatTransferCoefficient(BoundingBoxSide side) const {
+        return m_coefficients[static_cast<std::size_t>(side)];
+    }
     void setHeatTransferCoefficient(BoundingBoxSide side, float coefficient) {
-        m_coefficients[static_cast<int>(side)] = coefficient;
+        m_coefficients[static_cast<std::size_t>(side)] = coefficient;
     }
 
     QUARN_EXPORT friend bool operator==(const AmbientConditions& a, const AmbientConditions& b);

@@ -7,10 +7,11 @@ namespace quarn {
 /// A project that owns what it points to: its destructor deletes every object that a load created or a caller put in,
 /// components and ports of the managers included, each once (see deleteContents()).
 ///
-/// Give it only objects from `new` that nothing else deletes, and share none with another project. Two kinds of objects
-/// stay the caller's: those that a setter or a load replaced, and those that were taken out of a list. It cannot be
-/// copied; a v6ProjectFile made from it shares the objects as described at ProjectFile and must not outlive it. The
-/// destructor is not virtual: delete it through its own class.
+/// Give it only objects from `new` that nothing else deletes, and share none with another project. What a setter
+/// replaces, the DFT parameters of the constructor included, what a load replaces though a caller put it in, and what
+/// is taken out of a list is the caller's to delete. An OwnedProject cannot be copied; a v6ProjectFile made from it
+/// shares objects as ProjectFile says and must not outlive it. The destructor is not virtual: delete it through its own
+/// class.
 class OwnedProject : public v6ProjectFile {
 public:
     OwnedProject() = default;

@@ -8,6 +8,7 @@
 #include "blocktext/BlockWalker.h"
 #include "blocktext/BlockWriter.h"
 #include "blocktext/EqualityReport.h"
+#include "blocktext/GroupShapes.h"
 #include "blocktext/LineShapes.h"
 #include "quarn/Description.h"
 

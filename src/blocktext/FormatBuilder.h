@@ -17,6 +17,11 @@ public:
     /// Adds a line to the innermost open block.
     void add(const FormatLine& line) { m_blocks[m_open.back()].lines.push_back(line); }
 
+    /// Adds the line of an inner block, which is described next.
+    void addBlock(const QString& name, const QString& written) {
+        add({name, QStringLiteral("block"), {}, {}, {}, written});
+    }
+
     std::vector<FormatBlock> blocks() && { return std::move(m_blocks); }
 
 private:

@@ -106,10 +106,8 @@ struct WaveLine : LineShape {
         }
         return Offer::Continue;
     }
-    static void describeTo(FormatBuilder& builder, const v6ProjectFile&, FormatLine line) {
-        line.key = block.name;
-        line.kind = QStringLiteral("block");
-        builder.add(line);
+    static void describeTo(FormatBuilder& builder, const v6ProjectFile&, const FormatLine& line) {
+        builder.addBlock(block.name, line.written);
         block.describeTo(builder, blank(ofClass));
     }
     static QString usuallyWritten() { return QStringLiteral("where chosen"); }

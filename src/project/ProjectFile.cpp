@@ -22,20 +22,14 @@ namespace quarn {
 
 namespace {
 
-template <class T>
-T* copyOf(const T* object) {
-    return object ? new T(*object) : nullptr;
-}
-PlaneWave* copyOf(PlaneWave* wave) {
-    return wave ? withItsClass(wave, [](auto* object) -> PlaneWave* { return copyOf(std::as_const(object)); })
-                : nullptr;
-}
-
 /// Gives a project objects of its own; what lists point to stays shared.
 struct Copy {
     template <class T>
     void operator()(T*& object) const {
-        object = copyOf(object);
+        if (object) object = new T(*object);
+    }
+    void operator()(PlaneWave*& wave) const {
+        if (wave) wave = withItsClass(wave, [](const auto* object) -> PlaneWave* { return new auto(*object); });
     }
     template <class T>
     void operator()(std::vector<T>&) const {}

@@ -115,8 +115,10 @@ bool StreamInTerminationCriteria(DelimManager& delim, v6ProjectFile& project) {
 }
 
 void describeTerminationCriteria(FormatBuilder& builder) {
-    terminationCriteria.describeTo(
-        builder, TerminationCriteria(0, 0, 0), [&] { tdAfsCriteria.describeTo(builder, {}); });
+    terminationCriteria.describeTo(builder, TerminationCriteria(0, 0, 0), [&] {
+        builder.addBlock(tdAfsCriteria.name, QStringLiteral("with convergence where the project has TD-AFS criteria"));
+        tdAfsCriteria.describeTo(builder, {});
+    });
 }
 
 /// The criteria of older files.

@@ -1,6 +1,5 @@
 #include "quarn/Waveform.h"
 
-#include <algorithm>
 #include <limits>
 #include <tuple>
 #include <utility>
@@ -122,12 +121,12 @@ bool StreamInWaveform(DelimManager& delim, v6ProjectFile& project) {
 void describeWaveform(FormatBuilder& builder) {
     builder.begin(sectionName);
     const auto describe = [&](const auto& each) {
-        builder.add({each.block.name, QStringLiteral("block"), {}, {}, {}, QStringLiteral("for each waveform")});
+        builder.addBlock(each.block.name, QStringLiteral("for each waveform"));
         each.block.describeTo(builder, blank(each.shape));
     };
     std::apply([&](const auto&... each) { (describe(each), ...); }, shapes);
     builder.add({useDFTKey, QStringLiteral("flag"), {}, {}, {}, QStringLiteral("never")});
-    builder.add({dftParametersSection.name, QStringLiteral("block"), {}, {}, {}, QStringLiteral("never")});
+    builder.addBlock(dftParametersSection.name, QStringLiteral("never"));
     describeV6DFTParameters(builder);
     builder.end();
 }

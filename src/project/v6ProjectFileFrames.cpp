@@ -25,10 +25,8 @@ struct SectionRow : LineShape {
         if (name != section->name) return Offer::Unknown;
         return afterReading(section->read(delim, project), section->unreadable);
     }
-    void describeTo(FormatBuilder& builder, const P&, FormatLine line) const {
-        line.key = section->name;
-        line.kind = QStringLiteral("block");
-        builder.add(line);
+    void describeTo(FormatBuilder& builder, const P&, const FormatLine& line) const {
+        builder.addBlock(section->name, line.written);
         if (section->describe) section->describe(builder);
     }
     static QString usuallyWritten() { return QStringLiteral("where the project has it"); }

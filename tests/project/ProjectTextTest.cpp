@@ -7,6 +7,7 @@
 
 #include "TestSupport.h"
 #include "project/GoldenProject.h"
+#include "quarn/FormatReference.h"
 
 namespace quarn::test {
 namespace {
@@ -169,6 +170,27 @@ TEST(ProjectText, SectionsAreSavedInCanonicalForm) {
         SCOPED_TRACE(row.behaviour);
         const QString units = "Display{ " + row.displaySaved + "} Modeling{ " + row.modelingSaved + "} ";
         expectLoads(fileOf(row.run, row.requests, row.units), fileOf(row.runSaved, row.requestsSaved, units), saved);
+    }
+}
+
+// Keys without a block, as samples are, have no line of their own.
+TEST(ProjectText, FormatReferenceHasEveryLineOfTheGoldenFile) {
+    QStringList described, open;
+    for (const FormatBlock& block : projectFormat()) {
+        for (const FormatLine& line : block.lines) described << block.path + '/' + line.key;
+    }
+    for (const QString& line : golden.split('\n', Qt::SkipEmptyParts).mid(1)) {
+        const QString name = line.section('<', 1).section('>', 0, 0), word = line.section(' ', 0, 0);
+        if (line.startsWith("end_<")) {
+            open.removeLast();
+            continue;
+        }
+        const bool opens = line.startsWith("begin_<");
+        const QStringList path = open + QStringList(opens ? name : word);
+        const bool isSample = open.endsWith("Source") || open.endsWith("Derivative");
+        const QString expected = isSample ? open.join('/') + '/' : path.join('/');
+        EXPECT_TRUE(path.size() == 1 || described.contains(expected)) << expected.toStdString();
+        if (opens) open = path;
     }
 }
 
