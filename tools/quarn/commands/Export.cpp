@@ -97,7 +97,7 @@ QStringList lossesOf(const PatternCut& cut) {
     } else if (cut.missingSamples > 0) {
         losses << text("cut short: %1 of %2 samples").arg(announced - cut.missingSamples).arg(announced);
     } else if (cut.leftOutLines > 0) {
-        losses << samples(cut.leftOutLines) + text(" left out behind the %1 that NUPOIN announces").arg(announced);
+        losses << samples(cut.leftOutLines) + text(" left out after the %1 that NUPOIN announces").arg(announced);
     }
     if (cut.coincidingSamples > 0) {
         losses << samples(cut.coincidingSamples) +
@@ -265,7 +265,7 @@ constexpr char helpText[] =
     "  a multi-point result\n      time_s,i,j,k, then such as total_e_x_v_per_m for each axis; or\n"
     "      frequency_hz,i,j,k, then such as total_e_x_re_v_per_m, total_e_x_im_v_per_m\n"
     "  a SAR plane\n      i,j,k,sar_w_per_kg\n"
-    "  an antenna pattern\n      cut,angle_deg,gain_power_ratio,second (what a line has behind the gain)\n"
+    "  an antenna pattern\n      cut,angle_deg,gain_power_ratio,second (the value after the gain)\n"
     "and for the kinds of records that --as takes%1\n"
     "The components e_theta and e_phi of far-zone records are in volts: the field times the distance.\n\n"
     "Exit status: 0 fine, 1 the file is cut short or not read in all parts, 2 it cannot be used.";

@@ -35,8 +35,8 @@ void addMissingMaterial(QStringList& errors, const MaterialMap& map, const char*
                   .arg(count);
 }
 
-// A component sits on a cell edge: along its own direction it needs a cell, across it the far side of the last cell is
-// as good as any.
+// A component lies on a cell edge. Along its own direction it needs a cell; across this direction it may also lie on
+// the far side of the last cell.
 bool isWithin(const Grid& grid, const CircuitComponent& component) {
     const auto fits = [&component](unsigned index, std::uint32_t cells, auto axis) {
         return index < cells || (index == cells && component.getComponentDirection() != axis);
