@@ -26,13 +26,15 @@ void addUnusableSize(QStringList& errors, const Grid& grid, const GridAxis& axis
     }
 }
 
-void addMissingMaterial(QStringList& errors, const MaterialMap& map, const char* kind, std::int32_t position,
-                        std::size_t count) {
-    if (position >= 0 && static_cast<std::size_t>(position) < count) return;
-    errors << text("The material map '%1' names %2 material %3, but there are %4, numbered from 0.")
-                  .arg(map.getName(), QLatin1String(kind))
-                  .arg(position)
-                  .arg(count);
+void addMissingMaterials(QStringList& errors, const MaterialMap& map, const char* kind, std::size_t count,
+                         std::initializer_list<std::int32_t> positions) {
+    for (const std::int32_t position : positions) {
+        if (position >= 0 && static_cast<std::size_t>(position) < count) continue;
+        errors << text("The material map '%1' names %2 material %3, but there are %4, numbered from 0.")
+                      .arg(map.getName(), QLatin1String(kind))
+                      .arg(position)
+                      .arg(count);
+    }
 }
 
 // A component lies on a cell edge. Along its own direction it needs a cell; across this direction it may also lie on
@@ -82,14 +84,16 @@ QStringList errorsIn(const LoadedGeometry& loaded) {
     const std::size_t electric = loaded.geometry.getElectricMaterials().size();
     const std::size_t magnetic = loaded.geometry.getMagneticMaterials().size();
     for (const MaterialMap* map : loaded.geometry.getMaterialMappings()) {
-        for (const auto position :
-             {map->getXElectricMaterial(), map->getYElectricMaterial(), map->getZElectricMaterial()}) {
-            addMissingMaterial(errors, *map, "electric", position, electric);
-        }
-        for (const auto position :
-             {map->getXMagneticMaterial(), map->getYMagneticMaterial(), map->getZMagneticMaterial()}) {
-            addMissingMaterial(errors, *map, "magnetic", position, magnetic);
-        }
+        addMissingMaterials(errors,
+                            *map,
+                            "electric",
+                            electric,
+                            {map->getXElectricMaterial(), map->getYElectricMaterial(), map->getZElectricMaterial()});
+        addMissingMaterials(errors,
+                            *map,
+                            "magnetic",
+                            magnetic,
+                            {map->getXMagneticMaterial(), map->getYMagneticMaterial(), map->getZMagneticMaterial()});
     }
     errors.removeDuplicates();
     return errors;
