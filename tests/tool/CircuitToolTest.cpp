@@ -6,7 +6,7 @@ namespace {
 
 using testing::HasSubstr;
 
-class CircuitTool : public Tool {
+class CircuitToolTest : public ToolTest {
 protected:
     void writeProjectWithCircuit() {
         const QString circuit = expanded(
@@ -22,17 +22,16 @@ protected:
     }
 };
 
-TEST_F(CircuitTool, check_lists_components_and_ports_and_loses_none_of_their_lines) {
+TEST_F(CircuitToolTest, CheckListsComponentsAndPorts) {
     writeProjectWithCircuit();
-    const ToolResult result = run({"check", "run"});
-    EXPECT_EQ(result.out,
-              "run: port 0: feed, #=0 : V=1, phase=0, R=50, L=0, C=0, arr=Series\n"
-              "run: waveguide port: TE10, waveguide 1 mode 2, amplitude 1, phase 90°\n"
-              "run: no findings\n");
-    EXPECT_EQ(result.status, 0);
+    expect("check run",
+           0,
+           "run: port 0: feed, #=0 : V=1, phase=0, R=50, L=0, C=0, arr=Series\n"
+           "run: waveguide port: TE10, waveguide 1 mode 2, amplitude 1, phase 90°\n"
+           "run: no findings\n");
 }
 
-TEST_F(CircuitTool, show_says_where_components_are_and_which_port_is_active) {
+TEST_F(CircuitToolTest, ShowDescribesComponentsAndPorts) {
     writeProjectWithCircuit();
     EXPECT_THAT(run({"show", "run"}).out,
                 HasSubstr("  Circuit         1 component, 1 of them ports; S-parameters with port 0 active\n"
@@ -42,27 +41,26 @@ TEST_F(CircuitTool, show_says_where_components_are_and_which_port_is_active) {
                           "    port 0        TE10, waveguide 1 mode 2, amplitude 1, phase 90°\n"));
 }
 
-TEST_F(CircuitTool, show_tells_a_via_file_that_is_cut_short) {
+TEST_F(CircuitToolTest, ShowDescribesViasAndTellsWhenTheirFileIsCutShort) {
     const QualifiedPoint bottom(0, 0, -1e-3, QualifiedPoint::OnVertex, 1);
     const QualifiedPoint top(0, 2e-3, 1e-3, QualifiedPoint::InElement, 2);
     const std::vector<MeshlessVia> vias = {{bottom, top, 1e-4, 1.7e-8, 1.0}, {bottom, top, 2e-4, 1e-4, 1.7e-8, 1.0}};
     MeshlessVia::write_binary(vias, folder.filePath("whole").toStdString());
     write("cut", read("whole").chopped(1));
-    const ToolResult result = run({"show", "whole", "cut"});
-    EXPECT_EQ(result.out,
-              "whole: meshless vias\n"
-              "  Vias  2, 1 of them coaxial\n"
-              "    x   0 m to 0 m\n"
-              "    y   0 m to 2 mm\n"
-              "    z   -1 mm to 1 mm\n"
-              "\n"
-              "cut: meshless vias\n"
-              "  Vias       1, 0 of them coaxial\n"
-              "  Cut short  the file says 2 vias\n"
-              "    x        0 m to 0 m\n"
-              "    y        0 m to 2 mm\n"
-              "    z        -1 mm to 1 mm\n");
-    EXPECT_EQ(result.status, 0);
+    expect("show whole cut",
+           0,
+           "whole: meshless vias\n"
+           "  Vias  2, 1 of them coaxial\n"
+           "    x   0 m to 0 m\n"
+           "    y   0 m to 2 mm\n"
+           "    z   -1 mm to 1 mm\n"
+           "\n"
+           "cut: meshless vias\n"
+           "  Vias       1, 0 of them coaxial\n"
+           "  Cut short  the file says 2 vias\n"
+           "    x        0 m to 0 m\n"
+           "    y        0 m to 2 mm\n"
+           "    z        -1 mm to 1 mm\n");
 }
 
 }  // namespace

@@ -5,16 +5,15 @@ namespace {
 
 using testing::HasSubstr;
 
-class RequestTool : public Tool {
+class RequestToolTest : public ToolTest {
 protected:
-    // In the form in which it is saved.
     void writeProjectWith(const QString& requests) {
         const QString frame = "begin_<RequestResults> \n";
         write("run", cleanWith({{frame, frame + expanded(requests)}}));
     }
 };
 
-TEST_F(RequestTool, show_lists_what_is_asked_for_and_check_loses_none_of_it) {
+TEST_F(RequestToolTest, ShowDescribesTheRequestsAndCheckHasNoFindings) {
     writeProjectWith(
         "MultiFieldIndexedPoint{ Definition{ File a; MinTimestep 0; MaxTimestep 9; DeltaTimestep 3; TotalE; J; }"
         "XIndex 1; YIndex 2; ZIndex 3; }"
@@ -45,10 +44,10 @@ TEST_F(RequestTool, show_lists_what_is_asked_for_and_check_loses_none_of_it) {
                           "    Materials       2 of them used\n"
                           "  HAC               1 measurement\n"
                           "    measurement 0   origin (1, 2, 3) m\n"));
-    EXPECT_EQ(run({"check", "run"}).out, "run: no findings\n");
+    expect("check run", 0, "run: no findings\n");
 }
 
-TEST_F(RequestTool, show_names_the_groups_of_fields_in_the_order_of_the_file) {
+TEST_F(RequestToolTest, ShowNamesTheGroupsOfFieldsInTheOrderOfTheFile) {
     QString requests =
         "MultiFieldIndexedPoint{ Definition{ J; ScatteredB; TotalB; ScatteredH; TotalH; ScatteredE; TotalE; } }";
     for (const char* key : {"ScatteredE", "TotalH", "ScatteredH", "TotalB", "ScatteredB", "J"}) {
@@ -72,17 +71,17 @@ TEST_F(RequestTool, show_names_the_groups_of_fields_in_the_order_of_the_file) {
                           "scattered H, scattered B; steady state total E, total H, total B, J\n"));
 }
 
-TEST_F(RequestTool, check_names_measurements_that_a_save_loses_and_show_tells_temperature_rises) {
+TEST_F(RequestToolTest, ShowDescribesTemperatureRisesAndCheckNamesMeasurementsThatAreNotKept) {
     writeProjectWith(
         "TemperatureRiseRequest{ plane_type YZ; requested_input_power 0.25; } HACRequest{ Origin 1 2 3; }");
     EXPECT_THAT(run({"show", "run"}).out,
                 HasSubstr("  Temperature rise  plane YZ; cells (0, 0, 0) to (0, 0, 0)\n"
                           "    Input power     250 mW\n"));
-    const ToolResult result = run({"check", "run"});
-    EXPECT_EQ(result.status, 1);
-    EXPECT_THAT(result.out, HasSubstr("not kept: begin_<HACRequest>"));
-    EXPECT_THAT(result.out, HasSubstr("not kept: Origin 1 2 3"));
-    EXPECT_THAT(result.out, HasSubstr("3 lines not kept"));
+    expect("check run",
+           1,
+           testing::AllOf(HasSubstr("not kept: begin_<HACRequest>"),
+                          HasSubstr("not kept: Origin 1 2 3"),
+                          HasSubstr("3 lines not kept")));
 }
 
 }  // namespace

@@ -10,11 +10,11 @@ namespace {
 
 using testing::HasSubstr;
 
-class ResultTool : public Tool {
+class ResultToolTest : public ToolTest {
 protected:
     QString path(const QString& name) const { return folder.filePath(name); }
 
-    // Two points, one time step, one frequency.
+    // Writes two points, one time step and one frequency.
     void writeSet(const QString& base) {
         MultiPointResultWriter writer(false, true, false, false, false, false, false, false, false, false, true);
         const GridIndexBoxes boxes(std::vector<ivec3>{{1, 2, 3}, {4, 5, 6}});
@@ -53,7 +53,7 @@ protected:
     void cut(const QString& name, int bytes) { write(name, read(name).chopped(bytes)); }
 };
 
-TEST_F(ResultTool, shows_a_multi_point_result_and_what_of_it_is_missing) {
+TEST_F(ResultToolTest, ShowDescribesAMultiPointResultAndMissingFiles) {
     writeSet("set");
     const std::string whole =
         "set_info.bin: multi-point result, version 0\n"
@@ -69,7 +69,7 @@ TEST_F(ResultTool, shows_a_multi_point_result_and_what_of_it_is_missing) {
                 HasSubstr("  Cut short            2 of 9 component files are missing or too short\n"));
 }
 
-TEST_F(ResultTool, exports_the_groups_of_a_multi_point_result) {
+TEST_F(ResultToolTest, ExportWritesTheGroupsOfAMultiPointResult) {
     writeSet("set");
     EXPECT_EQ(
         run({"export", "set_info.bin", "--group", "transient-total-E"}).out,
@@ -79,24 +79,26 @@ TEST_F(ResultTool, exports_the_groups_of_a_multi_point_result) {
               "j_z_im_a_per_m2\n"
               "1e+09,1,2,3,1,2,3,4,5,6\n1e+09,4,5,6,-1,-2,-3,-4,-5,-6\n");
     cut("set_steady_Jxi_freq0.bin", 4);
-    const ToolResult partial = run({"export", "set_info.bin", "--group", "steady-J"});
-    EXPECT_EQ(partial.err, "quarn: set_info.bin: cut short: 1 of 2 points at index 0\n");
-    EXPECT_EQ(partial.status, 1);
+    expect("export set_info.bin --group steady-J",
+           1,
+           testing::_,
+           "quarn: set_info.bin: cut short: 1 of 2 points at index 0\n");
 }
 
-TEST_F(ResultTool, refuses_a_multi_point_result_without_what_its_groups_need) {
+TEST_F(ResultToolTest, MultiPointResultsWithoutTheListsOfTheirGroupsAreRefused) {
     for (const QString ending : {"timesteps", "frequencies", "geom"}) {
         writeSet("set");
         QFile::remove(path("set_" + ending + ".bin"));
-        const ToolResult result = run({"export", "set_info.bin", "--group", "steady-J"});
-        EXPECT_EQ(result.err, "quarn: set_" + ending.toStdString() + ".bin: cannot be read\n");
-        EXPECT_EQ(result.status, 2);
+        expect("export set_info.bin --group steady-J",
+               2,
+               "",
+               "quarn: set_" + ending.toStdString() + ".bin: cannot be read\n");
     }
     write("set_info.bin", read("set_info.bin").chopped(4) + QByteArray::fromHex("ffffffff"));
-    EXPECT_EQ(run({"show", "set_info.bin"}).err, "quarn: set_info.bin: is damaged: it says that there are -1 points\n");
+    expect("show set_info.bin", 2, "", "quarn: set_info.bin: is damaged: it says that there are -1 points\n");
 }
 
-TEST_F(ResultTool, says_that_files_of_a_result_without_points_are_missing) {
+TEST_F(ResultToolTest, MissingFilesOfAResultWithoutPointsAreReported) {
     writeSet("set");
     write("set_info.bin", read("set_info.bin").chopped(4) + QByteArray(4, '\0'));
     QFile::remove(path("set_steady_Jxi_freq0.bin"));
@@ -104,38 +106,39 @@ TEST_F(ResultTool, says_that_files_of_a_result_without_points_are_missing) {
     EXPECT_THAT(run({"show", "set_info.bin"}).out, HasSubstr("1 of 9 component files are missing"));
 }
 
-TEST_F(ResultTool, shows_and_exports_a_near_zone_point) {
+TEST_F(ResultToolTest, NearZonePointsAreShownAndExported) {
     writeNearZonePoint("point");
     write("cut", read("point") + "abc");
-    EXPECT_EQ(run({"show", "cut"}).out,
-              "cut: near-zone point, version 0\n"
-              "  Point      (0.5, 0, -1) m\n"
-              "  Records    1\n"
-              "  Time       1 ns to 1 ns\n"
-              "    total E  -2 V/m to 1 V/m, 1 NaN\n"
-              "  Cut short  3 bytes at the end belong to no whole record\n");
-    EXPECT_EQ(run({"export", "point"}).out,
-              "time_s,total_e_x_v_per_m,total_e_y_v_per_m,total_e_z_v_per_m\n1e-09,1,-2,nan\n");
-    EXPECT_EQ(run({"export", "cut"}).status, 1);
+    expect("show cut",
+           0,
+           "cut: near-zone point, version 0\n"
+           "  Point      (0.5, 0, -1) m\n"
+           "  Records    1\n"
+           "  Time       1 ns to 1 ns\n"
+           "    total E  -2 V/m to 1 V/m, 1 NaN\n"
+           "  Cut short  3 bytes at the end belong to no whole record\n");
+    expect("export point", 0, "time_s,total_e_x_v_per_m,total_e_y_v_per_m,total_e_z_v_per_m\n1e-09,1,-2,nan\n");
+    expect("export cut", 1, testing::_, HasSubstr("3 bytes at the end"));
 }
 
-TEST_F(ResultTool, combines_shows_and_exports_SAR_planes) {
+TEST_F(ResultToolTest, SarPlanesAreCombinedShownAndExported) {
     writePlane("a", 7, {{7, 1, 2, 0.25F}});
     writePlane("b", 7, {{7, 3, 4, 0.5F}});
-    EXPECT_EQ(run({"sar", "combine", "all", "a", "b"}).status, 0);
-    EXPECT_EQ(run({"export", "all"}).out, "i,j,k,sar_w_per_kg\n7,1,2,0.25\n7,3,4,0.5\n");
+    expect("sar combine all a b", 0, testing::_);
+    expect("export all", 0, "i,j,k,sar_w_per_kg\n7,1,2,0.25\n7,3,4,0.5\n");
     cut("all", 1);
-    EXPECT_EQ(run({"show", "all"}).out,
-              "all: SAR plane, version 0\n"
-              "  Plane      YZ, index 7\n"
-              "  Records    1\n"
-              "    SAR      250 mW/kg to 250 mW/kg\n"
-              "  Cut short  the file says 2 records\n");
+    expect("show all",
+           0,
+           "all: SAR plane, version 0\n"
+           "  Plane      YZ, index 7\n"
+           "  Records    1\n"
+           "    SAR      250 mW/kg to 250 mW/kg\n"
+           "  Cut short  the file says 2 records\n");
     cut("b", 1);
-    EXPECT_THAT(run({"show", "b"}).out, HasSubstr("  Cut short  the file says 1 record\n"));
+    expect("show b", 0, HasSubstr("  Cut short  the file says 1 record\n"));
 }
 
-// 1, -2, 3, 1 in single precision.
+// The floats 1, -2, 3 and 1.
 const QByteArray fourFloats("\x00\x00\x80\x3f\x00\x00\x00\xc0\x00\x00\x40\x40\x00\x00\x80\x3f", 16);
 QByteArray header(char type, char version) {
     return "!tavrixfdtdL" + QByteArray{}.append(type).append('\0').append(version).append('\0');
@@ -144,28 +147,24 @@ const QByteArray box = header(8, 0) + fourFloats + fourFloats;
 const QByteArray emptyPlane = header(13, 0) + QByteArray(12, '\0');
 
 struct ExportRow {
-    const char* as;  // empty for what says what it is
+    const char* as;  // empty for files that say what they are
     QByteArray content;
     std::string out;
     std::string err;
 };
 
-class Exporting : public ResultTool, public testing::WithParamInterface<const char*> {
+class ExportToolTest : public ResultToolTest, public testing::WithParamInterface<const char*> {
 protected:
-    void expect(const ExportRow& row) {
-        SCOPED_TRACE(row.as + row.out + row.err);
+    void expectRow(const ExportRow& row) {
         write("file", row.content);
-        QStringList arguments{"export", GetParam()};
-        if (*row.as) arguments << "--as" << row.as;
-        const ToolResult result = run(arguments, row.content);
-        EXPECT_EQ(result.out, row.out);
-        EXPECT_EQ(result.err, row.err.empty() ? "" : "quarn: " + std::string(GetParam()) + ": " + row.err + "\n");
-        EXPECT_EQ(result.status, row.err.empty() ? 0 : (row.out.empty() ? 2 : 1));
+        const QString words = QString("export ") + GetParam() + (*row.as ? QString(" --as ") + row.as : QString());
+        const std::string err = row.err.empty() ? "" : "quarn: " + std::string(GetParam()) + ": " + row.err + "\n";
+        expect(words, row.err.empty() ? 0 : (row.out.empty() ? 2 : 1), row.out, err, row.content);
     }
 };
-INSTANTIATE_TEST_SUITE_P(, Exporting, testing::Values("file", "-", "/dev/stdin"));
+INSTANTIATE_TEST_SUITE_P(, ExportToolTest, testing::Values("file", "-", "/dev/stdin"));
 
-TEST_P(Exporting, gives_all_records_and_tells_what_is_no_whole_one) {
+TEST_P(ExportToolTest, ExportWritesAllRecordsAndReportsAnIncompleteOne) {
     const std::string atTheEnd = " at the end belong to no whole record";
     const std::string boxTable =
         "e_1_re_v_per_m,e_1_im_v_per_m,e_2_re_v_per_m,e_2_im_v_per_m,h_1_re_a_per_m,h_1_im_a_per_m,h_2_re_a_per_m,"
@@ -182,10 +181,10 @@ TEST_P(Exporting, gives_all_records_and_tells_what_is_no_whole_one) {
         {"far-zone-box", box + 'x', boxTable, "cut short: 1 byte at the end belongs to no whole record"},
         {"", emptyPlane, "i,j,k,sar_w_per_kg\n", ""},
     };
-    for (const ExportRow& row : rows) expect(row);
+    for (const ExportRow& row : rows) expectRow(row);
 }
 
-TEST_P(Exporting, keeps_to_what_a_file_says_it_is) {
+TEST_P(ExportToolTest, ExportReadsFilesAsWhatTheySayTheyAre) {
     const std::string isShown = "; 'quarn show' tells what it holds";
     const std::string unknown =
         "is a result of an unknown type or version, or cut short in its header; it cannot be exported";
@@ -198,10 +197,7 @@ TEST_P(Exporting, keeps_to_what_a_file_says_it_is) {
         {"eigenmode", "NUPOIN:,0\n", "", "is an antenna pattern; leave --as out"},
         {"eigenmode", clean.toUtf8(), "", "is a project" + isShown},
         {"eigenmode", "Geometry file version 3.20\n", "", "is a geometry" + isShown},
-        {"eigenmode",
-         QByteArray::fromHex("40e20100") + QByteArray(12, '\0'),
-         "",
-         "is a file of meshless vias" + isShown},
+        {"eigenmode", QByteArray("\x40\xe2\1").leftJustified(16, '\0'), "", "is a file of meshless vias" + isShown},
         {"eigenmode", header(42, 0), "", unknown},
         {"eigenmode", "!tavrixfdtd", "", unknown},
         {"radiated-power", "!tavrixfdt", "", unknown},
@@ -209,10 +205,10 @@ TEST_P(Exporting, keeps_to_what_a_file_says_it_is) {
         {"", header(8, 1), "", unknown},
         {"", fourFloats, "", "is of an unknown kind; say with --as KIND what records it holds"},
     };
-    for (const ExportRow& row : rows) expect(row);
+    for (const ExportRow& row : rows) expectRow(row);
 }
 
-TEST_F(ResultTool, refuses_options_that_do_not_apply_and_what_is_no_file) {
+TEST_F(ResultToolTest, ExportRefusesOptionsThatDoNotApplyAndFoldersAndDevices) {
     write("plane", emptyPlane);
     writeSet("set");
     const QVector<QPair<QString, const char*>> refused = {
@@ -226,14 +222,11 @@ TEST_F(ResultTool, refuses_options_that_do_not_apply_and_what_is_no_file) {
         {"/dev/zero --as eigenmode", "more than the 512 MiB that can be read from a pipe; give the name of a file"},
     };
     for (const auto& [arguments, message] : refused) {
-        const ToolResult result = run(QStringList("export") + arguments.split(' '));
-        EXPECT_EQ(result.out, "");
-        EXPECT_THAT(result.err, HasSubstr(message));
-        EXPECT_EQ(result.status, 2);
+        expect("export " + arguments, 2, "", HasSubstr(message));
     }
 }
 
-TEST_F(ResultTool, names_the_variable_that_opens_long_paths) {
+TEST_F(ResultToolTest, RefusedLongPathsNameTheVariableThatAllowsThem) {
     const QString base = QString(200, 'd') + '/' + QString(33, 's');
     ASSERT_TRUE(QDir(folder.path()).mkdir(base.left(200)));
     write(base + QString(25, 'p'), emptyPlane);
@@ -242,22 +235,23 @@ TEST_F(ResultTool, names_the_variable_that_opens_long_paths) {
     writeSet(base);
     for (const QString& name : {base + QString(25, 'p'), base + "_info.bin"}) {
         qunsetenv(variable);
-        const ToolResult refused = run({"show", name});
-        EXPECT_THAT(refused.err, HasSubstr("set the environment variable KIVEN_LONGPATHSUPPORT to 1"));
-        EXPECT_EQ(refused.status, 2);
+        expect("show " + name, 2, "", HasSubstr("set the environment variable KIVEN_LONGPATHSUPPORT to 1"));
         qputenv(variable, "1");
-        EXPECT_EQ(run({"show", name}).status, 0);
+        expect("show " + name, 0, testing::_);
     }
     qunsetenv(variable);
 }
 
-TEST_F(ResultTool, shows_the_fields_on_a_far_zone_box_from_a_pipe) {
-    EXPECT_EQ(run({"show", "-"}, box + '!').out,
-              "-: fields on the far-zone box, version 0\n"
-              "  Records    1\n"
-              "    E        -2 V/m to 3 V/m\n"
-              "    H        -2 A/m to 3 A/m\n"
-              "  Cut short  1 byte at the end belongs to no whole record\n");
+TEST_F(ResultToolTest, ShowDescribesTheFieldsOnAFarZoneBoxFromAPipe) {
+    expect("show -",
+           0,
+           "-: fields on the far-zone box, version 0\n"
+           "  Records    1\n"
+           "    E        -2 V/m to 3 V/m\n"
+           "    H        -2 A/m to 3 A/m\n"
+           "  Cut short  1 byte at the end belongs to no whole record\n",
+           "",
+           box + '!');
 }
 
 }  // namespace

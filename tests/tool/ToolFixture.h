@@ -10,7 +10,7 @@
 
 namespace quarn::test {
 
-// As it is saved, so that checking it finds nothing. The line of "begin_<FDTDProject> " is 2.
+// A project as it is saved, so that a check has no findings. The line "begin_<FDTDProject> " is line 2.
 inline const QString clean =
     "Version 8\n" +
     expanded(
@@ -27,9 +27,15 @@ struct ToolResult {
     std::string err;
 };
 
-class Tool : public testing::Test {
+/// A row of a table of tests; reports name it.
+struct NamedRow {
+    const char* name;
+    friend std::ostream& operator<<(std::ostream& out, const NamedRow& row) { return out << row.name; }
+};
+
+class ToolTest : public testing::Test {
 protected:
-    /// The input comes through a pipe.
+    /// Passes the input through a pipe.
     ToolResult run(const QStringList& arguments, const QByteArray& input = {}) {
         QProcess process;
         process.setWorkingDirectory(folder.path());
@@ -41,6 +47,16 @@ protected:
         return {process.exitCode(),
                 process.readAllStandardOutput().toStdString(),
                 process.readAllStandardError().toStdString()};
+    }
+
+    /// Runs the tool with words that blanks separate, and checks its exit status and what it prints.
+    void expect(const QString& words, int status, const testing::Matcher<std::string>& out,
+                const testing::Matcher<std::string>& err = std::string(), const QByteArray& input = {}) {
+        SCOPED_TRACE(words.toStdString());
+        const ToolResult result = run(words.split(' '), input);
+        EXPECT_EQ(result.status, status);
+        EXPECT_THAT(result.out, out);
+        EXPECT_THAT(result.err, err);
     }
 
     void write(const QString& name, const QByteArray& content) {
@@ -60,13 +76,14 @@ protected:
 
 using Replacements = QVector<QPair<QString, QString>>;
 
-inline QByteArray cleanWith(const Replacements& replacements) {
-    QString text = clean;
+inline QByteArray changed(QString text, const Replacements& replacements) {
     for (const auto& [from, to] : replacements) {
         EXPECT_TRUE(text.contains(from)) << from.toStdString();
         text.replace(from, to);
     }
     return text.toUtf8();
 }
+
+inline QByteArray cleanWith(const Replacements& replacements) { return changed(clean, replacements); }
 
 }  // namespace quarn::test

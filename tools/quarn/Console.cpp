@@ -22,10 +22,10 @@ QTextStream& out() {
     return *stream;
 }
 
-void printError(const QString& text) {
+void printError(const QString& problem) {
     static const auto stream = utf8Stream(stderr);
     out().flush();
-    *stream << "quarn: " << printable(text) << Qt::endl;
+    *stream << "quarn: " << printable(problem) << Qt::endl;
 }
 
 void printError(const FileProblem& problem) {

@@ -7,7 +7,7 @@
 
 #include "Text.h"
 
-/// How the tool talks to its user: results on standard output, messages on standard error, both UTF-8.
+/// Results go to standard output, messages to standard error, both in UTF-8.
 namespace quarn::tool {
 
 enum ExitStatus : int {
@@ -27,7 +27,7 @@ private:
     QString m_path;
 };
 
-/// A command line that cannot be followed.
+/// An error in the command line.
 class WrongUsage : public std::runtime_error {
 public:
     explicit WrongUsage(const QString& problem) : std::runtime_error(problem.toStdString()) {}
@@ -36,10 +36,10 @@ public:
 QTextStream& out();
 
 /// Writes "quarn: TEXT" to standard error.
-void printError(const QString& text);
+void printError(const QString& problem);
 void printError(const FileProblem& problem);
 
-/// Calls `use` for each file, complains about those that it throws a FileProblem for, and returns the worst status.
+/// Calls `use` for each file, prints the FileProblems that it throws, and returns the worst status.
 int forEachFile(const QStringList& paths, const std::function<int(const QString& path)>& use);
 
 }  // namespace quarn::tool

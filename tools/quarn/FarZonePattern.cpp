@@ -16,7 +16,7 @@ FarZoneRequest::Angle angleOf(double theta, double phi) { return {static_cast<fl
 
 double inDecibels(double powerRatio) { return 10.0 * std::log10(powerRatio); }
 
-/// From the phase reference to the farthest corner of the box; an image lies no farther.
+/// The distance from the phase reference to the farthest corner of the box; an image is not farther away.
 double radiusOf(const FieldsOnSSFarZoneBox& fields) {
     const auto reach = [&](std::size_t n) {
         return std::max(std::abs(fields.axis(n).toLowerFace), std::abs(fields.axis(n).toUpperFace));
@@ -24,8 +24,8 @@ double radiusOf(const FieldsOnSSFarZoneBox& fields) {
     return std::hypot(reach(0), reach(1), reach(2));
 }
 
-/// Polar angles in the middles of equal intervals, with the weights of Fejer's first rule: exact for polynomials in the
-/// cosine of the angle of a degree below their number.
+/// The weight of a polar angle in the middle of the i-th of equal intervals by Fejer's first rule, which is exact for
+/// polynomials in the cosine of the angle whose degree is below the number of intervals.
 double fejerWeight(std::size_t number, std::size_t i) {
     const double angle = (static_cast<double>(i) + 0.5) * pi / static_cast<double>(number);
     double sum = 0.0;
@@ -36,8 +36,8 @@ double fejerWeight(std::size_t number, std::size_t i) {
     return 2.0 / static_cast<double>(number) * (1.0 - 2.0 * sum);
 }
 
-/// A multiple of four, so that a plane through the centre never cuts an interval. The intensity of sources within a
-/// radius is of twice the degree of their field, which is a little above wave number times radius.
+/// A multiple of four, so that a plane through the centre never divides an interval. The degree of the field of sources
+/// within a radius is a little above wave number times radius; the intensity has twice this degree.
 std::size_t numberOfIntervals(double wavesTimesRadius) {
     constexpr double mostIntervals = 1440.0;
     const double degree = 2.0 * (wavesTimesRadius + 12.0);

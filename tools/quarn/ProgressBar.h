@@ -6,7 +6,7 @@
 
 namespace quarn::tool {
 
-/// A line on standard error that shows how far some work is, while that is a terminal; the line is gone afterwards.
+/// Shows the progress of some work in a line on standard error if that is a terminal, and removes the line at the end.
 class ProgressBar {
 public:
     explicit ProgressBar(const QString& label);
@@ -14,7 +14,7 @@ public:
     ProgressBar(const ProgressBar&) = delete;
     ProgressBar& operator=(const ProgressBar&) = delete;
 
-    /// Null where nothing is to be shown. Must not outlive the bar.
+    /// Null when standard error is not a terminal. Must not outlive the bar.
     ProgressReporter reporter();
 
 private:

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <initializer_list>
+#include <utility>
 
 /// Text for people.
 namespace quarn::tool {
@@ -21,6 +23,9 @@ template <class Value>
 QString tripleText(Value x, Value y, Value z) {
     return text("(%1, %2, %3)").arg(x).arg(y).arg(z);
 }
+
+/// The names of the flags that are set, with commas between them.
+QString listText(std::initializer_list<std::pair<bool, const char*>> flags);
 
 /// The name that a table gives a value; "unknown" for values that it lacks.
 template <class Value>

@@ -13,15 +13,15 @@ namespace quarn::tool {
 
 namespace {
 
-/// Looks at files, project files together with the geometry that they run on.
+/// Checks files; project files also against the geometry of the run.
 class Examiner {
 public:
-    /// The path of the geometry may be null. That it is none that can be used is said when it is examined itself.
+    /// The path of the geometry may be null. An unusable geometry is reported when it is checked itself.
     explicit Examiner(const QString& geometryPath) : m_geometryPath(geometryPath) {
         if (geometryPath.isNull()) return;
         try {
             m_geometry.emplace(geometryPath, readFile(geometryPath));
-        } catch (const FileProblem&) {  // there is none then
+        } catch (const FileProblem&) {  // projects are then checked alone
         }
     }
 
@@ -53,18 +53,12 @@ int checkAsText(const QStringList& paths, const Examiner& examiner) {
 int checkAsJson(const QStringList& paths, const Examiner& examiner) {
     QJsonArray files;
     const int status = forEachFile(paths, [&](const QString& path) {
-        QJsonObject file{{text("file"), path}};
         try {
             const Findings findings = examiner.findingsIn(path);
-            const QJsonObject members = findings.toJson();
-            for (auto member = members.begin(); member != members.end(); ++member) {
-                file.insert(member.key(), member.value());
-            }
-            files << file;
+            files << findings.toJson(path);
             return statusOf(findings);
         } catch (const FileProblem& problem) {
-            file.insert(text("unusable"), QString::fromUtf8(problem.what()));
-            files << file;
+            files << QJsonObject{{"file", path}, {"unusable", problem.what()}};
             throw;
         }
     });

@@ -53,12 +53,10 @@ std::vector<std::string> protectedArguments(const QStringList& arguments) {
     return result;
 }
 
-QString textOf(const std::string& argument) { return QString::fromStdString(argument).remove(QChar(protection)); }
-
 /// What is wrong, in plainer words than those of CLI11 where the fault is an unknown, repeated or incomplete argument.
 QString problemText(const CLI::App& command, const CLI::ParseError& error) {
     if (const auto unexpected = command.remaining(); !unexpected.empty()) {
-        const QString first = textOf(unexpected.front());
+        const QString first = argumentText(unexpected.front());
         if (first.startsWith(u'-')) return text("Unknown option '%1'.").arg(first);
         return (command.get_parent() ? text("Unexpected argument '%1'.") : text("There is no subcommand '%1'."))
             .arg(first);
@@ -110,6 +108,8 @@ int runTool(const QStringList& arguments) {
     return status;
 }
 
+QString argumentText(const std::string& argument) { return QString::fromStdString(argument).remove(QChar(protection)); }
+
 CLI::App& addCommand(CLI::App& quarn, const char* name, const char* summary, const QString& help) {
     CLI::App& command = *quarn.add_subcommand(name, summary);
     command.set_help_flag("-h,--help", "Shows this help.");
@@ -124,7 +124,7 @@ void addArgument(CLI::App& command, const char* name, QString& value, const char
 
 void addArguments(CLI::App& command, const char* name, QStringList& values, const char* help) {
     const auto take = [&values](const CLI::results_t& given) {
-        for (const std::string& argument : given) values << textOf(argument);
+        for (const std::string& argument : given) values << argumentText(argument);
         return true;
     };
     command.add_option(name, take, help)->expected(CLI::detail::expected_max_vector_size)->required();
@@ -132,7 +132,7 @@ void addArguments(CLI::App& command, const char* name, QStringList& values, cons
 
 void addOption(CLI::App& command, const char* name, const char* valueName, QString& value, const char* help) {
     const auto take = [&value](const CLI::results_t& given) {
-        value = textOf(given.front());
+        value = argumentText(given.front());
         return true;
     };
     command.add_option(name, take, help)->type_name(valueName);
@@ -142,7 +142,7 @@ void addOption(CLI::App& command, const char* name, const char* valueName, std::
                NumberRange range, const char* help) {
     const auto take = [&value, name, range](const CLI::results_t& given) {
         bool isNumber = false;
-        value = textOf(given.front()).toDouble(&isNumber);
+        value = argumentText(given.front()).toDouble(&isNumber);
         if (isNumber && *value >= range.least && *value <= range.most) return true;
         throw WrongUsage(text("%1 needs a number from %2 to %3.")
                              .arg(QLatin1String(name), numberText(range.least), numberText(range.most)));

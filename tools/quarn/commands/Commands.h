@@ -39,6 +39,9 @@ struct NumberRange {
 void addOption(CLI::App& command, const char* name, const char* valueName, std::optional<double>& value,
                NumberRange range, const char* help);
 
+/// An argument in the form in which CLI11 passes it to a callback.
+QString argumentText(const std::string& argument);
+
 /// Adds an option without a value.
 void addFlag(CLI::App& command, const char* name, bool& isSet, const char* help);
 

@@ -23,11 +23,11 @@ Waveform* modulatedGaussian(float frequency) {
     return new Waveform(Waveform::ModulatedGaussian, pulseWidth, frequency, {}, {});
 }
 
-/// Ends a run when its fields have died away around the frequency, or after so many timesteps.
+/// Ends a run when its fields have decayed around the frequency, or after the maximum number of timesteps.
 void endWhenConverged(ProjectFile& project, unsigned maximumTimesteps, float frequency) {
     constexpr unsigned minimumTimesteps = 1000;
-    constexpr unsigned noLimitOfWallClock = 0;
-    auto* criteria = new TerminationCriteria(minimumTimesteps, maximumTimesteps, noLimitOfWallClock);
+    constexpr unsigned noWallClockLimit = 0;
+    auto* criteria = new TerminationCriteria(minimumTimesteps, maximumTimesteps, noWallClockLimit);
     criteria->addConvergence(-40, 5, 5, true, TerminationCriteria::Medium);
     project.setTerminationCriteria(criteria);
     auto* tdAfs = new TdAfsTerminationCriteria;
@@ -55,7 +55,7 @@ void describePlaneWave(ProjectFile& project) {
     project.getSteadyStateFrequencies().push_back({ismBand, text("2.45GHz")});
 }
 
-/// One cell of an endless array in x and y, lit from 30 degrees off its normal.
+/// One cell of an infinite array in x and y, illuminated at 30 degrees from its normal.
 void describePeriodicCell(ProjectFile& project) {
     constexpr auto open = BoundaryConditions::CPML;
     constexpr auto repeated = BoundaryConditions::Periodic;
@@ -88,7 +88,7 @@ constexpr Example examples[] = {
     {dipoleFile, "A half-wave dipole at 1 GHz, fed in its middle", describeDipole},
 };
 
-/// Saves the example, loads it back and reports; false when anything is not as it should be.
+/// Saves the example, loads it back and prints the result; false when something differs or is found.
 bool show(const Example& example, const QDir& folder) {
     OwnedProject project;
     example.describe(project);

@@ -97,7 +97,7 @@ QStringList lossesOf(const PatternCut& cut) {
     } else if (cut.missingSamples > 0) {
         losses << text("cut short: %1 of %2 samples").arg(announced - cut.missingSamples).arg(announced);
     } else if (cut.leftOutLines > 0) {
-        losses << samples(cut.leftOutLines) + text(" left out behind the %1 that NUPOIN announces").arg(announced);
+        losses << samples(cut.leftOutLines) + text(" left out after the %1 that NUPOIN announces").arg(announced);
     }
     if (cut.coincidingSamples > 0) {
         losses << samples(cut.coincidingSamples) +
@@ -124,65 +124,33 @@ ExitStatus exportPattern(const QString& name, const QByteArray& content) {
     return status;
 }
 
-/// Writes one group of a multi-point result: a row for each point of each time step or frequency.
-class GroupExport {
-public:
-    GroupExport(MultiPointSet& set, const SetGroup& group)
-        : m_set(set), m_group(group), m_values(static_cast<std::size_t>(group.numberOfComponents())) {
-        if (m_set.reader.readGeometry(m_points)) return;
-        throw unreadable(m_set.reader.getGeometryFileName());
+/// Writes a row for each point at one time step or frequency. Returns the number of points with all components; nothing
+/// when files are missing.
+std::optional<std::size_t> exportIndex(MultiPointSet& set, const SetGroup& group, int index,
+                                       const std::vector<ivec3>& points, CsvWriter& csv) {
+    constexpr std::size_t piece = 1 << 14;
+    std::vector<std::vector<float>> values(static_cast<std::size_t>(group.numberOfComponents()));
+    group.choose(set.reader, index);
+    for (int c = 0; c < group.numberOfComponents(); ++c) {
+        if (!group.begin(set.reader, index, c)) return std::nullopt;
     }
-
-    void addHeader() {
-        m_csv.addHeader(text(m_group.isSteady() ? "frequency_hz,i,j,k," : "time_s,i,j,k,") + m_group.columns());
-    }
-
-    /// Returns the number of points with all components; nothing when files are missing.
-    std::optional<std::size_t> addRows(int index) {
-        constexpr std::size_t piece = 1 << 14;
-        m_group.choose(m_set.reader, index);
-        if (!begin(index)) return std::nullopt;
-        std::size_t point = 0;
-        while (const std::size_t count = read(std::min(piece, m_points.size() - point))) {
-            for (std::size_t i = 0; i < count; ++i, ++point) {
-                addRow(m_set.listFor(m_group)[static_cast<std::size_t>(index)], m_points[point], i);
-            }
+    std::size_t point = 0;
+    for (std::size_t count = piece; count > 0;) {
+        count = std::min(piece, points.size() - point);
+        for (std::size_t c = 0; c < values.size() && count > 0; ++c) {
+            const bool isRead = group.read(set.reader, static_cast<int>(c), values[c], count);
+            count = isRead ? std::min(count, values[c].size()) : 0;
         }
-        m_set.reader.endTimestep();
-        return point;
-    }
-
-private:
-    bool begin(int index) {
-        for (std::size_t c = 0; c < m_values.size(); ++c) {
-            if (!m_group.begin(m_set.reader, index, static_cast<int>(c))) return false;
+        for (std::size_t i = 0; i < count; ++i, ++point) {
+            csv.add(set.listFor(group)[static_cast<std::size_t>(index)]);
+            for (const int cell : {points[point].x, points[point].y, points[point].z}) csv.add(cell);
+            for (const auto& component : values) csv.add(component[i]);
+            csv.endRow();
         }
-        return true;
     }
-
-    std::size_t read(std::size_t count) {
-        for (std::size_t c = 0; c < m_values.size(); ++c) {
-            if (!m_group.read(m_set.reader, static_cast<int>(c), m_values[c], count)) return 0;
-            count = std::min(count, m_values[c].size());
-        }
-        return count;
-    }
-
-    void addRow(float listed, const ivec3& point, std::size_t i) {
-        m_csv.add(listed);
-        m_csv.add(point.x);
-        m_csv.add(point.y);
-        m_csv.add(point.z);
-        for (const auto& values : m_values) m_csv.add(values[i]);
-        m_csv.endRow();
-    }
-
-    MultiPointSet& m_set;
-    const SetGroup& m_group;
-    CsvWriter m_csv;
-    std::vector<ivec3> m_points;
-    std::vector<std::vector<float>> m_values;  ///< by component
-};
+    set.reader.endTimestep();
+    return point;
+}
 
 /// The part of a multi-point result that the user chose; null where the option is not given.
 struct Choice {
@@ -219,15 +187,17 @@ ExitStatus exportMultiPoint(const InputFile& file, const Choice& choice) {
         first = chosenIndex(choice.index, end);
         end = first + 1;
     }
-    GroupExport rows(set, group);
-    rows.addHeader();
+    std::vector<ivec3> points;
+    if (!set.reader.readGeometry(points)) throw unreadable(set.reader.getGeometryFileName());
+    CsvWriter csv;
+    csv.addHeader(text(group.isSteady() ? "frequency_hz,i,j,k," : "time_s,i,j,k,") + group.columns());
     ExitStatus status = ExitFine;
     for (int index = first; index < end; ++index) {
-        const auto points = rows.addRows(index);
+        const auto found = exportIndex(set, group, index, points, csv);
         const int expected = set.reader.getNumberOfPoints();
-        if (points && *points >= static_cast<std::size_t>(expected)) continue;
+        if (found && *found >= static_cast<std::size_t>(expected)) continue;
         status =
-            reportCutShort(file, text("%1 of %2 points at index %3").arg(points.value_or(0)).arg(expected).arg(index));
+            reportCutShort(file, text("%1 of %2 points at index %3").arg(found.value_or(0)).arg(expected).arg(index));
     }
     return status;
 }
@@ -265,7 +235,7 @@ constexpr char helpText[] =
     "  a multi-point result\n      time_s,i,j,k, then such as total_e_x_v_per_m for each axis; or\n"
     "      frequency_hz,i,j,k, then such as total_e_x_re_v_per_m, total_e_x_im_v_per_m\n"
     "  a SAR plane\n      i,j,k,sar_w_per_kg\n"
-    "  an antenna pattern\n      cut,angle_deg,gain_power_ratio,second (what a line has behind the gain)\n"
+    "  an antenna pattern\n      cut,angle_deg,gain_power_ratio,second (the value after the gain)\n"
     "and for the kinds of records that --as takes%1\n"
     "The components e_theta and e_phi of far-zone records are in volts: the field times the distance.\n\n"
     "Exit status: 0 fine, 1 the file is cut short or not read in all parts, 2 it cannot be used.";

@@ -7,14 +7,15 @@
 #include "Quantity.h"
 #include "commands/Commands.h"
 #include "commands/FarZonePlan.h"
+#include "files/CsvWriter.h"
 #include "files/FarZoneBoxFile.h"
-#include "files/FarZoneOutput.h"
 #include "files/GeometryOnDisk.h"
 #include "files/InputFile.h"
 #include "files/OutputFile.h"
 #include "files/ProjectOnDisk.h"
 #include "plots/PolarPlot.h"
 #include "quarn/BoundaryConditions.h"
+#include "quarn/DataFileWriter.h"
 #include "sheets/Sheet.h"
 
 namespace quarn::tool {
@@ -30,8 +31,8 @@ FarZoneBox boxOf(const ProjectFile& project, const QString& path, const Grid& gr
     const FarZoneBox box(boundaries, grid);
     if (!box.isValid()) {
         throw FileProblem(path,
-                          "there is no far-zone box: it needs open boundaries, one PEC plane at most, and "
-                          "cells between the margins of the grid");
+                          "there is no far-zone box: it needs open boundaries, one PEC plane at most, and cells "
+                          "between the margins of the grid");
     }
     return box;
 }
@@ -39,7 +40,7 @@ FarZoneBox boxOf(const ProjectFile& project, const QString& path, const Grid& gr
 /// The far fields of one frequency.
 class FarZone {
 public:
-    /// Throws a FileProblem for fields that are too large or too small for their power to be a positive number.
+    /// Throws a FileProblem when the radiated power is not a positive finite number.
     FarZone(const FieldsOnSSFarZoneBox& fields, const FarZoneJob& job)
         : m_processor(&fields, job.frequency, 0, 0), m_power(powerOf(fields, m_processor)) {
         if (std::isfinite(m_power.watts) && m_power.watts > 0.0) return;
@@ -89,14 +90,41 @@ void makeFolderOf(const QString& file) {
     if (!QDir().mkpath(folder)) throw FileProblem(folder, "the folder cannot be made");
 }
 
-/// An image of the principal cuts; null when none is wanted.
+/// An image of the principal cuts; null when no plot is wanted.
 QByteArray plotOf(const FarZoneJob& job, const FarZone& farZone, const QString& frequency) {
     if (job.plot.isEmpty()) return {};
     const QString title = text("Directivity in dBi at ") + frequency;
     return polarPlot(*imageFormatOf(job.plot), title, {curveOf(farZone, 0.0), curveOf(farZone, 90.0)});
 }
 
-/// Everything is computed before the first file is written.
+/// Writes the records in the engine's format.
+void writeRecords(const QString& path, const FarZoneRecords& records) {
+    writeFile(path, [&records](const QString& made) {
+        DataFileWriter writer;
+        bool isWritten = writer.open(made, text("wb"));
+        for (const auto& record : records) isWritten = isWritten && FarZoneSSFieldFile::writeRecord(writer, record);
+        return writer.close() && isWritten;
+    });
+}
+
+void writeTable(const QString& path, const FarZoneRecords& records, const RadiatedPower& power) {
+    QByteArray table;
+    {
+        CsvWriter csv(table);
+        csv.addHeader("theta_deg,phi_deg,e_theta_re,e_theta_im,e_phi_re,e_phi_im,directivity_dbi,axial_ratio_db");
+        for (const auto& record : records) {
+            csv.addRow(static_cast<float>(toDegrees(record.theta)),
+                       static_cast<float>(toDegrees(record.phi)),
+                       record.eTheta,
+                       record.ePhi,
+                       static_cast<float>(power.directivity(record)),
+                       static_cast<float>(axialRatio(record)));
+        }
+    }
+    writeFile(path, table);
+}
+
+/// Computes everything before it writes the first file.
 void writeFarFields(const FarZoneJob& job, const std::vector<FarZoneAngles>& directions,
                     const FieldsOnSSFarZoneBox& fields) {
     const QString frequency = withPrefix(job.frequency, "Hz");
@@ -138,7 +166,8 @@ ExitStatus run(const QString& projectPath, const QString& geometryPath, const QS
     QStringList inputs{projectPath, geometryPath};
     for (const FarZoneJob& job : plan.jobs) inputs << job.boxFile;
     checkOutputs(plan, inputs);
-    // The fields of all frequencies together may not fit in memory: they are loaded once to be checked and once more.
+    // The fields of all frequencies may not fit into memory together, so they are loaded once for the check and again
+    // for the computation.
     if (plan.jobs.size() > 1) {
         for (const FarZoneJob& job : plan.jobs) FarZone(fieldsFor(job), job);
     }
@@ -156,8 +185,7 @@ void checkPlot(const QString& path) {
     if (!format) throw WrongUsage("--plot needs the name of a file that ends in .svg or .png.");
     if (canPlot(*format)) return;
     throw WrongUsage(
-        "--plot needs gnuplot, which is not installed or cannot draw such images; install it, or leave --plot "
-        "out.");
+        "--plot needs gnuplot, which is not installed or cannot draw such images; install it, or leave --plot out.");
 }
 
 constexpr char helpText[] =

@@ -21,7 +21,7 @@ using Frequency = ProjectFile::SteadyStateFrequency;
 constexpr float lowestFrequency = 1.0F;
 constexpr float highestFrequency = 1e15F;
 
-QString textOf(const std::vector<Frequency>& frequencies) {
+QString namesOf(const std::vector<Frequency>& frequencies) {
     QStringList texts;
     for (const Frequency& frequency : frequencies) texts << frequencyText(frequency.frequency);
     return texts.join(", ");
@@ -47,7 +47,7 @@ void checkRange(const std::vector<Frequency>& frequencies, const QString& projec
     }
 }
 
-/// The frequency that is the same as a float, which is what the project holds; null when there is none.
+/// The frequency that is equal as a float, the type in the project; null when there is none.
 const Frequency* find(const std::vector<Frequency>& frequencies, double hertz) {
     const auto isSame = [hertz](const Frequency& listed) { return listed.frequency == static_cast<float>(hertz); };
     const auto found = std::find_if(frequencies.begin(), frequencies.end(), isSame);
@@ -58,29 +58,29 @@ const Frequency* find(const std::vector<Frequency>& frequencies, double hertz) {
     const QString given = frequencyText(static_cast<float>(hertz));
     throw FileProblem(projectPath,
                       listed.empty()
-                          ? text("%1 is not one of its steady-state frequencies, as it lists none; "
-                                 "add --force to compute at this frequency nevertheless")
+                          ? text("%1 is not one of its steady-state frequencies, as it lists none; add --force to "
+                                 "compute at this frequency nevertheless")
                                 .arg(given)
-                          : text("%1 is not one of its steady-state frequencies, which are: %2; "
-                                 "give one of them, or add --force to compute at this frequency nevertheless")
-                                .arg(given, textOf(listed)));
+                          : text("%1 is not one of its steady-state frequencies, which are: %2; give one of them, or "
+                                 "add --force to compute at this frequency nevertheless")
+                                .arg(given, namesOf(listed)));
 }
 
-/// What is to be computed, and how the names of its outputs tell the frequencies.
+/// The frequencies to compute, and whether the names of the outputs hold them.
 struct Choice {
     std::vector<Frequency> frequencies;
-    bool areFrequenciesNamed;
+    bool hasFrequencyInNames;
 };
 
 Choice choose(const std::vector<Frequency>& listed, const QString& projectPath, const FarZoneOptions& options) {
     refuseRepeated(listed, projectPath);
-    const bool areSeveral = listed.size() > 1;
+    const bool hasSeveral = listed.size() > 1;
     if (!options.frequency) {
         checkRange(listed, projectPath);
-        if (!listed.empty()) return {listed, areSeveral};
+        if (!listed.empty()) return {listed, hasSeveral};
         throw FileProblem(projectPath, "lists no steady-state frequency; give one with --frequency and --force");
     }
-    if (const Frequency* found = find(listed, *options.frequency)) return {{*found}, areSeveral};
+    if (const Frequency* found = find(listed, *options.frequency)) return {{*found}, hasSeveral};
     if (!options.takesAnyFrequency) refuseFrequency(*options.frequency, listed, projectPath);
     return {{{static_cast<float>(*options.frequency), QString()}}, true};
 }
@@ -102,21 +102,20 @@ QStringList boxFilesFor(const std::vector<Frequency>& frequencies, const QString
         throw FileProblem(projectPath, "names the same folder for two of its frequencies");
     }
     if (static_cast<std::size_t>(given.size()) == frequencies.size()) return given;
-    throw WrongUsage(text("The number of box files must be %1, in the order of the frequencies (%2), and not "
-                          "%3.")
+    throw WrongUsage(text("The number of box files must be %1, in the order of the frequencies (%2), and not %3.")
                          .arg(frequencies.size())
-                         .arg(textOf(frequencies))
+                         .arg(namesOf(frequencies))
                          .arg(given.size()));
 }
 
-/// A list of directions, and the name of the file for their records.
+/// A list of directions and the name of the file for the records.
 struct Pattern {
     QString file;
     FarZoneAngles directions;
 };
 
 Pattern patternOf(const FarZoneRequest& request, const QString& projectPath) {
-    // Only the name counts: a project from elsewhere does not choose the folder.
+    // The folder is dropped: a project from another source must not choose it.
     const QString file = QFileInfo(request.getUANOutputFileName()).fileName();
     const QString shown = printable(file);
     if (file != shown) {
@@ -142,11 +141,11 @@ std::vector<Pattern> patternsFor(const ProjectFile& project, const QString& proj
     }
     if (names.removeDuplicates() == 0) return patterns;
     throw FileProblem(projectPath,
-                      "several far-zone requests write to files of the same name; rename them, or use "
-                      "--step for a sphere in their place");
+                      "several far-zone requests write to files of the same name; rename them, or use --step for a "
+                      "sphere in their place");
 }
 
-/// Puts the label at the end of the name in front of its ending.
+/// Inserts the label before the ending of the file name.
 QString labelled(const QString& path, const QString& label) {
     const QString ending = QFileInfo(path).suffix();
     const int nameEnd = ending.isEmpty() ? path.size() : path.size() - ending.size() - 1;
@@ -165,19 +164,19 @@ FarZoneJob jobFor(float frequency, const QString& boxFile, const QString& label,
     return job;
 }
 
-/// A request may have the name of another one with a frequency: then a frequency that is not the project's only one
-/// would overwrite what that one gave.
-void keepOutputsOfOnlyFrequency(const FarZoneJob& job, const FarZoneJob& ofOnlyFrequency) {
-    const QStringList kept = ofOnlyFrequency.outputs();
+/// Throws a FileProblem when an output with a frequency in its name is also an output of the project's only frequency,
+/// which happens when one request is named like another one with the frequency added.
+void refuseOutputsOf(const FarZoneJob& job, const FarZoneJob& onlyFrequency) {
+    const QStringList kept = onlyFrequency.outputs();
     for (const QString& output : job.outputs()) {
         if (!kept.contains(output)) continue;
         throw FileProblem(output,
-                          "is also an output of the project's only frequency; rename one of the "
-                          "far-zone requests, or use --step");
+                          "is also an output of the project's only frequency; rename one of the far-zone requests, or "
+                          "use --step");
     }
 }
 
-/// Throws a FileProblem when there is no place for the file, though its folder may be still to be made.
+/// Throws a FileProblem when the file cannot be written. Its folder need not exist yet.
 void checkPlace(const QString& output) {
     checkName(output);
     const QFileInfo file(output);
@@ -189,8 +188,8 @@ void checkPlace(const QString& output) {
     while (!file.isSymLink() && !folder.exists() && !folder.isRoot()) folder = QFileInfo(folder.absolutePath());
     if (folder.isDir() && folder.isWritable()) return;
     throw FileProblem(output,
-                      text("cannot be written, as %1 is not a folder that can be written to; use another "
-                           "--out or --plot")
+                      text("cannot be written, as %1 is not a folder that can be written to; use another --out or "
+                           "--plot")
                           .arg(folder.filePath()));
 }
 
@@ -220,18 +219,18 @@ QString frequencyText(float hertz) {
 FarZonePlan planFarZone(const ProjectFile& project, const QString& projectPath, const QStringList& boxFiles,
                         const FarZoneOptions& options) {
     const auto& listed = project.getSteadyStateFrequencies();
-    const auto [frequencies, areNamed] = choose(listed, projectPath, options);
+    const auto [frequencies, hasFrequencyInNames] = choose(listed, projectPath, options);
     const QStringList files = boxFilesFor(frequencies, projectPath, boxFiles);
     const std::vector<Pattern> patterns = patternsFor(project, projectPath, options);
     FarZonePlan plan;
     for (const Pattern& pattern : patterns) plan.directions.push_back(pattern.directions);
     for (std::size_t i = 0; i < frequencies.size(); ++i) {
         const float frequency = frequencies[i].frequency;
-        const QString label = areNamed ? u'-' + frequencyText(frequency).remove(u' ') : QString();
+        const QString label = hasFrequencyInNames ? u'-' + frequencyText(frequency).remove(u' ') : QString();
         plan.jobs.push_back(jobFor(frequency, files.at(static_cast<int>(i)), label, patterns, options));
     }
-    if (areNamed && listed.size() == 1) {
-        keepOutputsOfOnlyFrequency(plan.jobs.front(), jobFor(0.0F, QString(), QString(), patterns, options));
+    if (hasFrequencyInNames && listed.size() == 1) {
+        refuseOutputsOf(plan.jobs.front(), jobFor(0.0F, QString(), QString(), patterns, options));
     }
     return plan;
 }

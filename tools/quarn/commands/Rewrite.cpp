@@ -59,8 +59,8 @@ ExitStatus rewrite(const QString& in, const QString& out, bool force) {
         printLoss(in, form.loss);
         if (!force && isSameStoredFile(in, out)) {
             throw FileProblem(out,
-                              "not written: it is the file that was read, which would lose what is not "
-                              "kept; write to another file, or add --force");
+                              "not written: it is the file that was read, which would lose what is not kept; write to "
+                              "another file, or add --force");
         }
     }
     writeFile(out, form.bytes);

@@ -136,7 +136,7 @@ void addSar(CLI::App& quarn, int& status) {
              "interrupted, an earlier OUT stays as it was."));
     const auto checkAction = [](const CLI::results_t& given) {
         if (given.front() == "combine") return true;
-        throw WrongUsage(text("Unknown action '%1'; the only one is 'combine'.").arg(text(given.front().c_str())));
+        throw WrongUsage(text("Unknown action '%1'; the only one is 'combine'.").arg(argumentText(given.front())));
     };
     command.add_option("combine", checkAction, "What to do.")->required();
     addArgument(command, "OUT", options->output, "The file to write.");

@@ -4,18 +4,17 @@
 
 namespace quarn::tool {
 
-/// While it lives, SIGINT and SIGTERM do not end the process at once, so that a temporary file can be removed first. At
-/// the end of its life a signal that came takes its usual effect: by default it ends the process.
+/// Defers SIGINT and SIGTERM for as long as it exists, so that a temporary file can be removed before the process ends.
+/// The destructor gives a signal that arrived its usual effect.
 class DeferredSignals {
 public:
-    /// Nothing is deferred where `output` is a device or a pipe: these are written into without a temporary file, and
-    /// may keep a writer waiting.
+    /// Defers nothing when `output` is a device or a pipe: these need no temporary file, and writing to them may block.
     explicit DeferredSignals(const QString& output);
     ~DeferredSignals();
     DeferredSignals(const DeferredSignals&) = delete;
     DeferredSignals& operator=(const DeferredSignals&) = delete;
 
-    /// Whether a signal came, so that the work should be given up.
+    /// Whether a signal arrived, so that the work should stop.
     bool isPending() const;
 
 private:

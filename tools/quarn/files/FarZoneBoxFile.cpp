@@ -40,8 +40,8 @@ void checkNumberOfRecords(const QString& path, const FarZoneBox& box) {
         found += text(" and %1 of another").arg(counted(bytes % recordSize, "byte"));
     }
     throw FileProblem(path,
-                      text("holds %1, but the far-zone box of this geometry has %2; give the box file, the "
-                           "project and the geometry of one run that has ended")
+                      text("holds %1, but the far-zone box of this geometry has %2; give the box file, the project and "
+                           "the geometry of one run that has ended")
                           .arg(found, counted(needed, "record")));
 }
 
@@ -68,7 +68,7 @@ void checkValues(const QString& path, const FieldsOnSSFarZoneBox& fields) {
     throw FileProblem(path, "all fields are zero; check that the run was excited at this frequency");
 }
 
-/// Fields that turn within a cell mean nothing, and their pattern would take more directions than anybody waits for.
+/// On larger cells the fields are undersampled, and the radiated power would need too many directions.
 void checkCells(const QString& geometryPath, const FieldsOnSSFarZoneBox& fields, float frequency) {
     const double waveLength = waveLengthAt(frequency);
     for (std::size_t n = 0; n < 3; ++n) {
@@ -88,14 +88,14 @@ QString boxFileIn(const QString& base, const QString& folder, const QString& fre
     const QString inside = QDir::cleanPath(folder);
     if (QDir::isAbsolutePath(inside) || inside == QLatin1String("..") || inside.startsWith(QLatin1String("../"))) {
         throw FileProblem(base,
-                          text("the project's folder \"%1\" for %2 lies outside; give the box file in place "
-                               "of the folder")
+                          text("the project's folder \"%1\" for %2 lies outside; give the box file in place of the "
+                               "folder")
                               .arg(folder, frequency));
     }
     const QDir searched(QDir(base).filePath(inside));
     if (!searched.exists()) {
         throw FileProblem(searched.path(),
-                          text("there is no such folder, in which the project has its results for %1").arg(frequency));
+                          text("the folder does not exist; the project names it for its results at %1").arg(frequency));
     }
     QStringList found;
     for (const QString& name : searched.entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
@@ -120,8 +120,8 @@ FieldsOnSSFarZoneBox loadBoxFields(const QString& path, const FarZoneBox& box, c
     if (!fields.isComplete()) throw FileProblem(path, problem);
     if (!fields.setupImageFields(grid)) {
         throw FileProblem(geometryPath,
-                          "its grid does not have the conducting plane where the far-zone box has it; "
-                          "give the geometry of the same run");
+                          "its grid does not have the conducting plane where the far-zone box has it; give the "
+                          "geometry of the same run");
     }
     checkValues(path, fields);
     checkCells(geometryPath, fields, frequency);

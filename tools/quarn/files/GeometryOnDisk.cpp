@@ -4,7 +4,7 @@
 
 #include "Console.h"
 #include "files/InputFile.h"
-#include "findings/BlockText.h"
+#include "findings/BlockScan.h"
 
 namespace quarn::tool {
 
@@ -12,7 +12,7 @@ LoadedGeometry::LoadedGeometry(const QString& path, const QByteArray& content) {
     if (!isGeometryFile(content)) {
         throw FileProblem(path, "not a geometry file: its first line does not name a geometry file version");
     }
-    DecodedText decoded = decodedAsUtf8(content);
+    DecodedContent decoded = decodedAsUtf8(content);
     text = decoded.text;
     invalidCharacters = decoded.invalidCharacters;
     QTextStream stream(&decoded.text, QIODevice::ReadOnly);

@@ -8,13 +8,13 @@
 
 namespace quarn::tool {
 
-/// A geometry file and the text that it was loaded from.
+/// A loaded geometry file and its text.
 struct LoadedGeometry {
-    /// Throws a FileProblem when the content is not that of a geometry file, or of one that the library refuses.
+    /// Throws a FileProblem when the content is not a geometry file or the library refuses it.
     LoadedGeometry(const QString& path, const QByteArray& content);
 
     QString text;
-    int invalidCharacters = 0;  ///< that the UTF-8 decoding had to replace
+    int invalidCharacters = 0;  ///< replaced by the UTF-8 decoding
     v6GeometryFile geometry;
     Grid grid;
 };

@@ -25,7 +25,7 @@ constexpr int beginningSize = mebibyte / 16;
 bool isNearZonePoint(const QByteArray& content) { return content.startsWith("Rnzp"); }
 bool isMultiPoint(const QByteArray& content) { return content.startsWith("Rmpt"); }
 
-/// Also when the content ends within the mark at the beginning of the header.
+/// Also true when the content ends within the mark at the beginning of the header.
 bool hasRecordHeader(const QByteArray& content) {
     constexpr int fewestCharacters = 4;
     const QByteArray mark = "!tavrixfdtd";
@@ -80,7 +80,7 @@ void openForReading(QFile& file) {
     if (!isOpen) throw FileProblem(path, file.errorString());
 }
 
-// In pieces and with the limit checked as it goes, since a device or a pipe does not tell its size.
+// Reads in pieces and checks the limit after each, since a device or a pipe has no size.
 QByteArray readFile(const QString& path, const QString& tooLarge) {
     QFile file(path);
     openForReading(file);
@@ -96,8 +96,8 @@ QByteArray readFile(const QString& path, const QString& tooLarge) {
     return content;
 }
 
-/// A temporary file need not have a name, where systems allow it, so that nothing of it stays whatever ends the
-/// program. Asking for its name gives it one.
+/// Some systems keep a temporary file without a name, so that it disappears however the program ends. Asking for its
+/// name would give it one.
 QString pathOf(const QTemporaryFile& file) {
     const QString withoutName = text("/proc/self/fd/%1").arg(file.handle());
     return QFile::exists(withoutName) ? withoutName : file.fileName();
@@ -151,7 +151,7 @@ void InputFile::copyToTemporaryFile() {
     m_beginning = content.left(beginningSize);
 }
 
-DecodedText decodedAsUtf8(const QByteArray& content) {
+DecodedContent decodedAsUtf8(const QByteArray& content) {
     QTextCodec::ConverterState state;
     const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(content.constData(), content.size(), &state);
     return {text, state.invalidChars};

@@ -6,14 +6,14 @@
 
 namespace quarn::tool {
 
-/// What a file is, as its content tells; its name does not count.
+/// The kind of a file by its content; its name does not matter.
 enum class FileKind {
-    // Results of the engine, which may be large and are read piece by piece.
+    // Results of the engine; they may be large and are read piece by piece.
     NearZonePoint,
     MultiPoint,
     SarPlane,
     FarZoneBox,
-    OtherResult,  ///< with the header of record files, but of an unknown type or version
+    OtherResult,  ///< has the header of record files, but an unknown type or version
 
     MeshlessVias,
     Geometry,
@@ -23,10 +23,10 @@ enum class FileKind {
     Unknown,
 };
 
-/// The beginning of the content is enough, except for projects with much text before their first block.
+/// The beginning of the content is sufficient, except for projects with much text before their first block.
 FileKind kindOf(const QByteArray& content);
 
-/// Such as "a SAR plane".
+/// A noun phrase such as "a SAR plane".
 QString description(FileKind kind);
 
 constexpr bool isResult(FileKind kind) { return kind <= FileKind::OtherResult; }
@@ -34,28 +34,27 @@ constexpr bool isResult(FileKind kind) { return kind <= FileKind::OtherResult; }
 /// The name of a file, or of the device for a standard stream when the name is "-".
 QString withoutDash(const QString& name, const char* device);
 
-/// Throws a FileProblem for the empty name, for which Qt has a warning of its own, and for a link that only leads back
-/// to itself.
+/// Throws a FileProblem for an empty name and for a symbolic link that leads only to itself.
 void checkName(const QString& path);
 
 /// The content of a file, or of standard input for the name "-". Throws a FileProblem when it cannot be read or exceeds
 /// 512 MiB.
 QByteArray readFile(const QString& path);
 
-/// A file as the command line names it. What is no regular file (a pipe, a device, standard input for the name "-") is
-/// read to its end and copied to a temporary file, since results are read by going to and fro in them.
+/// A file that the command line names. A pipe, a device or, for the name "-", standard input is read to its end and
+/// copied to a temporary file, since the readers of results seek.
 class InputFile {
 public:
-    /// Throws a FileProblem for what cannot be read, such as a folder, and for more than 512 MiB from a pipe.
+    /// Throws a FileProblem for a file that cannot be read, for a folder and for more than 512 MiB from a pipe.
     explicit InputFile(const QString& name);
 
-    /// As on the command line, for messages.
+    /// The name on the command line, for messages.
     const QString& name() const { return m_name; }
 
-    /// Where the content can be read as often as needed.
+    /// A path at which the content can be read repeatedly.
     const QString& path() const { return m_path; }
 
-    /// Enough of the content to tell what it is.
+    /// A part of the content that is sufficient to recognise its kind.
     const QByteArray& beginning() const { return m_beginning; }
 
 private:
@@ -67,10 +66,10 @@ private:
     QTemporaryFile m_copy;
 };
 
-struct DecodedText {
+struct DecodedContent {
     QString text;
     int invalidCharacters = 0;
 };
-DecodedText decodedAsUtf8(const QByteArray& content);
+DecodedContent decodedAsUtf8(const QByteArray& content);
 
 }  // namespace quarn::tool

@@ -63,14 +63,12 @@ MultiPointSet::MultiPointSet(const InputFile& infoFile) {
     const auto problem = [&](const QString& text) { return FileProblem(infoFile.name(), text); };
     if (!infoFile.path().endsWith(ending)) {
         throw problem(
-            text("is the info file of a multi-point result; give it by its own name, "
-                 "BASE_info.bin, beside the other files of the result"));
+            text("is the info file of a multi-point result; give it by its own name, BASE_info.bin, beside the other "
+                 "files of the result"));
     }
     checkPathLength(infoFile.path());
     if (!reader.beginResultReading(infoFile.path().chopped(ending.size()))) {
-        throw problem(
-            text("is the info file of a multi-point result, but cut short, damaged or not of "
-                 "version 0"));
+        throw problem(text("is the info file of a multi-point result, but cut short, damaged or not of version 0"));
     }
     for (const Result::TransientGroup group : Result::transientGroups) {
         if (reader.collects(group)) groups.emplace_back(group);

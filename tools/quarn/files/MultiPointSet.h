@@ -25,12 +25,12 @@ public:
 
     int numberOfComponents() const { return m_isSteady ? 6 : 3; }
 
-    /// The names of its components in a table, with commas between them; a steady group has two parts of each.
+    /// The columns of a table, with commas between them; a steady group has two for each component.
     QString columns() const;
 
     void choose(MultiPointResultReader& reader, int index) const;
-    /// Opens the file of a component at the chosen index; false when it cannot. Throws a FileProblem when the path is
-    /// too long.
+    /// Opens the file of a component at the chosen index; false when it cannot be opened. Throws a FileProblem when the
+    /// path is too long.
     bool begin(MultiPointResultReader& reader, int index, int component) const;
     bool read(MultiPointResultReader& reader, int component, std::vector<float>& values, std::size_t count) const;
 
@@ -48,7 +48,7 @@ struct MultiPointSet {
     /// cannot be read.
     explicit MultiPointSet(const InputFile& infoFile);
 
-    /// The time steps or the frequencies so far.
+    /// The time steps or the frequencies that are recorded so far.
     const std::vector<float>& listFor(const SetGroup& group) const { return group.isSteady() ? frequencies : times; }
 
     MultiPointResultReader reader;

@@ -1,5 +1,7 @@
 #include "files/NearZoneFile.h"
 
+#include <QFileInfo>
+
 #include "Console.h"
 #include "files/ResultFile.h"
 #include "quarn/BinaryFile.h"
@@ -25,7 +27,7 @@ NearZoneFile::NearZoneFile(const InputFile& file) {
         if (header.collects(info.group)) m_groups.push_back(info);
     }
     const std::size_t recordSize = sizeof(float) * (1 + 3 * m_groups.size());
-    m_incompleteBytes = static_cast<std::size_t>(sizeOf(file) - headerSize) % recordSize;
+    m_incompleteBytes = static_cast<std::size_t>(QFileInfo(file.path()).size() - headerSize) % recordSize;
 }
 
 }  // namespace quarn::tool

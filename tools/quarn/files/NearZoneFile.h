@@ -22,12 +22,12 @@ public:
 
     const NearZoneMultiFieldPointResult::Header& header() const { return m_result.getHeader(); }
 
-    /// Those that the records hold, in their order.
+    /// The groups in the records, in their order.
     const std::vector<FieldGroupInfo>& groups() const { return m_groups; }
 
     bool next(Record& record) { return m_result.readRecord(m_file.get(), record); }
 
-    /// Bytes at the end of the file that are no whole record.
+    /// The number of bytes behind the last whole record.
     std::size_t incompleteBytes() const { return m_incompleteBytes; }
 
 private:

@@ -13,16 +13,16 @@ namespace quarn::tool {
 
 namespace {
 
-bool closes(QFile& file) {
+bool isClosed(QFile& file) {
     file.close();
     return file.error() == QFileDevice::NoError;
 }
 
-// Messages name `path`, for which the file stands.
+// Messages name `path`, which the file is to replace.
 void write(const QString& path, QFile& file, const QByteArray& bytes) {
-    const bool isWritten = file.isOpen() && file.write(bytes) == bytes.size() && file.flush() && closes(file);
+    const bool isWritten = file.isOpen() && file.write(bytes) == bytes.size() && file.flush() && isClosed(file);
     if (isWritten) return;
-    // A disk that takes a part only gives no reason; then the text is that of a file without an error.
+    // When a full disk takes a part only, there is no reason: the text is that of a file without an error.
     const bool hasReason = file.errorString() != QFile().errorString();
     throw FileProblem(path, hasReason ? file.errorString() : text("cannot be written"));
 }

@@ -6,12 +6,12 @@
 
 namespace quarn::tool {
 
-/// Writes the file by way of a FileReplacement: an earlier one stays as it is on any failure where it can be replaced,
-/// and a device or a pipe is written into. SIGINT and SIGTERM take effect when the file is whole or given up. The name
-/// "-" stands for standard output. Throws a FileProblem.
+/// Writes the file through a FileReplacement, so that an earlier file stays as it was on a failure wherever it can be
+/// replaced. Devices and pipes are written directly. SIGINT and SIGTERM take effect when the file is complete or
+/// dropped. The name "-" stands for standard output. Throws a FileProblem.
 void writeFile(const QString& path, const QByteArray& bytes);
 
-/// Likewise, with what `make` writes to the file that it is given; it returns false when it cannot.
+/// Writes the content that `make` writes to the path that it is given. `make` returns false when it fails.
 void writeFile(const QString& path, const std::function<bool(const QString& path)>& make);
 
 }  // namespace quarn::tool

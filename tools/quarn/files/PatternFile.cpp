@@ -28,12 +28,12 @@ const QLatin1String frequencyKeyword("PATFRE");
 const QLatin1String cutKeywords[] = {cutKeyword, QLatin1String("POLARI"), countKeyword, rangeKeyword};
 
 const QString separator = text(":,");
-const QString anyRange = text("0,0");  // which no sample depends on
+const QString anyRange = text("0,0");  // the samples do not depend on it
 
 const QString countProblem = text("the number of samples is not a whole number of 0 or more");
 const QString rangeProblem = text("the first and the last angle are not two numbers");
 const QString sampleProblem = text("the sample is not an angle and a gain, two numbers with a comma between them");
-const QString continuationProblem = text("samples go on behind a keyword that does not belong in a cut");
+const QString continuationProblem = text("samples continue after a keyword that does not belong in a cut");
 
 QString decoded(const QByteArray& content) {
     return QTextCodec::codecForUtfText(content, QTextCodec::codecForName("UTF-8"))->toUnicode(content);
@@ -48,7 +48,7 @@ std::optional<double> frequencyFrom(const QString& value) {
     return number > 0.0 ? std::make_optional(number * megahertz) : std::nullopt;
 }
 
-/// Why the reader of cuts stops at a keyword.
+/// Why NSMACutPlane stops at a keyword.
 QString refusalReason(const QString& line) {
     QString keyword, value;
     NSMACutPlane::ProcessLine(line, keyword, value, separator);
@@ -68,7 +68,7 @@ bool isRange(const QString& value) {
     return splitAtComma(value, first, last) && isAngle(first) && isAngle(last);
 }
 
-/// The sample of one line as the reader of cuts takes it.
+/// The sample in a line as NSMACutPlane reads it.
 NSMACutPlane::Samples sampleFrom(const QString& line) {
     QString cut = countKeyword + separator + "1\n" + rangeKeyword + separator + anyRange + u'\n' + line;
     QTextStream stream(&cut, QIODevice::ReadOnly);
@@ -79,11 +79,11 @@ NSMACutPlane::Samples sampleFrom(const QString& line) {
 
 bool isSameGain(double first, double second) { return first == second || (std::isnan(first) && std::isnan(second)); }
 
-/// One cut, collected line by line. What the reader of cuts takes for granted is looked after here: that the number of
-/// samples and their range are given, in this order and before the samples, and that all of these are numbers.
-class CutText {
+/// One cut, collected line by line. Ensures what NSMACutPlane relies on: the number of samples and their range are
+/// given, in this order and before the samples, and all of these are numbers.
+class CutReader {
 public:
-    CutText(int line, const std::optional<double>& frequency) {
+    CutReader(int line, const std::optional<double>& frequency) {
         m_cut.line = line;
         m_cut.frequency = frequency;
     }
@@ -142,7 +142,7 @@ public:
         QTextStream stream(&text, QIODevice::ReadOnly);
         if (!m_cut.plane.StreamIn(stream, 0.0F, NSMACutPlane::Decibels)) {
             const int index = text.leftRef(static_cast<int>(stream.pos()) - 1).count(u'\n') - 1;
-            m_cut.refusal.reset();  // which is further down
+            m_cut.refusal.reset();  // it is further down
             refuse(m_headerNumbers[static_cast<std::size_t>(index)], m_header[index], refusalReason(m_header[index]));
         }
         countCoincidingSamples();
@@ -156,7 +156,7 @@ private:
         QString text;
     };
 
-    /// The reader of cuts keeps the first sample at an angle.
+    /// NSMACutPlane keeps the first sample at an angle.
     void countCoincidingSamples() {
         const auto& kept = m_cut.plane.GetSamples();
         if (static_cast<std::size_t>(m_samples.size()) == kept.size()) return;
@@ -183,16 +183,16 @@ private:
 
     PatternCut m_cut;
     QSet<QString> m_keywords;
-    QStringList m_header;  ///< keywords but for the number of samples and the range
+    QStringList m_header;  ///< lines with keywords other than NUPOIN and FSTLST
     std::vector<int> m_headerNumbers;
-    QStringList m_samples;          ///< those before a refusal
+    QStringList m_samples;          ///< up to a refusal
     std::optional<Line> m_foreign;  ///< the first keyword that does not belong in a cut
     bool m_hasSamples = false;
     int m_count = 0;
     QString m_range = anyRange;
 };
 
-/// Takes a file line by line and finds where its cuts start and end.
+/// Takes a file line by line and divides it into cuts.
 class CutCollector {
 public:
     void addKeyword(int line, const QString& keyword, const QString& value) {
@@ -215,7 +215,7 @@ public:
 
 private:
     std::vector<PatternCut> m_cuts;
-    std::optional<CutText> m_open;
+    std::optional<CutReader> m_open;
     std::optional<double> m_frequency;
 };
 
@@ -232,12 +232,12 @@ std::vector<PatternCut> readPatternFile(const QString& path, const QByteArray& c
     if (content.size() > sizeLimit) {
         throw FileProblem(path, "larger than the 64 MiB that an antenna pattern may have");
     }
-    QString decodedText = decoded(content);
-    QTextStream lines(&decodedText, QIODevice::ReadOnly);
+    QString decodedContent = decoded(content);
+    QTextStream lines(&decodedContent, QIODevice::ReadOnly);
     CutCollector collector;
     QString line, keyword, value;
     for (int number = 1; lines.readLineInto(&line); ++number) {
-        // For people a comment begins at the first mark, for the reader of cuts at the last.
+        // A comment begins at the first mark; NSMACutPlane would take the last one.
         line = line.left(line.indexOf(u'!')).trimmed();
         if (NSMACutPlane::ProcessLine(line, keyword, value, separator)) {
             collector.addKeyword(number, keyword.trimmed(), value.trimmed());

@@ -18,27 +18,26 @@ struct PatternCut {
 
     int line = 0;                     ///< where its keywords start, counted from 1
     std::optional<double> frequency;  ///< in Hz, when the header before the cut gives one
-    QString planeText;                ///< what PATCUT says; null where that is not given
+    QString planeText;                ///< the value of PATCUT; null when it is not given
     bool hasCount = false;            ///< whether NUPOIN gives the number of samples
     bool hasRange = false;            ///< whether FSTLST gives the first and the last angle
-    int completedLines = 0;           ///< samples without a second value, which were given an empty one
-    int leftOutLines = 0;             ///< samples behind the last one that the cut announces
-    int missingSamples = 0;           ///< those that the cut announces and does not hold
-    int coincidingSamples = 0;        ///< samples left out as one at the same angle with another gain came before
+    int completedLines = 0;           ///< samples that got an empty second value
+    int leftOutLines = 0;             ///< samples after the last one that the cut announces
+    int missingSamples = 0;           ///< samples that the cut announces but lacks
+    int coincidingSamples = 0;        ///< left out after one at the same angle with another gain
     std::optional<Refusal> refusal;
-    NSMACutPlane plane;  ///< of a refused cut what was read before the refusal; has defaults for what is not given
+    NSMACutPlane plane;  ///< has defaults for what is not given; a refused cut is read up to the refusal
 };
 
-/// Whether an NSMA keyword that belongs to a cut stands near the beginning of the content.
+/// Whether the beginning of the content holds an NSMA keyword of a cut.
 bool isPatternFile(const QByteArray& content);
 
-/// All cuts of an NSMA file in UTF-8 or, after a byte-order mark, UTF-16. Header lines are passed over and a sample
-/// that has an angle and a gain only is completed, as the reader of cuts refuses both. A cut that does not give the
-/// number of its samples or their range has all samples that follow. What is there and is not a number is refused, and
-/// so is a cut whose samples go on behind a keyword that does not belong in a cut. Of the samples at one angle, whole
-/// turns left out, the first is kept.
-/// Gains are taken for decibels and become power ratios. Throws a FileProblem when the file is larger, or has more
-/// cuts, than any pattern.
+/// All cuts of an NSMA file in UTF-8 or, after a byte-order mark, UTF-16. Skips header lines and completes samples that
+/// have only an angle and a gain, since NSMACutPlane refuses both. A cut that does not give the number of its samples
+/// or their range takes all samples that follow. Refuses a cut with a sample, count or range that is not a number, and
+/// a cut whose samples continue after a keyword that does not belong in a cut. Keeps the first sample at each angle;
+/// whole turns make no difference. Gains are in decibels in the file and become power ratios. Throws a FileProblem when
+/// the file is larger or has more cuts than any pattern.
 std::vector<PatternCut> readPatternFile(const QString& path, const QByteArray& content);
 
 }  // namespace quarn::tool

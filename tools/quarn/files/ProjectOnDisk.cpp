@@ -11,7 +11,7 @@ LoadedProject::LoadedProject(const QString& path, const QByteArray& content) {
     if (kindOf(content) != FileKind::Project) {
         throw FileProblem(path, "not a project file: it has no FDTDProject or FEMProject block");
     }
-    DecodedText decoded = decodedAsUtf8(content);
+    DecodedContent decoded = decodedAsUtf8(content);
     text = decoded.text;
     invalidCharacters = decoded.invalidCharacters;
     QTextStream stream(&decoded.text, QIODevice::ReadOnly);

@@ -7,19 +7,17 @@
 
 namespace quarn::tool {
 
-using quarn::OwnedProject;
-
-/// A project and the text that it was loaded from.
+/// A loaded project file and its text.
 struct LoadedProject {
-    /// Throws a FileProblem when the content is not that of a project file, or of one with an unsupported version.
+    /// Throws a FileProblem when the content is not a project file or has an unsupported version.
     LoadedProject(const QString& path, const QByteArray& content);
 
     QString text;
-    int invalidCharacters = 0;  ///< that the UTF-8 decoding had to replace
+    int invalidCharacters = 0;  ///< replaced by the UTF-8 decoding
     OwnedProject project;
 };
 
-/// What the library saves. Throws std::runtime_error when the project cannot be saved.
+/// The project as the library saves it. Throws std::runtime_error when the project cannot be saved.
 QByteArray savedBytes(v6ProjectFile& project);
 
 }  // namespace quarn::tool

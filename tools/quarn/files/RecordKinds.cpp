@@ -26,18 +26,11 @@ void addFields(CsvWriter& csv, const FarZoneSSFieldFileRecord& record) {
 
 template <class Codec>
 std::size_t exportRecords(DataFileReader& reader, const RecordKind& kind, CsvWriter& csv) {
-    constexpr std::size_t piece = 1 << 12;
     csv.addHeader(text(kind.columns));
-    const auto bytes = static_cast<std::size_t>(reader.bytesLeft());
-    std::vector<typename Codec::Record> records;
-    for (bool more = true; more;) {
-        more = Codec::readRecords(reader, piece, records);
-        for (const auto& record : records) {
-            addFields(csv, record);
-            csv.endRow();
-        }
-    }
-    return bytes % Codec::recordSize;
+    return forEachRecord<Codec>(reader, [&csv](const auto& record) {
+        addFields(csv, record);
+        csv.endRow();
+    });
 }
 
 template <class Codec>

@@ -1,9 +1,6 @@
 #include "files/ResultFile.h"
 
-#include <QFileInfo>
-
 #include "Console.h"
-#include "quarn/DataFileReader.h"
 #include "quarn/FileHeader.h"
 #include "quarn/LongPathUtil.h"
 #include "quarn/SarResult.h"
@@ -13,8 +10,8 @@ namespace quarn::tool {
 void checkPathLength(const QString& path) {
     if (!isPathTooLong(path)) return;
     throw FileProblem(path,
-                      text("the path has %1 characters; set the environment variable KIVEN_LONGPATHSUPPORT "
-                           "to 1 to have such long paths opened, or give a shorter one")
+                      text("the path has %1 characters; set the environment variable KIVEN_LONGPATHSUPPORT to 1 to "
+                           "have such long paths opened, or give a shorter one")
                           .arg(path.size()));
 }
 
@@ -41,8 +38,6 @@ void open(SarResultReader& reader, const InputFile& file) {
     if (reader.beginResultReading(file.path())) return;
     throw FileProblem(file.name(), "is a SAR plane whose header is cut short or names no known plane");
 }
-
-std::int64_t sizeOf(const InputFile& file) { return QFileInfo(file.path()).size(); }
 
 QString incompleteRecordText(std::size_t bytes) {
     return counted(bytes, "byte") + text(" at the end ") + QLatin1String(bytes == 1 ? "belongs" : "belong") +

@@ -12,19 +12,19 @@ namespace quarn::tool {
 
 namespace {
 
-QString savedText(v6ProjectFile& project) { return QString::fromUtf8(savedBytes(project)); }
+QString savedContent(v6ProjectFile& project) { return QString::fromUtf8(savedBytes(project)); }
 
-QString savedTextWithoutBoundaries(v6ProjectFile& project) {
+QString savedContentWithoutBoundaries(v6ProjectFile& project) {
     constexpr auto any = BoundaryConditions::PEC;
     const QString endOfBoundaries = text("end_<OuterBoundaries>\n");
     project.setBoundaryConditions(new BoundaryConditions(any, any, any, any, any, any, 0));
-    QString text = savedText(project);
+    QString text = savedContent(project);
     const int start = text.indexOf(QLatin1String("begin_<OuterBoundaries>"));
     const int end = text.indexOf(endOfBoundaries) + endOfBoundaries.size();
     return text.remove(start, end - start);
 }
 
-Findings lossIn(BlockText input, int invalidCharacters, const BlockText& saved) {
+Findings lossIn(BlockScan input, int invalidCharacters, const BlockScan& saved) {
     Findings findings;
     if (invalidCharacters > 0) {
         findings.warnings
@@ -60,22 +60,23 @@ QStringList Findings::lossTexts(const QString& path) const {
     return texts;
 }
 
-QJsonObject Findings::toJson() const {
+QJsonObject Findings::toJson(const QString& path) const {
     QJsonArray lostLines;
     for (const LostLine& line : lost) {
-        QJsonObject object{{text("line"), line.number}, {text("text"), line.text}};
-        if (!line.becomes.isNull()) object.insert(text("becomes"), line.becomes);
+        QJsonObject object{{"line", line.number}, {"text", line.text}};
+        if (!line.becomes.isNull()) object.insert("becomes", line.becomes);
         lostLines << object;
     }
     QJsonArray unclosedBlocks;
     for (const UnclosedBlock& block : unclosed) {
-        unclosedBlocks << QJsonObject{{text("line"), block.line}, {text("block"), block.name}};
+        unclosedBlocks << QJsonObject{{"line", block.line}, {"block", block.name}};
     }
-    return {{text("circuit"), QJsonArray::fromStringList(circuit)},
-            {text("errors"), QJsonArray::fromStringList(errors)},
-            {text("warnings"), QJsonArray::fromStringList(warnings)},
-            {text("notKept"), lostLines},
-            {text("unclosed"), unclosedBlocks}};
+    return {{"file", path},
+            {"circuit", QJsonArray::fromStringList(circuit)},
+            {"errors", QJsonArray::fromStringList(errors)},
+            {"warnings", QJsonArray::fromStringList(warnings)},
+            {"notKept", lostLines},
+            {"unclosed", unclosedBlocks}};
 }
 
 void Findings::print(const QString& path) const {
@@ -88,14 +89,14 @@ void Findings::print(const QString& path) const {
 
 Findings lossIn(const LoadedProject& loaded, const QString& saved) {
     BlockNumbers numbers;
-    return lossIn(scanBlockText(loaded.text, numbers), loaded.invalidCharacters, scanBlockText(saved, numbers));
+    return lossIn(scanBlocks(loaded.text, numbers), loaded.invalidCharacters, scanBlocks(saved, numbers));
 }
 
 Findings lossIn(const LoadedGeometry& loaded, const QString& saved) {
     BlockNumbers numbers;
-    BlockText input = scanBlockText(loaded.text, numbers);
+    BlockScan input = scanBlocks(loaded.text, numbers);
     normalize(input.lines, numbers);
-    return lossIn(std::move(input), loaded.invalidCharacters, scanBlockText(saved, numbers));
+    return lossIn(std::move(input), loaded.invalidCharacters, scanBlocks(saved, numbers));
 }
 
 Findings examine(LoadedProject& loaded) {
@@ -104,7 +105,7 @@ Findings examine(LoadedProject& loaded) {
     QStringList errors, warnings;
     project.checkValidity(errors, warnings);
     Findings findings =
-        lossIn(loaded, project.getBoundaryConditions() ? savedText(project) : savedTextWithoutBoundaries(project));
+        lossIn(loaded, project.getBoundaryConditions() ? savedContent(project) : savedContentWithoutBoundaries(project));
     findings.circuit = circuit;
     findings.errors = errors;
     findings.warnings = warnings + findings.warnings;

@@ -24,17 +24,19 @@ void addUnusableSize(QStringList& errors, const Grid::Axis& axis, const QString&
     }
 }
 
-void addMissingMaterial(QStringList& errors, const MaterialMap& map, const char* kind, std::int32_t position,
-                        std::size_t count) {
-    if (position >= 0 && static_cast<std::size_t>(position) < count) return;
-    errors << text("The material map '%1' names %2 material %3, but there are %4, numbered from 0.")
-                  .arg(map.getName(), QLatin1String(kind))
-                  .arg(position)
-                  .arg(count);
+void addMissingMaterials(QStringList& errors, const MaterialMap& map, const char* kind, std::size_t count,
+                         std::initializer_list<std::int32_t> positions) {
+    for (const std::int32_t position : positions) {
+        if (position >= 0 && static_cast<std::size_t>(position) < count) continue;
+        errors << text("The material map '%1' names %2 material %3, but there are %4, numbered from 0.")
+                      .arg(map.getName(), QLatin1String(kind))
+                      .arg(position)
+                      .arg(count);
+    }
 }
 
-// A component sits on a cell edge: along its own direction it needs a cell, across it the far side of the last cell is
-// as good as any.
+// A component lies on a cell edge. Along its own direction it needs a cell; across this direction it may also lie on
+// the far side of the last cell.
 bool isWithin(const Grid& grid, const CircuitComponent& component) {
     const auto fits = [&component](unsigned index, std::uint32_t cells, auto axis) {
         return index < cells || (index == cells && component.getComponentDirection() != axis);
@@ -80,14 +82,16 @@ QStringList errorsIn(const LoadedGeometry& loaded) {
     const std::size_t electric = loaded.geometry.getElectricMaterials().size();
     const std::size_t magnetic = loaded.geometry.getMagneticMaterials().size();
     for (const MaterialMap* map : loaded.geometry.getMaterialMappings()) {
-        for (const auto position :
-             {map->getXElectricMaterial(), map->getYElectricMaterial(), map->getZElectricMaterial()}) {
-            addMissingMaterial(errors, *map, "electric", position, electric);
-        }
-        for (const auto position :
-             {map->getXMagneticMaterial(), map->getYMagneticMaterial(), map->getZMagneticMaterial()}) {
-            addMissingMaterial(errors, *map, "magnetic", position, magnetic);
-        }
+        addMissingMaterials(errors,
+                            *map,
+                            "electric",
+                            electric,
+                            {map->getXElectricMaterial(), map->getYElectricMaterial(), map->getZElectricMaterial()});
+        addMissingMaterials(errors,
+                            *map,
+                            "magnetic",
+                            magnetic,
+                            {map->getXMagneticMaterial(), map->getYMagneticMaterial(), map->getZMagneticMaterial()});
     }
     errors.removeDuplicates();
     return errors;

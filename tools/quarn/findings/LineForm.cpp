@@ -10,7 +10,7 @@ namespace quarn::tool {
 
 namespace {
 
-/// Takes the first word off the text; empty at its end.
+/// Removes the first word from the text and returns it; empty at the end of the text.
 QStringView takeWord(QStringView& text) {
     const auto isSpace = [](QChar c) { return c.isSpace(); };
     const auto start = std::find_if_not(text.begin(), text.end(), isSpace);
@@ -21,7 +21,7 @@ QStringView takeWord(QStringView& text) {
 
 bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
 
-/// Whether it is worth asking for a number; "nan" and "inf" are numbers.
+/// A quick test that rules out most words; "nan" and "inf" are numbers.
 bool mayBeNumber(QStringView word) {
     const QChar first = word.front();
     return isDigit(first) || first == u'-' || first == u'+' || first == u'.' || first == u'n' || first == u'N' ||
@@ -46,8 +46,8 @@ bool appendInteger(QString& form, QStringView word) {
     return ok;
 }
 
-/// Floats that are integers are saved as such and take that form. A finite number beyond the floats is none here: it
-/// does not survive.
+/// A float with an integral value takes the form of the integer, as it is saved. False for a finite number beyond the
+/// range of floats, since saving does not keep it.
 bool appendReal(QString& form, QStringView word) {
     bool ok = false;
     const double number = word.toString().toDouble(&ok);

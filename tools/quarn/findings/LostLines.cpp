@@ -12,7 +12,7 @@ namespace {
 
 using Lines = std::vector<BlockLine>;
 
-/// Saved lines that no input line accounts for yet, counted by their form.
+/// The saved lines that no input line has matched yet, counted by their form.
 class Unmatched {
 public:
     Unmatched(const Lines& lines, NumberForm form) : m_form(form), m_left(lines.size()) {
@@ -24,7 +24,7 @@ public:
 
     bool take(const BlockLine& line) { return take(formOf(line.block, line.text, m_form)); }
 
-    /// Takes the entries that the words of one line make up; all of them or none.
+    /// Matches each entry of a line with several entries; changes nothing when one entry has no match.
     bool takeEntries(const BlockLine& line) {
         const std::vector<QStringView> words = wordsOf(line.text);
         std::vector<QString> taken;
@@ -77,8 +77,8 @@ void removeIf(Lines& lines, Predicate predicate) {
     lines.erase(std::remove_if(lines.begin(), lines.end(), predicate), lines.end());
 }
 
-/// Removes from both the lines that they have in the same order within a block, nearly all of them as a rule. What was
-/// inserted or moved in one of them is left over.
+/// Removes the lines that both have in the same order within a block, usually nearly all of them. Inserted and moved
+/// lines remain.
 void removeLinesInOrder(Lines& input, Lines& saved) {
     constexpr auto form = NumberForm::ExactIntegers;
     QHash<int, std::vector<std::size_t>> savedLastFirst;
@@ -97,7 +97,7 @@ void removeLinesInOrder(Lines& input, Lines& saved) {
     removeIf(saved, [&](const BlockLine&) { return isMatched[i++]; });
 }
 
-/// Removes from both what they have in common.
+/// Removes the lines that both have, in any order.
 void removeEqualLines(Lines& input, Lines& saved, NumberForm form) {
     Unmatched unmatched(saved, form);
     removeIf(input, [&](const BlockLine& line) { return unmatched.take(line); });
@@ -116,7 +116,7 @@ public:
         for (const BlockLine& line : saved) m_lines[keyOf(line)].push_back(line.text.toString());
     }
 
-    /// The last line with the same key, which it takes away; null when there is none left. A mere value is no key.
+    /// Removes and returns the last line with the same key; null when there is none. A number is not a key.
     QString takeCounterpartOf(const BlockLine& line) {
         const auto found = m_lines.find(keyOf(line));
         if (found == m_lines.end() || found->empty() || isNumber(firstWordOf(line.text))) return {};
@@ -133,7 +133,7 @@ private:
 
 }  // namespace
 
-// Pairs lines with their counterparts from the end: of a key that is there several times the last counts.
+// Pairs lines from the end, since the last line counts where a key occurs several times.
 std::vector<LostLine> linesLost(const Lines& input, const Lines& saved) {
     Lines lost = input;
     Lines added = saved;

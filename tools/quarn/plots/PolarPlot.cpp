@@ -31,7 +31,7 @@ double outerCircle(const std::vector<PolarCurve>& curves) {
     return std::isfinite(largest) ? grid * std::ceil(largest / grid) : 0.0;
 }
 
-/// As gnuplot takes it within double quotes.
+/// The text in double quotes, in gnuplot's syntax.
 QString quoted(QString text) {
     text.replace(u'\\', QLatin1String("\\\\")).replace(u'"', QLatin1String("\\\"")).replace(u'\n', u' ');
     return u'"' + text + u'"';
@@ -58,7 +58,7 @@ QString scriptFor(const QString& title, const std::vector<PolarCurve>& curves) {
     script += text("plot ") + plots.join(", ") + u'\n';
     for (const PolarCurve& curve : curves) {
         for (std::size_t i = 0; i < curve.values.size(); ++i) {
-            const double value = curve.values[i] > inner ? curve.values[i] : inner;  // also for what is no number
+            const double value = curve.values[i] > inner ? curve.values[i] : inner;  // also for NaN
             script += text("%1 %2\n").arg(curve.angles[i]).arg(value);
         }
         script += QLatin1String("e\n");

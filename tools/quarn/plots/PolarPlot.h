@@ -7,7 +7,7 @@
 
 namespace quarn::tool {
 
-/// A closed curve around the zenith, which is at the top; angles in degrees grow clockwise, values are in dB.
+/// A closed curve. Angles are in degrees, clockwise from the zenith at the top; values are in dB.
 struct PolarCurve {
     QString title;
     std::vector<double> angles;
@@ -16,7 +16,7 @@ struct PolarCurve {
 
 enum class ImageFormat { Svg, Png };
 
-/// By the ending of the file's name; none for other endings.
+/// The format that the ending of the file name stands for.
 std::optional<ImageFormat> imageFormatOf(const QString& path);
 
 /// Whether gnuplot, which draws the plots, is installed and knows the format.

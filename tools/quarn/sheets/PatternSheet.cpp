@@ -62,7 +62,7 @@ void addGains(Sheet& sheet, const NSMACutPlane::Samples& samples) {
     sheet.addDetail("Smallest gain", gainText(*smallest));
 }
 
-/// The increment follows from both the number of samples and their range.
+/// The increment follows from the number of samples and their range; without one of them it is not shown.
 QString points(const PatternCut& cut) {
     const NSMACutPlane& plane = cut.plane;
     const QString number = QString::number(plane.GetNumberOfPoints());
@@ -99,7 +99,7 @@ void addCut(Sheet& sheet, std::size_t number, const PatternCut& cut) {
     if (cut.coincidingSamples > 0) {
         sheet.addDetail(
             "Left out",
-            counted(cut.coincidingSamples, "sample") + text(" behind one at the same angle with another gain"));
+            counted(cut.coincidingSamples, "sample") + text(" after one at the same angle with another gain"));
     }
 }
 

@@ -91,14 +91,13 @@ void addAmbient(Sheet& sheet, const AmbientConditions* ambient) {
 }
 
 QString activeFaces(const TFSFPlaneWave& wave) {
-    QStringList faces;
-    if (wave.getXLower()) faces << text("-x");
-    if (wave.getXUpper()) faces << text("+x");
-    if (wave.getYLower()) faces << text("-y");
-    if (wave.getYUpper()) faces << text("+y");
-    if (wave.getZLower()) faces << text("-z");
-    if (wave.getZUpper()) faces << text("+z");
-    return faces.empty() ? text("none") : faces.join(", ");
+    const QString faces = listText({{wave.getXLower(), "-x"},
+                                    {wave.getXUpper(), "+x"},
+                                    {wave.getYLower(), "-y"},
+                                    {wave.getYUpper(), "+y"},
+                                    {wave.getZLower(), "-z"},
+                                    {wave.getZUpper(), "+z"}});
+    return faces.isEmpty() ? "none" : faces;
 }
 
 void addSource(Sheet& sheet, const ProjectFile& project) {

@@ -25,15 +25,6 @@ QString timestepsText(int first, int last, int distance) {
     return text("timesteps %1 to %2 by %3").arg(first).arg(last).arg(distance);
 }
 
-/// The names whose flag is set.
-QString listText(std::initializer_list<std::pair<bool, const char*>> flags) {
-    QStringList names;
-    for (const auto& [isSet, name] : flags) {
-        if (isSet) names << text(name);
-    }
-    return names.join(", ");
-}
-
 QString joined(QStringList parts) {
     parts.removeAll(QString());
     return parts.join("; ");

@@ -120,29 +120,22 @@ void addComplex(ValueRange& range, const std::complex<float>& value) {
 }
 
 Sheet sheetOfFarZoneBox(const InputFile& file) {
-    using File = FieldsOnSteadyStateFarZoneBoxFile;
-    constexpr std::size_t piece = 1 << 12;
     DataFileReader reader;
     openFarZoneBox(reader, file);
     ValueRange electric;
     ValueRange magnetic;
     std::size_t records = 0;
-    std::vector<File::Record> read;
-    for (bool more = true; more; records += read.size()) {
-        more = File::readRecords(reader, piece, read);
-        for (const File::Record& record : read) {
-            addComplex(electric, record.e1);
-            addComplex(electric, record.e2);
-            addComplex(magnetic, record.h1);
-            addComplex(magnetic, record.h2);
-        }
-    }
+    const std::size_t incompleteBytes =
+        forEachRecord<FieldsOnSteadyStateFarZoneBoxFile>(reader, [&](const auto& record) {
+            for (const auto& value : {record.e1, record.e2}) addComplex(electric, value);
+            for (const auto& value : {record.h1, record.h2}) addComplex(magnetic, value);
+            ++records;
+        });
     Sheet sheet(text("%1: fields on the far-zone box, version 0").arg(file.name()));
     sheet.add("Records", QString::number(records));
-    sheet.addDetail("E", electric.text(text("V/m")));
-    sheet.addDetail("H", magnetic.text(text("A/m")));
-    constexpr std::int64_t headerSize = 16;
-    addIncompleteRecord(sheet, static_cast<std::size_t>(sizeOf(file) - headerSize) % File::recordSize);
+    sheet.addDetail("E", electric.text("V/m"));
+    sheet.addDetail("H", magnetic.text("A/m"));
+    addIncompleteRecord(sheet, incompleteBytes);
     return sheet;
 }
 

@@ -8,7 +8,7 @@
 
 namespace quarn::tool {
 
-/// A title and below it labels and values in two aligned columns, details indented below what they belong to.
+/// A title, and below it labels and values in two aligned columns; details are indented.
 class Sheet {
 public:
     explicit Sheet(const QString& title) : m_title(title) {}
@@ -17,8 +17,8 @@ public:
     void addDetail(const QString& label, const QString& value) { add("  " + label, value); }
     void print() const;
 
-    /// Calls `add` with position and object for the first entries of a list of objects or of pointers to them, and adds
-    /// how many there are beyond them.
+    /// Calls `add` with position and object for the first entries of a list of objects or pointers, and adds the number
+    /// of the others.
     template <class List, class Add>
     void addFirst(const List& list, Add add) {
         constexpr std::size_t longestList = 20;

@@ -1,4 +1,4 @@
-#include "findings/BlockText.h"
+#include "findings/BlockScan.h"
 
 #include <algorithm>
 
@@ -49,9 +49,9 @@ public:
         m_result.lines.push_back({number, current(), line});
     }
 
-    void passOver(int number, QStringView line) { m_result.lines.push_back({number, BlockLine::nowhere, line}); }
+    void addUnscanned(int number, QStringView line) { m_result.lines.push_back({number, BlockLine::nowhere, line}); }
 
-    BlockText finish() {
+    BlockScan finish() {
         while (!m_open.empty()) leaveUnclosed();
         const auto byLine = [](const UnclosedBlock& a, const UnclosedBlock& b) { return a.line < b.line; };
         std::sort(m_result.unclosed.begin(), m_result.unclosed.end(), byLine);
@@ -84,7 +84,7 @@ private:
     BlockNumbers& m_numbers;
     std::vector<OpenBlock> m_open;
     QHash<QString, int> m_openByName;
-    BlockText m_result;
+    BlockScan m_result;
 };
 
 }  // namespace
@@ -102,7 +102,7 @@ bool isGeometryVersionLine(QStringView line) {
     return line.toString().remove(u' ').contains(QLatin1String("geometryfileversion"), Qt::CaseInsensitive);
 }
 
-BlockText scanBlockText(const QString& text, BlockNumbers& numbers) {
+BlockScan scanBlocks(const QString& text, BlockNumbers& numbers) {
     Scanner scanner(numbers);
     const QStringView all(text);
     int number = 0;
@@ -116,7 +116,7 @@ BlockText scanBlockText(const QString& text, BlockNumbers& numbers) {
         if (number > 1) {
             scanner.scan(number, line);
         } else if (!isVersionLine(line)) {
-            scanner.passOver(number, line);
+            scanner.addUnscanned(number, line);
         }
     }
     return scanner.finish();
