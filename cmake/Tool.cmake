@@ -11,10 +11,6 @@ add_executable(quarn_tool ${sources})
 target_include_directories(quarn_tool PRIVATE ${tool_folder})
 target_link_libraries(quarn_tool PRIVATE quarn_reference quarn::quarn CLI11::CLI11)
 
-# DipoleDemo.cpp names the headers of these folders alone.
-target_include_directories(quarn_tool PRIVATE ${tool_folder}/files ${tool_folder}/findings ${tool_folder}/plots
-    ${tool_folder}/sheets)
-
 file(RELATIVE_PATH bin_to_lib ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
 set_target_properties(quarn_tool PROPERTIES
     OUTPUT_NAME quarn

@@ -27,6 +27,7 @@
 #include "quarn/FieldsOnSSFarZoneBox.h"
 #include "quarn/FileHeader.h"
 #include "quarn/FileReplacement.h"
+#include "quarn/FormatReference.h"
 #include "quarn/GeometryFile.h"
 #include "quarn/Grid.h"
 #include "quarn/GridIndexBoxes.h"

@@ -89,7 +89,8 @@ int runTool(const QStringList& arguments) {
         "Exit status: 0 all fine, 1 findings, 2 unusable input or wrong usage.");
     quarn.formatter(std::make_shared<HelpFormatter>());
     quarn.require_subcommand(1);
-    for (const auto add : {addCheck, addShow, addRewrite, addExport, addSar, addFarZone, addDemo}) add(quarn, status);
+    for (const auto add : {addCheck, addShow, addRewrite, addExport, addSar, addFarZone, addFormat, addDemo})
+        add(quarn, status);
 
     const auto command = [&quarn]() -> const CLI::App& {
         return quarn.get_subcommands().empty() ? quarn : *quarn.get_subcommands().front();
@@ -117,8 +118,12 @@ CLI::App& addCommand(CLI::App& quarn, const char* name, const char* summary, con
     return command;
 }
 
-void addArgument(CLI::App& command, const char* name, QString& value, const char* help) {
+void addOptionalArgument(CLI::App& command, const char* name, QString& value, const char* help) {
     addOption(command, name, "", value, help);
+}
+
+void addArgument(CLI::App& command, const char* name, QString& value, const char* help) {
+    addOptionalArgument(command, name, value, help);
     command.get_option(name)->required();
 }
 

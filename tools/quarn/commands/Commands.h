@@ -17,6 +17,7 @@ void addRewrite(CLI::App& quarn, int& status);
 void addExport(CLI::App& quarn, int& status);
 void addSar(CLI::App& quarn, int& status);
 void addFarZone(CLI::App& quarn, int& status);
+void addFormat(CLI::App& quarn, int& status);
 void addDemo(CLI::App& quarn, int& status);
 
 /// Adds a subcommand with its line in the list of subcommands and the text of its own help.
@@ -24,6 +25,9 @@ CLI::App& addCommand(CLI::App& quarn, const char* name, const char* summary, con
 
 /// Adds one required positional argument.
 void addArgument(CLI::App& command, const char* name, QString& value, const char* help);
+
+/// Adds one positional argument that may be left out; the value then stays null.
+void addOptionalArgument(CLI::App& command, const char* name, QString& value, const char* help);
 
 /// Adds a positional argument that is given once or more; it must be the last one.
 void addArguments(CLI::App& command, const char* name, QStringList& values, const char* help);

@@ -1,8 +1,8 @@
 #include <QDir>
 
 #include "Console.h"
-#include "DipoleDemo.h"
 #include "commands/Commands.h"
+#include "commands/DipoleDemo.h"
 #include "files/InputFile.h"
 #include "files/OutputFile.h"
 #include "files/ProjectOnDisk.h"

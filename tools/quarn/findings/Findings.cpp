@@ -104,8 +104,8 @@ Findings examine(LoadedProject& loaded) {
     const QStringList circuit = circuitLines(project);
     QStringList errors, warnings;
     project.checkValidity(errors, warnings);
-    Findings findings =
-        lossIn(loaded, project.getBoundaryConditions() ? savedContent(project) : savedContentWithoutBoundaries(project));
+    Findings findings = lossIn(
+        loaded, project.getBoundaryConditions() ? savedContent(project) : savedContentWithoutBoundaries(project));
     findings.circuit = circuit;
     findings.errors = errors;
     findings.warnings = warnings + findings.warnings;

@@ -23,7 +23,7 @@ QString axisText(const Grid::Axis& axis) {
     }
     const double end = axis.upperBound() + static_cast<double>(axis.electricDelta(axis.cells() - 1));
     const QString sizes = smallest == largest ? withPrefix(smallest, "m") : rangeText(smallest, largest, "m");
-    return text("%1, cells of %2").arg(rangeText((grid.*axis.getOrigin)(), end, "m"), sizes);
+    return text("%1, cells of %2").arg(rangeText(axis.origin(), end, "m"), sizes);
 }
 
 void addGrid(Sheet& sheet, const Grid& grid) {

@@ -1,21 +1,21 @@
-#include "DipoleDemo.h"
+#include "commands/DipoleDemo.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "Console.h"
 #include "FarZonePattern.h"
-#include "Findings.h"
-#include "GeometryOnDisk.h"
-#include "InputFile.h"
-#include "OutputFile.h"
-#include "PolarPlot.h"
-#include "ProjectOnDisk.h"
 #include "Quantity.h"
-#include "Sheet.h"
-#include "Subcommands.h"
+#include "commands/Commands.h"
+#include "files/GeometryOnDisk.h"
+#include "files/InputFile.h"
+#include "files/OutputFile.h"
+#include "files/ProjectOnDisk.h"
+#include "findings/Findings.h"
+#include "plots/PolarPlot.h"
 #include "quarn/quarn.h"
 #include "reference/ExactFields.h"
+#include "sheets/Sheet.h"
 
 namespace quarn::tool {
 
@@ -39,12 +39,12 @@ Grid cubicGrid() {
 // The cells of the wire take the second map, as its current flows along z.
 v6GeometryFile wireInFreeSpace() {
     v6GeometryFile geometry;
-    geometry.setElectricMaterials({new ElectricFreeSpace(QStringLiteral("ElectricFreeSpace")),
-                                   new ElectricPerfectConductor(QStringLiteral("ElectricPerfectConductor"))});
-    geometry.setMagneticMaterials({new MagneticFreeSpace(QStringLiteral("MagneticFreeSpace")),
-                                   new MagneticPerfectConductor(QStringLiteral("MagneticPerfectConductor"))});
-    geometry.setMaterialMappings({new MaterialMap(QStringLiteral("Free space"), 0, 0, 0, 0, 0, 0),
-                                  new MaterialMap(QStringLiteral("Wire"), 0, 0, 1, 0, 0, 0)});
+    geometry.setElectricMaterials({new ElectricFreeSpace(text("ElectricFreeSpace")),
+                                   new ElectricPerfectConductor(text("ElectricPerfectConductor"))});
+    geometry.setMagneticMaterials({new MagneticFreeSpace(text("MagneticFreeSpace")),
+                                   new MagneticPerfectConductor(text("MagneticPerfectConductor"))});
+    geometry.setMaterialMappings({new MaterialMap(text("Free space"), 0, 0, 0, 0, 0, 0),
+                                  new MaterialMap(text("Wire"), 0, 0, 1, 0, 0, 0)});
     return geometry;
 }
 
@@ -62,10 +62,10 @@ bool showGeometry(const QString& path) {
     const LoadedGeometry loaded(path, readFile(path));
     const bool identical = savedBytes(loaded) == saved;
     const Findings findings = examine(loaded);
-    Sheet sheet(QStringLiteral("Its grid and its materials"));
-    sheet.add(QStringLiteral("File"), path);
-    sheet.add(QStringLiteral("Check"), findings.summary());
-    sheet.add(QStringLiteral("Read back"), QLatin1String(identical ? "identical" : "different"));
+    Sheet sheet(text("Its grid and its materials"));
+    sheet.add(text("File"), path);
+    sheet.add(text("Check"), findings.summary());
+    sheet.add(text("Read back"), QLatin1String(identical ? "identical" : "different"));
     sheet.print();
     out() << '\n';
     return identical && findings.none();
@@ -97,13 +97,13 @@ bool showDeviation(const QString& boxPath, const Grid& grid, const FarZoneBox& b
     FarZoneRecords records;
     PostProcessSSFarZoneFields(&fields, frequency, 0, 0).computeFields(sphereOf(sphereStep), records);
     const double found = deviation(records, source, box);
-    Sheet sheet(QStringLiteral("Against the closed form"));
-    sheet.add(QStringLiteral("Deviation"),
-              QStringLiteral("%1 % of the peak (%2 dB), the largest of %3")
+    Sheet sheet(text("Against the closed form"));
+    sheet.add(text("Deviation"),
+              text("%1 % of the peak (%2 dB), the largest of %3")
                   .arg(numberText(100.0 * found),
                        QString::number(20.0 * std::log10(found), 'f', 1),
-                       counted(records.size(), QStringLiteral("direction"))));
-    sheet.add(QStringLiteral("Half-wave dipole"), QStringLiteral("2.15 dBi, 36.6 W for 1 A"));
+                       counted(records.size(), text("direction"))));
+    sheet.add(text("Half-wave dipole"), text("2.15 dBi, 36.6 W for 1 A"));
     sheet.print();
     return found < tolerance;
 }
@@ -114,9 +114,9 @@ void describeDipole(ProjectFile& project) {
     constexpr auto open = BoundaryConditions::CPML;
     constexpr float peakAmplitude = 1;
     constexpr float resistance = 73;
-    project.setDisplayUnits({QStringLiteral("mm"), 1e-3});
+    project.setDisplayUnits({text("mm"), 1e-3});
     project.setBoundaryConditions(new BoundaryConditions(open, open, open, open, open, open, 8));
-    const CircuitComponent place(QStringLiteral("Feed"), middleCell, middleCell, middleCell, CircuitComponent::Z, true);
+    const CircuitComponent place(text("Feed"), middleCell, middleCell, middleCell, CircuitComponent::Z, true);
     auto* feed = new Feed(place,
                           CircuitComponent::SeriesVoltage,
                           0,
@@ -131,16 +131,16 @@ void describeDipole(ProjectFile& project) {
     project.setComponentManager(new ComponentManager({feed}, false, -1));
     project.getWaveforms().push_back(new Waveform(Waveform::Sinusoid, 0, frequency, {}, {}));
     project.setTerminationCriteria(new TerminationCriteria(1000, 20000, 0));
-    project.getSteadyStateFrequencies().push_back({frequency, QStringLiteral("1GHz")});
+    project.getSteadyStateFrequencies().push_back({frequency, text("1GHz")});
     FarZoneAngles directions = polarCut(0.0);
     const FarZoneAngles crossing = polarCut(90.0);
     directions.insert(directions.end(), crossing.begin(), crossing.end());
-    project.getSteadyStateFarZoneRequests().emplace_back(directions, QStringLiteral("dipole.fz"));
+    project.getSteadyStateFarZoneRequests().emplace_back(directions, text("dipole.fz"));
 }
 
 bool showDipole(const QString& projectPath, const QDir& folder) {
-    const QString geometryPath = folder.filePath(QStringLiteral("dipole.geometry"));
-    const QString boxPath = folder.filePath(QStringLiteral("dipole-1GHz.box"));
+    const QString geometryPath = folder.filePath(text("dipole.geometry"));
+    const QString boxPath = folder.filePath(text("dipole-1GHz.box"));
     if (!showGeometry(geometryPath)) return false;
 
     const LoadedGeometry geometry(geometryPath, readFile(geometryPath));
@@ -151,13 +151,13 @@ bool showDipole(const QString& projectPath, const QDir& folder) {
         return reference::writeBoxFields(path, geometry.grid, box, dipole, static_cast<double>(frequency));
     });
 
-    QStringList arguments{QStringLiteral("--out"), folder.path()};
+    QStringList arguments{text("farzone"), text("--out"), folder.path()};
     if (canPlot(ImageFormat::Svg)) {
-        arguments << QStringLiteral("--plot") << folder.filePath(QStringLiteral("dipole.svg"));
+        arguments << text("--plot") << folder.filePath(text("dipole.svg"));
     } else {
-        complain(QStringLiteral("no plot is made: gnuplot is not installed"));
+        printError(text("no plot is made: gnuplot is not installed"));
     }
-    if (runFarZone(arguments << projectPath << geometryPath << boxPath) != ExitFine) return false;
+    if (runTool(arguments << projectPath << geometryPath << boxPath) != ExitFine) return false;
     out() << '\n';
     return showDeviation(boxPath, geometry.grid, box, dipole);
 }
