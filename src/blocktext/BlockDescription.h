@@ -69,7 +69,8 @@ struct OnlyFor {
     QString text(const std::tuple<Lines...>& lines) const {
         QString text = QStringLiteral("with");
         const auto addFrom = [&](const auto& line) {
-            if constexpr (std::decay_t<decltype(line.shape)>::template canBeCondition<Access>) {
+            using Shape = std::decay_t<decltype(line.shape)>;
+            if constexpr (Shape::canBeCondition && std::is_base_of_v<MemberShape<Access>, Shape>) {
                 const auto condition = [&](const auto&... each) { return line.shape.conditionText(each...); };
                 if (line.shape.isFor(access)) text += u' ' + std::apply(condition, values);
             }

@@ -30,8 +30,7 @@ struct LineShape {
         return Offer::Unknown;
     }
     static QString usuallyWritten() { return QStringLiteral("always"); }
-    template <class>
-    static constexpr bool canBeCondition = false;  ///< whether other lines can depend on the member
+    static constexpr bool canBeCondition = false;  ///< whether conditionText(values) says what the line must tell
 };
 
 /// A shape with a member behind it.
@@ -87,8 +86,7 @@ struct ValueLine : MemberShape<Access> {
         line.defaultValue = form.defaultText(valueIn(blank, this->access));
         builder.add(line);
     }
-    template <class Other>
-    static constexpr bool canBeCondition = std::is_same_v<Access, Other>;
+    static constexpr bool canBeCondition = true;
     template <class... Values>
     QString conditionText(const Values&... values) const {
         QStringList texts;
@@ -122,8 +120,7 @@ struct FlagLine : MemberShape<Access> {
         builder.add(line);
     }
     static QString usuallyWritten() { return QStringLiteral("where set"); }
-    template <class Other>
-    static constexpr bool canBeCondition = std::is_same_v<Access, Other>;
+    static constexpr bool canBeCondition = true;
     template <class... Values>
     QString conditionText(const Values&...) const {
         return key;

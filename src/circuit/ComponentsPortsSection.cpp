@@ -113,7 +113,8 @@ struct blocktext::Description<CircuitComponent> {
             value("CellEdgeDirection", ofBase(&C::m_componentDirection), numberFrom(directions, C::UndefinedDirection)),
             flag("IsPort", ofBase(&C::m_isPort)),
             text("FileName", ofBase(&C::m_outputFilename)),
-            value("Source", &K::source).where([](const K& kind) { return kind.source >= 0; }, "unless lumped"),
+            value("Source", &K::source)
+                .where([](const K& kind) { return kind.source >= 0; }, "except for lumped components"),
             polarity.onlyFor(&K::source, K::voltageFeed, K::currentFeed, K::programmableSwitch, K::diode),
             value("Resistance", &K::resistance)
                 .onlyFor(&K::source, K::passiveLoad, K::voltageFeed, K::currentFeed, K::nonlinearCapacitor)
