@@ -14,11 +14,12 @@ namespace {
 
 using P = v6ProjectFile;
 
-/// A section as a row of a table.
+/// A section as a row of a table, and when it is written, in words.
 struct SectionRow : LineShape {
     const Section* section;
+    const char* written;
 
-    explicit constexpr SectionRow(const Section& s) : section(&s) {}
+    constexpr SectionRow(const Section& s, const char* w) : section(&s), written(w) {}
 
     void write(DelimManager& delim, const P& project) const { section->write(delim, project); }
     Offer readBlock(const QString& name, const QString&, DelimManager& delim, P& project) const {
@@ -29,9 +30,10 @@ struct SectionRow : LineShape {
         builder.addBlock(section->name, line.written);
         if (section->describe) section->describe(builder);
     }
-    static QString usuallyWritten() { return QStringLiteral("where the project has it"); }
+    QString usuallyWritten() const { return QString::fromLatin1(written); }
 };
-constexpr auto row(const Section& section) { return lineOf(SectionRow(section)); }
+constexpr auto row(const Section& section) { return lineOf(SectionRow(section, "where the project has it")); }
+constexpr auto rowOfAll(const Section& section) { return lineOf(SectionRow(section, "always")); }
 
 // The timestep goes before the Courant factor.
 constexpr auto runParameters = [] {
@@ -50,7 +52,7 @@ constexpr auto runParameters = [] {
         "RunParameters",
         Unknown::DropLine,
         Unreadable::KeepsValue,
-        row(boundaryConditionsSection),
+        rowOfAll(boundaryConditionsSection),
         row(ambientConditionsSection),
         row(componentsPortsSection),
         row(waveGuidePortsSection),
@@ -131,8 +133,9 @@ const Section requestResultsSection{requestResults.name,
                                     StreamInRequestResults,
                                     [](FormatBuilder& builder) { requestResults.describeTo(builder, OwnedProject()); }};
 
-constexpr auto fdtdProject = describe<P>("FDTDProject", Unknown::DropLine, Unreadable::KeepsValue, row(unitsSection),
-                                         row(runParametersSection), row(requestResultsSection));
+constexpr auto fdtdProject =
+    describe<P>("FDTDProject", Unknown::DropLine, Unreadable::KeepsValue, rowOfAll(unitsSection),
+                rowOfAll(runParametersSection), rowOfAll(requestResultsSection));
 constexpr auto femProject = fdtdProject.named("FEMProject");
 
 }  // namespace
