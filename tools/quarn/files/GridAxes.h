@@ -6,7 +6,7 @@
 
 namespace quarn::tool {
 
-/// What the three axes of a grid have in common, so that one piece of code serves all.
+/// The functions of a grid for one axis, so that the same code serves all three.
 struct GridAxis {
     const char* name;
     std::uint32_t (Grid::*getNumberOfCells)() const;

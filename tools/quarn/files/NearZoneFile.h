@@ -30,7 +30,7 @@ public:
 
     const NearZoneMultiFieldPointResult::Header& header() const { return m_result.getHeader(); }
 
-    /// Those that the records hold, in their order.
+    /// The groups in the records, in their order.
     const std::vector<NearZoneGroup>& groups() const { return m_groups; }
 
     bool next(Record& record) { return m_result.readRecord(m_file.get(), record); }

@@ -8,7 +8,7 @@
 
 namespace quarn::tool {
 
-/// A project that owns what it points to, whether a load created it or somebody handed it over.
+/// A project that owns the objects that it points to.
 class OwnedProject : public v6ProjectFile {
 public:
     OwnedProject() = default;
