@@ -13,14 +13,13 @@
 ///
 /// A section names what it knows and leaves the rest to the walk:
 ///
-///     walkBlock(delim, Unknown::DropLine,
-///               onBlock(key::Periodic, [&] { return readPeriodic(delim, periodic); }),
-///               onValue(key::LowerX, lowerX),
-///               onFlag(key::UseScanAngle, useScanAngle));
+///     walkBlock(delim, Unknown::DropWord,
+///               onBlock(gaussian.name, [&] { return gaussian.read(delim, waveforms.emplace_back()); }),
+///               onFlag("UseDFT"_key, useDFT));
 ///
 /// The calls expand to one chain of comparisons; nothing is allocated for a line. The walk ends at the close line of
 /// the block (or at any event that ends DelimManager::ContinueReading, a number that could not be read among them), and
-/// early where a handler returns false. Handlers that return nothing go on.
+/// early where a handler returns false. Handlers that return nothing continue it.
 namespace quarn::blocktext {
 
 /// What becomes of a word that no handler knows: it is dropped with the rest of its line, dropped by itself, so that
@@ -58,71 +57,9 @@ OnWord<Read> onWord(QLatin1String word, Read read) {
     return {word, read};
 }
 
-/// Reads the number or word behind `word`.
-template <class T>
-auto onValue(QLatin1String word, T& value) {
-    return onWord(word, [&value](QTextStream& in) { readValue(in, value); });
-}
-
-/// Reads all of `values`, until one cannot be read.
-template <class... Values>
-bool readAll(QTextStream& in, Values&... values) {
-    return (readValue(in, values) && ...);
-}
-
-/// Reads a count and calls `read` that many times, or until it returns false. No memory is taken on the word of the
-/// count. There is nothing to read where the count is missing or below 1.
-template <class Read>
-void readCounted(QTextStream& in, Read read) {
-    int count = -1;
-    readValue(in, count);
-    for (int i = 0; i < count && read(in); ++i) continue;
-}
-
-/// Reads the rest of the line behind `word`, cleaned and trimmed.
-inline auto onText(QLatin1String word, QString& text) {
-    return onWord(word, [&text](QTextStream& in) { text = readRestOfLine(in); });
-}
-
-/// Reads a number, or the rest of the line as text, into what a setter of `object` takes.
-template <class Object, class Owner, class T>
-auto onSetting(QLatin1String word, Object& object, void (Owner::*set)(T)) {
-    return onWord(word, [&object, set](QTextStream& in) {
-        std::decay_t<T> value{};
-        if constexpr (std::is_same_v<std::decay_t<T>, QString>) {
-            (object.*set)(readRestOfLine(in));
-        } else if (readValue(in, value)) {
-            (object.*set)(value);
-        }
-    });
-}
-
+/// Sets the flag where the word stands.
 inline auto onFlag(QLatin1String word, bool& flag) {
     return onWord(word, [&flag] { flag = true; });
-}
-
-/// Sets `value` to what `word` stands for.
-template <class T, class Choice>
-auto onChoice(QLatin1String word, T& value, Choice choice) {
-    return onWord(word, [&value, choice] { value = static_cast<T>(choice); });
-}
-
-/// Reads the name behind `word` as a value of the table; a name that the table does not have gives `otherwise`, or
-/// where that is left out keeps `value`.
-template <class Value, std::size_t count>
-auto onName(QLatin1String word, const NameTable<Value, count>& table, Value& value, Value otherwise) {
-    return onWord(word, [&table, &value, otherwise](QTextStream& in) {
-        QString buffer;
-        const QStringView name = readWord(in, buffer);
-        if (!name.isEmpty()) value = valueOf(table, name, otherwise);
-    });
-}
-template <class Value, std::size_t count>
-auto onName(QLatin1String word, const NameTable<Value, count>& table, Value& value) {
-    return onWord(word, [&table, &value](QTextStream& in) {
-        QString buffer;
-        value = valueOf(table, readWord(in, buffer), value);
-    });
 }
 
 /// Takes each line whole that opens no block, instead of its words.

@@ -30,21 +30,4 @@ private:
     bool m_isOpen;
 };
 
-/// Writes a line that holds `key` alone.
-inline void putLine(DelimManager& delim, QLatin1String key) { delim.GetStream() << key << '\n'; }
-
-/// Writes a line that holds `key` alone where the flag is set.
-inline void putFlag(DelimManager& delim, QLatin1String key, bool isSet) {
-    if (isSet) putLine(delim, key);
-}
-
-/// Writes the line of a key and its values, which blanks separate.
-template <class... Values>
-void putLine(DelimManager& delim, QLatin1String key, const Values&... values) {
-    QTextStream& out = delim.GetStream();
-    out << key;
-    ((out << ' ' << values), ...);
-    out << '\n';
-}
-
 }  // namespace quarn::blocktext

@@ -18,7 +18,8 @@ public:
     /// Tabulates the window.
     Window();
 
-    /// Of the samples around a point that lies `fraction` of a spacing, 0 to 1, behind the sample taps / 2 - 1.
+    /// The weights of the samples around a point that lies `fraction` of a spacing, 0 to 1, behind the sample taps / 2
+    /// - 1.
     Weights weights(double fraction) const;
 
     /// The integral of the window times exp(j angle t): what interpolation multiplies exp(j angle m) at samples m with.
