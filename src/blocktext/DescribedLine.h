@@ -40,6 +40,12 @@ struct Where {
     }
 };
 
+/// Whether a shape has conditionText(values), which says what its line must tell.
+template <class Shape, class = void>
+struct TellsCondition : std::false_type {};
+template <class Shape>
+struct TellsCondition<Shape, std::void_t<decltype(std::declval<const Shape&>().conditionText(0))>> : std::true_type {};
+
 /// Where a member, of which another line of the block tells, has one of the values.
 template <class Access, class... Values>
 struct OnlyFor {
@@ -56,7 +62,7 @@ struct OnlyFor {
         QString text = QStringLiteral("with");
         const auto addFrom = [&](const auto& line) {
             using Shape = std::decay_t<decltype(line.shape)>;
-            if constexpr (Shape::canBeCondition && std::is_base_of_v<MemberShape<Access>, Shape>) {
+            if constexpr (TellsCondition<Shape>::value && std::is_base_of_v<MemberShape<Access>, Shape>) {
                 const auto condition = [&](const auto&... each) { return line.shape.conditionText(each...); };
                 if (line.shape.isFor(access)) text += u' ' + std::apply(condition, values);
             }

@@ -30,7 +30,6 @@ struct LineShape {
         return Offer::Unknown;
     }
     static QString usuallyWritten() { return QStringLiteral("always"); }
-    static constexpr bool canBeCondition = false;  ///< whether conditionText(values) says what the line must tell
 };
 
 /// A shape with a member behind it.
@@ -86,7 +85,6 @@ struct ValueLine : MemberShape<Access> {
         line.defaultValue = form.defaultText(valueIn(blank, this->access));
         builder.add(line);
     }
-    static constexpr bool canBeCondition = true;
     template <class... Values>
     QString conditionText(const Values&... values) const {
         QStringList texts;
@@ -120,7 +118,6 @@ struct FlagLine : MemberShape<Access> {
         builder.add(line);
     }
     static QString usuallyWritten() { return QStringLiteral("where set"); }
-    static constexpr bool canBeCondition = true;
     template <class... Values>
     QString conditionText(const Values&...) const {
         return key;
