@@ -156,7 +156,7 @@ const Section terminationCriteriaSection{terminationCriteria.name,
 
 const Section v6ConvergenceSection{
     v6Convergence.name, Unreadable::Fails, nullptr, StreamInV6Convergence, [](FormatBuilder& builder) {
-        v6Convergence.describeTo(builder, {0, 0});
+        v6Convergence.describeTo(builder, {false, 0});
     }};
 
 TerminationCriteria::TerminationCriteria(std::uint32_t minimumTimesteps, std::uint32_t maximumTimesteps,
