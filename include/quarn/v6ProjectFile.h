@@ -22,8 +22,8 @@ namespace quarn {
 ///
 /// Loading: fills this object's members with new objects, which the caller owns from then on: OwnedProject deletes
 /// them, and so does deleteContents(). Objects that were there before are replaced and not deleted; waveforms,
-/// steady-state frequencies and requests are added to those that are there. Unknown blocks and keys are skipped. A value
-/// that a damaged file lacks keeps its former value or takes its default; only an unsupported version is refused.
+/// steady-state frequencies and requests are added to those that are there. Unknown blocks and keys are skipped. A
+/// value that a damaged file lacks keeps its former value or takes its default; only an unsupported version is refused.
 class QUARN_EXPORT v6ProjectFile : public ProjectFile {
 public:
     v6ProjectFile();

@@ -43,8 +43,8 @@ v6GeometryFile wireInFreeSpace() {
                                    new ElectricPerfectConductor(text("ElectricPerfectConductor"))});
     geometry.setMagneticMaterials({new MagneticFreeSpace(text("MagneticFreeSpace")),
                                    new MagneticPerfectConductor(text("MagneticPerfectConductor"))});
-    geometry.setMaterialMappings({new MaterialMap(text("Free space"), 0, 0, 0, 0, 0, 0),
-                                  new MaterialMap(text("Wire"), 0, 0, 1, 0, 0, 0)});
+    geometry.setMaterialMappings(
+        {new MaterialMap(text("Free space"), 0, 0, 0, 0, 0, 0), new MaterialMap(text("Wire"), 0, 0, 1, 0, 0, 0)});
     return geometry;
 }
 

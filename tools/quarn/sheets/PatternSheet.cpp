@@ -39,7 +39,7 @@ QString polarizations(const NSMACutPlane& plane) {
         {NSMACutPlane::RCP, "RCP"},
         {NSMACutPlane::NoPolarization, "not given"},
     };
-    const QString first = nameOf(plane.GetFirstPolarization(), names);
+    QString first = nameOf(plane.GetFirstPolarization(), names);
     if (plane.GetFirstPolarization() == NSMACutPlane::NoPolarization) return first;
     return first + u'/' + nameOf(plane.GetSecondPolarization(), names);
 }
