@@ -207,7 +207,7 @@ struct BareBlock {
         }
         return block.end();
     }
-    /// Of several values in the place of one the last counts. False when a value cannot be read.
+    /// Where one value is expected, the last one in the block counts. False when a value cannot be read.
     bool read(DelimManager& delim, Content& content) const {
         bool isRead = true;
         walkList(delim, [&](QTextStream& in) {

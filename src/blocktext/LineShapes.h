@@ -85,6 +85,7 @@ struct ValueLine : MemberShape<Access> {
         line.defaultValue = form.defaultText(valueIn(blank, this->access));
         builder.add(line);
     }
+    QString usuallyWritten() const { return form.usuallyWritten(); }
     template <class... Values>
     QString conditionText(const Values&... values) const {
         QStringList texts;

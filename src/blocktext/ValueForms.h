@@ -38,6 +38,7 @@ struct Form {
         }
     }
     static QStringList names() { return {}; }
+    static QString usuallyWritten() { return QStringLiteral("always"); }
 };
 
 /// A number or a word.
@@ -223,6 +224,9 @@ struct NameFrom : Form {
         return true;
     }
     QString defaultText(Value value) const { return nameIn(value); }
+    QString usuallyWritten() const {
+        return otherwise.isEmpty() ? QStringLiteral("where the value has a name") : Form::usuallyWritten();
+    }
     QStringList names() const {
         QStringList all;
         for (const auto& entry : *table) all << entry.name;
@@ -288,6 +292,9 @@ struct NumberFrom : Form {
         return true;
     }
     QString defaultText(Value value) const { return isWritable(value) ? QString::number(*numberOf(value)) : QString(); }
+    QString usuallyWritten() const {
+        return isWritable(unknown) ? Form::usuallyWritten() : QStringLiteral("where the value has a number");
+    }
     template <class>
     QString kind() const {
         QStringList numbers;
